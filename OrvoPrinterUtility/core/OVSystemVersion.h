@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QString>
+
+// The system version as macOS keeps it: "ProductVersion" of a property list.
+// Linux has no such file, so the version reads as 0.0.0; tests point the path
+// at a file of their own to reach the other branches.
+class OVSystemVersion {
+public:
+    static constexpr const char *defaultPlistPath =
+        "/System/Library/CoreServices/SystemVersion.plist";
+
+    static QString plistPath();
+    // A null path restores the default.
+    static void setPlistPath(const QString &path);
+    // The "ProductVersion" string, or "" when the file or key is missing.
+    static QString productVersion();
+    // major, middle and minor components; missing ones are 0.
+    static void components(int &major, int &middle, int &minor);
+};
