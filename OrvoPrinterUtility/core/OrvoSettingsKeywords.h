@@ -1,0 +1,72 @@
+#pragma once
+
+// The PPD main keywords under which the utility keeps its settings, with the
+// shape each value has. Written once here and used by the settings reader, the
+// update job and the driver filter (which accepts nothing outside this table),
+// so the three can never disagree. Plain C++ so the filter needs no Qt.
+
+namespace OrvoSettingsKeywords {
+
+enum class Encoding {
+    JobMarker, // job option only, never stored
+    Flag,      // "1" or "0"
+    Decimal,   // a decimal index
+    Base64,    // base64 of UTF-8 text, one attribute
+    MultiPart, // base64 of UTF-8 text over six "_Part%d" attributes
+};
+
+struct Keyword {
+    const char *name;
+    Encoding encoding;
+    int indexCount; // 0: a single keyword; N: name0 .. name(N-1)
+};
+
+inline constexpr char UpdatePPDOptions[] = "UpdatePPDOptions";
+inline constexpr char PPDOptionsUpdated[] = "PPDOptionsUpdated";
+inline constexpr char IsCustomSnmpCommunity[] = "IsCustomSnmpCommunity";
+inline constexpr char SnmpCommunityName[] = "SnmpCommunityName";
+inline constexpr char IsWakeOnLan[] = "IsWakeOnLan";
+inline constexpr char PrinterMacAddress[] = "PrinterMacAddress";
+inline constexpr char IsOverTheRouter[] = "IsOverTheRouter";
+inline constexpr char PrinterIPAddress[] = "PrinterIPAddress";
+inline constexpr char SharedBoxName[] = "SharedBoxName";
+inline constexpr char SelSharedBoxName[] = "SelSharedBoxName";
+inline constexpr char SelSharedBoxIndex[] = "SelSharedBoxIndex";
+inline constexpr char UsePersonalFolder[] = "UsePersonalFolder";
+inline constexpr char AdminLoginModeEnabled[] = "AdminLoginModeEnabled";
+inline constexpr char PSFormName[] = "PSFormName";
+inline constexpr char BarcodeAreaDefName[] = "BarcodeAreaDefName";
+inline constexpr char ColorProfileName[] = "ColorProfileName";
+
+inline constexpr int listLimit = 100;
+inline constexpr int colorProfileLimit = 30; // deliberately smaller than the other lists
+inline constexpr int partCount = 6;
+inline constexpr int partLength = 200;
+inline constexpr char partSuffixFormat[] = "_Part%d";
+inline constexpr int bufferSize = 4096;
+
+inline constexpr char UpdatePPDOptionsValue[] = "True";
+inline constexpr char UpdateJobTitle[] = "UpdatePPDOptions";
+inline constexpr char UpdateFileContent[] = "Update";
+inline constexpr char DefaultCommunity[] = "cobalt";
+
+inline constexpr Keyword all[] = {
+    {UpdatePPDOptions, Encoding::JobMarker, 0},
+    {PPDOptionsUpdated, Encoding::Flag, 0},
+    {IsCustomSnmpCommunity, Encoding::Flag, 0},
+    {SnmpCommunityName, Encoding::Base64, 0},
+    {IsWakeOnLan, Encoding::Flag, 0},
+    {PrinterMacAddress, Encoding::Base64, 0},
+    {IsOverTheRouter, Encoding::Flag, 0},
+    {PrinterIPAddress, Encoding::Base64, 0},
+    {SharedBoxName, Encoding::MultiPart, listLimit},
+    {SelSharedBoxName, Encoding::MultiPart, listLimit},
+    {SelSharedBoxIndex, Encoding::Decimal, listLimit},
+    {UsePersonalFolder, Encoding::Flag, 0},
+    {AdminLoginModeEnabled, Encoding::Flag, 0},
+    {PSFormName, Encoding::MultiPart, listLimit},
+    {BarcodeAreaDefName, Encoding::MultiPart, listLimit},
+    {ColorProfileName, Encoding::MultiPart, colorProfileLimit},
+};
+
+} // namespace OrvoSettingsKeywords
