@@ -1,0 +1,503 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de">
+<context>
+    <name>Localizable</name>
+    <message>
+        <source> - Utility</source>
+        <translation> - Dienstprogramm</translation>
+    </message>
+    <message>
+        <source>Orvo Printer Utility</source>
+        <translation>Orvo Druckerdienstprogramm</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>IntroText</source>
+        <translation>Richten Sie für diese Druckerwarteschlange die freigegebenen Ordner, Formulare, Barcodebereichsdefinitionen und Farbprofile des Druckers ein.</translation>
+    </message>
+    <message>
+        <source>SNMP Community Name</source>
+        <translation>SNMP-Community-Name</translation>
+    </message>
+    <message>
+        <source>IDS_SNMP_PROHIBIT_CHARACTER_ERROR</source>
+        <translation>Dieses Zeichen ist im SNMP-Community-Namen nicht zulässig.</translation>
+    </message>
+    <message>
+        <source>Wake On LAN</source>
+        <translation>Wake on LAN</translation>
+    </message>
+    <message>
+        <source>MAC Address of the Printer:</source>
+        <translation>MAC-Adresse des Druckers:</translation>
+    </message>
+    <message>
+        <source>Connect to Another Network</source>
+        <translation>Mit einem anderen Netzwerk verbinden</translation>
+    </message>
+    <message>
+        <source>IP address of the printer:</source>
+        <translation>IP-Adresse des Druckers:</translation>
+    </message>
+    <message>
+        <source>Get Printer Info</source>
+        <translation>Druckerinformationen abrufen</translation>
+    </message>
+    <message>
+        <source>Getting information from printer...</source>
+        <translation>Informationen werden vom Drucker abgerufen...</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Ordner</translation>
+    </message>
+    <message>
+        <source>Form</source>
+        <translation>Formular</translation>
+    </message>
+    <message>
+        <source>Barcode area definition</source>
+        <translation>Barcodebereichsdefinition</translation>
+    </message>
+    <message>
+        <source>Color profile</source>
+        <translation>Farbprofil</translation>
+    </message>
+    <message>
+        <source>Shared folder in the printer</source>
+        <translation>Freigegebener Ordner im Drucker</translation>
+    </message>
+    <message>
+        <source>Register folder</source>
+        <translation>Registrierter Ordner</translation>
+    </message>
+    <message>
+        <source>Add -&gt;</source>
+        <translation>Hinzufügen -&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;- Delete</source>
+        <translation>&lt;- Löschen</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Leeren</translation>
+    </message>
+    <message>
+        <source>Use Personal folder</source>
+        <translation>Persönlichen Ordner verwenden</translation>
+    </message>
+    <message>
+        <source>Failed to obtain information.</source>
+        <translation>Die Informationen konnten nicht abgerufen werden.</translation>
+    </message>
+    <message>
+        <source>Shared Folder 1</source>
+        <translation>Freigegebener Ordner 1</translation>
+    </message>
+    <message>
+        <source>Shared Folder 2</source>
+        <translation>Freigegebener Ordner 2</translation>
+    </message>
+    <message>
+        <source>Shared Folder 3</source>
+        <translation>Freigegebener Ordner 3</translation>
+    </message>
+    <message>
+        <source>Shared Folder 4</source>
+        <translation>Freigegebener Ordner 4</translation>
+    </message>
+    <message>
+        <source>Shared Folder 5</source>
+        <translation>Freigegebener Ordner 5</translation>
+    </message>
+    <message>
+        <source>Shared Folder 6</source>
+        <translation>Freigegebener Ordner 6</translation>
+    </message>
+    <message>
+        <source>Shared Folder 7</source>
+        <translation>Freigegebener Ordner 7</translation>
+    </message>
+    <message>
+        <source>Shared Folder 8</source>
+        <translation>Freigegebener Ordner 8</translation>
+    </message>
+    <message>
+        <source>Shared Folder 9</source>
+        <translation>Freigegebener Ordner 9</translation>
+    </message>
+    <message>
+        <source>Shared Folder 10</source>
+        <translation>Freigegebener Ordner 10</translation>
+    </message>
+    <message>
+        <source>Shared Folder 11</source>
+        <translation>Freigegebener Ordner 11</translation>
+    </message>
+    <message>
+        <source>Shared Folder 12</source>
+        <translation>Freigegebener Ordner 12</translation>
+    </message>
+    <message>
+        <source>Shared Folder 13</source>
+        <translation>Freigegebener Ordner 13</translation>
+    </message>
+    <message>
+        <source>Shared Folder 14</source>
+        <translation>Freigegebener Ordner 14</translation>
+    </message>
+    <message>
+        <source>Shared Folder 15</source>
+        <translation>Freigegebener Ordner 15</translation>
+    </message>
+    <message>
+        <source>Shared Folder 16</source>
+        <translation>Freigegebener Ordner 16</translation>
+    </message>
+    <message>
+        <source>Shared Folder 17</source>
+        <translation>Freigegebener Ordner 17</translation>
+    </message>
+    <message>
+        <source>Shared Folder 18</source>
+        <translation>Freigegebener Ordner 18</translation>
+    </message>
+    <message>
+        <source>Shared Folder 19</source>
+        <translation>Freigegebener Ordner 19</translation>
+    </message>
+    <message>
+        <source>Shared Folder 20</source>
+        <translation>Freigegebener Ordner 20</translation>
+    </message>
+    <message>
+        <source>Shared Folder 21</source>
+        <translation>Freigegebener Ordner 21</translation>
+    </message>
+    <message>
+        <source>Shared Folder 22</source>
+        <translation>Freigegebener Ordner 22</translation>
+    </message>
+    <message>
+        <source>Shared Folder 23</source>
+        <translation>Freigegebener Ordner 23</translation>
+    </message>
+    <message>
+        <source>Shared Folder 24</source>
+        <translation>Freigegebener Ordner 24</translation>
+    </message>
+    <message>
+        <source>Shared Folder 25</source>
+        <translation>Freigegebener Ordner 25</translation>
+    </message>
+    <message>
+        <source>Shared Folder 26</source>
+        <translation>Freigegebener Ordner 26</translation>
+    </message>
+    <message>
+        <source>Shared Folder 27</source>
+        <translation>Freigegebener Ordner 27</translation>
+    </message>
+    <message>
+        <source>Shared Folder 28</source>
+        <translation>Freigegebener Ordner 28</translation>
+    </message>
+    <message>
+        <source>Shared Folder 29</source>
+        <translation>Freigegebener Ordner 29</translation>
+    </message>
+    <message>
+        <source>Shared Folder 30</source>
+        <translation>Freigegebener Ordner 30</translation>
+    </message>
+    <message>
+        <source>Shared Folder 31</source>
+        <translation>Freigegebener Ordner 31</translation>
+    </message>
+    <message>
+        <source>Shared Folder 32</source>
+        <translation>Freigegebener Ordner 32</translation>
+    </message>
+    <message>
+        <source>Shared Folder 33</source>
+        <translation>Freigegebener Ordner 33</translation>
+    </message>
+    <message>
+        <source>Shared Folder 34</source>
+        <translation>Freigegebener Ordner 34</translation>
+    </message>
+    <message>
+        <source>Shared Folder 35</source>
+        <translation>Freigegebener Ordner 35</translation>
+    </message>
+    <message>
+        <source>Shared Folder 36</source>
+        <translation>Freigegebener Ordner 36</translation>
+    </message>
+    <message>
+        <source>Shared Folder 37</source>
+        <translation>Freigegebener Ordner 37</translation>
+    </message>
+    <message>
+        <source>Shared Folder 38</source>
+        <translation>Freigegebener Ordner 38</translation>
+    </message>
+    <message>
+        <source>Shared Folder 39</source>
+        <translation>Freigegebener Ordner 39</translation>
+    </message>
+    <message>
+        <source>Shared Folder 40</source>
+        <translation>Freigegebener Ordner 40</translation>
+    </message>
+    <message>
+        <source>Shared Folder 41</source>
+        <translation>Freigegebener Ordner 41</translation>
+    </message>
+    <message>
+        <source>Shared Folder 42</source>
+        <translation>Freigegebener Ordner 42</translation>
+    </message>
+    <message>
+        <source>Shared Folder 43</source>
+        <translation>Freigegebener Ordner 43</translation>
+    </message>
+    <message>
+        <source>Shared Folder 44</source>
+        <translation>Freigegebener Ordner 44</translation>
+    </message>
+    <message>
+        <source>Shared Folder 45</source>
+        <translation>Freigegebener Ordner 45</translation>
+    </message>
+    <message>
+        <source>Shared Folder 46</source>
+        <translation>Freigegebener Ordner 46</translation>
+    </message>
+    <message>
+        <source>Shared Folder 47</source>
+        <translation>Freigegebener Ordner 47</translation>
+    </message>
+    <message>
+        <source>Shared Folder 48</source>
+        <translation>Freigegebener Ordner 48</translation>
+    </message>
+    <message>
+        <source>Shared Folder 49</source>
+        <translation>Freigegebener Ordner 49</translation>
+    </message>
+    <message>
+        <source>Shared Folder 50</source>
+        <translation>Freigegebener Ordner 50</translation>
+    </message>
+    <message>
+        <source>Shared Folder 51</source>
+        <translation>Freigegebener Ordner 51</translation>
+    </message>
+    <message>
+        <source>Shared Folder 52</source>
+        <translation>Freigegebener Ordner 52</translation>
+    </message>
+    <message>
+        <source>Shared Folder 53</source>
+        <translation>Freigegebener Ordner 53</translation>
+    </message>
+    <message>
+        <source>Shared Folder 54</source>
+        <translation>Freigegebener Ordner 54</translation>
+    </message>
+    <message>
+        <source>Shared Folder 55</source>
+        <translation>Freigegebener Ordner 55</translation>
+    </message>
+    <message>
+        <source>Shared Folder 56</source>
+        <translation>Freigegebener Ordner 56</translation>
+    </message>
+    <message>
+        <source>Shared Folder 57</source>
+        <translation>Freigegebener Ordner 57</translation>
+    </message>
+    <message>
+        <source>Shared Folder 58</source>
+        <translation>Freigegebener Ordner 58</translation>
+    </message>
+    <message>
+        <source>Shared Folder 59</source>
+        <translation>Freigegebener Ordner 59</translation>
+    </message>
+    <message>
+        <source>Shared Folder 60</source>
+        <translation>Freigegebener Ordner 60</translation>
+    </message>
+    <message>
+        <source>Shared Folder 61</source>
+        <translation>Freigegebener Ordner 61</translation>
+    </message>
+    <message>
+        <source>Shared Folder 62</source>
+        <translation>Freigegebener Ordner 62</translation>
+    </message>
+    <message>
+        <source>Shared Folder 63</source>
+        <translation>Freigegebener Ordner 63</translation>
+    </message>
+    <message>
+        <source>Shared Folder 64</source>
+        <translation>Freigegebener Ordner 64</translation>
+    </message>
+    <message>
+        <source>Shared Folder 65</source>
+        <translation>Freigegebener Ordner 65</translation>
+    </message>
+    <message>
+        <source>Shared Folder 66</source>
+        <translation>Freigegebener Ordner 66</translation>
+    </message>
+    <message>
+        <source>Shared Folder 67</source>
+        <translation>Freigegebener Ordner 67</translation>
+    </message>
+    <message>
+        <source>Shared Folder 68</source>
+        <translation>Freigegebener Ordner 68</translation>
+    </message>
+    <message>
+        <source>Shared Folder 69</source>
+        <translation>Freigegebener Ordner 69</translation>
+    </message>
+    <message>
+        <source>Shared Folder 70</source>
+        <translation>Freigegebener Ordner 70</translation>
+    </message>
+    <message>
+        <source>Shared Folder 71</source>
+        <translation>Freigegebener Ordner 71</translation>
+    </message>
+    <message>
+        <source>Shared Folder 72</source>
+        <translation>Freigegebener Ordner 72</translation>
+    </message>
+    <message>
+        <source>Shared Folder 73</source>
+        <translation>Freigegebener Ordner 73</translation>
+    </message>
+    <message>
+        <source>Shared Folder 74</source>
+        <translation>Freigegebener Ordner 74</translation>
+    </message>
+    <message>
+        <source>Shared Folder 75</source>
+        <translation>Freigegebener Ordner 75</translation>
+    </message>
+    <message>
+        <source>Shared Folder 76</source>
+        <translation>Freigegebener Ordner 76</translation>
+    </message>
+    <message>
+        <source>Shared Folder 77</source>
+        <translation>Freigegebener Ordner 77</translation>
+    </message>
+    <message>
+        <source>Shared Folder 78</source>
+        <translation>Freigegebener Ordner 78</translation>
+    </message>
+    <message>
+        <source>Shared Folder 79</source>
+        <translation>Freigegebener Ordner 79</translation>
+    </message>
+    <message>
+        <source>Shared Folder 80</source>
+        <translation>Freigegebener Ordner 80</translation>
+    </message>
+    <message>
+        <source>Shared Folder 81</source>
+        <translation>Freigegebener Ordner 81</translation>
+    </message>
+    <message>
+        <source>Shared Folder 82</source>
+        <translation>Freigegebener Ordner 82</translation>
+    </message>
+    <message>
+        <source>Shared Folder 83</source>
+        <translation>Freigegebener Ordner 83</translation>
+    </message>
+    <message>
+        <source>Shared Folder 84</source>
+        <translation>Freigegebener Ordner 84</translation>
+    </message>
+    <message>
+        <source>Shared Folder 85</source>
+        <translation>Freigegebener Ordner 85</translation>
+    </message>
+    <message>
+        <source>Shared Folder 86</source>
+        <translation>Freigegebener Ordner 86</translation>
+    </message>
+    <message>
+        <source>Shared Folder 87</source>
+        <translation>Freigegebener Ordner 87</translation>
+    </message>
+    <message>
+        <source>Shared Folder 88</source>
+        <translation>Freigegebener Ordner 88</translation>
+    </message>
+    <message>
+        <source>Shared Folder 89</source>
+        <translation>Freigegebener Ordner 89</translation>
+    </message>
+    <message>
+        <source>Shared Folder 90</source>
+        <translation>Freigegebener Ordner 90</translation>
+    </message>
+    <message>
+        <source>Shared Folder 91</source>
+        <translation>Freigegebener Ordner 91</translation>
+    </message>
+    <message>
+        <source>Shared Folder 92</source>
+        <translation>Freigegebener Ordner 92</translation>
+    </message>
+    <message>
+        <source>Shared Folder 93</source>
+        <translation>Freigegebener Ordner 93</translation>
+    </message>
+    <message>
+        <source>Shared Folder 94</source>
+        <translation>Freigegebener Ordner 94</translation>
+    </message>
+    <message>
+        <source>Shared Folder 95</source>
+        <translation>Freigegebener Ordner 95</translation>
+    </message>
+    <message>
+        <source>Shared Folder 96</source>
+        <translation>Freigegebener Ordner 96</translation>
+    </message>
+    <message>
+        <source>Shared Folder 97</source>
+        <translation>Freigegebener Ordner 97</translation>
+    </message>
+    <message>
+        <source>Shared Folder 98</source>
+        <translation>Freigegebener Ordner 98</translation>
+    </message>
+    <message>
+        <source>Shared Folder 99</source>
+        <translation>Freigegebener Ordner 99</translation>
+    </message>
+    <message>
+        <source>Shared Folder 100</source>
+        <translation>Freigegebener Ordner 100</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,503 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en">
+<context>
+    <name>Localizable</name>
+    <message>
+        <source> - Utility</source>
+        <translation> - Utility</translation>
+    </message>
+    <message>
+        <source>Orvo Printer Utility</source>
+        <translation>Orvo Printer Utility</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>IntroText</source>
+        <translation>Set up the printer's shared folders, forms, barcode area definitions and color profiles for this printer queue.</translation>
+    </message>
+    <message>
+        <source>SNMP Community Name</source>
+        <translation>SNMP Community Name</translation>
+    </message>
+    <message>
+        <source>IDS_SNMP_PROHIBIT_CHARACTER_ERROR</source>
+        <translation>The SNMP community name cannot contain this character.</translation>
+    </message>
+    <message>
+        <source>Wake On LAN</source>
+        <translation>Wake On LAN</translation>
+    </message>
+    <message>
+        <source>MAC Address of the Printer:</source>
+        <translation>MAC Address of the Printer:</translation>
+    </message>
+    <message>
+        <source>Connect to Another Network</source>
+        <translation>Connect to Another Network</translation>
+    </message>
+    <message>
+        <source>IP address of the printer:</source>
+        <translation>IP address of the printer:</translation>
+    </message>
+    <message>
+        <source>Get Printer Info</source>
+        <translation>Get Printer Info</translation>
+    </message>
+    <message>
+        <source>Getting information from printer...</source>
+        <translation>Getting information from printer...</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Folder</translation>
+    </message>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+    <message>
+        <source>Barcode area definition</source>
+        <translation>Barcode area definition</translation>
+    </message>
+    <message>
+        <source>Color profile</source>
+        <translation>Color profile</translation>
+    </message>
+    <message>
+        <source>Shared folder in the printer</source>
+        <translation>Shared folder in the printer</translation>
+    </message>
+    <message>
+        <source>Register folder</source>
+        <translation>Register folder</translation>
+    </message>
+    <message>
+        <source>Add -&gt;</source>
+        <translation>Add -&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;- Delete</source>
+        <translation>&lt;- Delete</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Clear</translation>
+    </message>
+    <message>
+        <source>Use Personal folder</source>
+        <translation>Use Personal folder</translation>
+    </message>
+    <message>
+        <source>Failed to obtain information.</source>
+        <translation>Failed to obtain information.</translation>
+    </message>
+    <message>
+        <source>Shared Folder 1</source>
+        <translation>Shared Folder 1</translation>
+    </message>
+    <message>
+        <source>Shared Folder 2</source>
+        <translation>Shared Folder 2</translation>
+    </message>
+    <message>
+        <source>Shared Folder 3</source>
+        <translation>Shared Folder 3</translation>
+    </message>
+    <message>
+        <source>Shared Folder 4</source>
+        <translation>Shared Folder 4</translation>
+    </message>
+    <message>
+        <source>Shared Folder 5</source>
+        <translation>Shared Folder 5</translation>
+    </message>
+    <message>
+        <source>Shared Folder 6</source>
+        <translation>Shared Folder 6</translation>
+    </message>
+    <message>
+        <source>Shared Folder 7</source>
+        <translation>Shared Folder 7</translation>
+    </message>
+    <message>
+        <source>Shared Folder 8</source>
+        <translation>Shared Folder 8</translation>
+    </message>
+    <message>
+        <source>Shared Folder 9</source>
+        <translation>Shared Folder 9</translation>
+    </message>
+    <message>
+        <source>Shared Folder 10</source>
+        <translation>Shared Folder 10</translation>
+    </message>
+    <message>
+        <source>Shared Folder 11</source>
+        <translation>Shared Folder 11</translation>
+    </message>
+    <message>
+        <source>Shared Folder 12</source>
+        <translation>Shared Folder 12</translation>
+    </message>
+    <message>
+        <source>Shared Folder 13</source>
+        <translation>Shared Folder 13</translation>
+    </message>
+    <message>
+        <source>Shared Folder 14</source>
+        <translation>Shared Folder 14</translation>
+    </message>
+    <message>
+        <source>Shared Folder 15</source>
+        <translation>Shared Folder 15</translation>
+    </message>
+    <message>
+        <source>Shared Folder 16</source>
+        <translation>Shared Folder 16</translation>
+    </message>
+    <message>
+        <source>Shared Folder 17</source>
+        <translation>Shared Folder 17</translation>
+    </message>
+    <message>
+        <source>Shared Folder 18</source>
+        <translation>Shared Folder 18</translation>
+    </message>
+    <message>
+        <source>Shared Folder 19</source>
+        <translation>Shared Folder 19</translation>
+    </message>
+    <message>
+        <source>Shared Folder 20</source>
+        <translation>Shared Folder 20</translation>
+    </message>
+    <message>
+        <source>Shared Folder 21</source>
+        <translation>Shared Folder 21</translation>
+    </message>
+    <message>
+        <source>Shared Folder 22</source>
+        <translation>Shared Folder 22</translation>
+    </message>
+    <message>
+        <source>Shared Folder 23</source>
+        <translation>Shared Folder 23</translation>
+    </message>
+    <message>
+        <source>Shared Folder 24</source>
+        <translation>Shared Folder 24</translation>
+    </message>
+    <message>
+        <source>Shared Folder 25</source>
+        <translation>Shared Folder 25</translation>
+    </message>
+    <message>
+        <source>Shared Folder 26</source>
+        <translation>Shared Folder 26</translation>
+    </message>
+    <message>
+        <source>Shared Folder 27</source>
+        <translation>Shared Folder 27</translation>
+    </message>
+    <message>
+        <source>Shared Folder 28</source>
+        <translation>Shared Folder 28</translation>
+    </message>
+    <message>
+        <source>Shared Folder 29</source>
+        <translation>Shared Folder 29</translation>
+    </message>
+    <message>
+        <source>Shared Folder 30</source>
+        <translation>Shared Folder 30</translation>
+    </message>
+    <message>
+        <source>Shared Folder 31</source>
+        <translation>Shared Folder 31</translation>
+    </message>
+    <message>
+        <source>Shared Folder 32</source>
+        <translation>Shared Folder 32</translation>
+    </message>
+    <message>
+        <source>Shared Folder 33</source>
+        <translation>Shared Folder 33</translation>
+    </message>
+    <message>
+        <source>Shared Folder 34</source>
+        <translation>Shared Folder 34</translation>
+    </message>
+    <message>
+        <source>Shared Folder 35</source>
+        <translation>Shared Folder 35</translation>
+    </message>
+    <message>
+        <source>Shared Folder 36</source>
+        <translation>Shared Folder 36</translation>
+    </message>
+    <message>
+        <source>Shared Folder 37</source>
+        <translation>Shared Folder 37</translation>
+    </message>
+    <message>
+        <source>Shared Folder 38</source>
+        <translation>Shared Folder 38</translation>
+    </message>
+    <message>
+        <source>Shared Folder 39</source>
+        <translation>Shared Folder 39</translation>
+    </message>
+    <message>
+        <source>Shared Folder 40</source>
+        <translation>Shared Folder 40</translation>
+    </message>
+    <message>
+        <source>Shared Folder 41</source>
+        <translation>Shared Folder 41</translation>
+    </message>
+    <message>
+        <source>Shared Folder 42</source>
+        <translation>Shared Folder 42</translation>
+    </message>
+    <message>
+        <source>Shared Folder 43</source>
+        <translation>Shared Folder 43</translation>
+    </message>
+    <message>
+        <source>Shared Folder 44</source>
+        <translation>Shared Folder 44</translation>
+    </message>
+    <message>
+        <source>Shared Folder 45</source>
+        <translation>Shared Folder 45</translation>
+    </message>
+    <message>
+        <source>Shared Folder 46</source>
+        <translation>Shared Folder 46</translation>
+    </message>
+    <message>
+        <source>Shared Folder 47</source>
+        <translation>Shared Folder 47</translation>
+    </message>
+    <message>
+        <source>Shared Folder 48</source>
+        <translation>Shared Folder 48</translation>
+    </message>
+    <message>
+        <source>Shared Folder 49</source>
+        <translation>Shared Folder 49</translation>
+    </message>
+    <message>
+        <source>Shared Folder 50</source>
+        <translation>Shared Folder 50</translation>
+    </message>
+    <message>
+        <source>Shared Folder 51</source>
+        <translation>Shared Folder 51</translation>
+    </message>
+    <message>
+        <source>Shared Folder 52</source>
+        <translation>Shared Folder 52</translation>
+    </message>
+    <message>
+        <source>Shared Folder 53</source>
+        <translation>Shared Folder 53</translation>
+    </message>
+    <message>
+        <source>Shared Folder 54</source>
+        <translation>Shared Folder 54</translation>
+    </message>
+    <message>
+        <source>Shared Folder 55</source>
+        <translation>Shared Folder 55</translation>
+    </message>
+    <message>
+        <source>Shared Folder 56</source>
+        <translation>Shared Folder 56</translation>
+    </message>
+    <message>
+        <source>Shared Folder 57</source>
+        <translation>Shared Folder 57</translation>
+    </message>
+    <message>
+        <source>Shared Folder 58</source>
+        <translation>Shared Folder 58</translation>
+    </message>
+    <message>
+        <source>Shared Folder 59</source>
+        <translation>Shared Folder 59</translation>
+    </message>
+    <message>
+        <source>Shared Folder 60</source>
+        <translation>Shared Folder 60</translation>
+    </message>
+    <message>
+        <source>Shared Folder 61</source>
+        <translation>Shared Folder 61</translation>
+    </message>
+    <message>
+        <source>Shared Folder 62</source>
+        <translation>Shared Folder 62</translation>
+    </message>
+    <message>
+        <source>Shared Folder 63</source>
+        <translation>Shared Folder 63</translation>
+    </message>
+    <message>
+        <source>Shared Folder 64</source>
+        <translation>Shared Folder 64</translation>
+    </message>
+    <message>
+        <source>Shared Folder 65</source>
+        <translation>Shared Folder 65</translation>
+    </message>
+    <message>
+        <source>Shared Folder 66</source>
+        <translation>Shared Folder 66</translation>
+    </message>
+    <message>
+        <source>Shared Folder 67</source>
+        <translation>Shared Folder 67</translation>
+    </message>
+    <message>
+        <source>Shared Folder 68</source>
+        <translation>Shared Folder 68</translation>
+    </message>
+    <message>
+        <source>Shared Folder 69</source>
+        <translation>Shared Folder 69</translation>
+    </message>
+    <message>
+        <source>Shared Folder 70</source>
+        <translation>Shared Folder 70</translation>
+    </message>
+    <message>
+        <source>Shared Folder 71</source>
+        <translation>Shared Folder 71</translation>
+    </message>
+    <message>
+        <source>Shared Folder 72</source>
+        <translation>Shared Folder 72</translation>
+    </message>
+    <message>
+        <source>Shared Folder 73</source>
+        <translation>Shared Folder 73</translation>
+    </message>
+    <message>
+        <source>Shared Folder 74</source>
+        <translation>Shared Folder 74</translation>
+    </message>
+    <message>
+        <source>Shared Folder 75</source>
+        <translation>Shared Folder 75</translation>
+    </message>
+    <message>
+        <source>Shared Folder 76</source>
+        <translation>Shared Folder 76</translation>
+    </message>
+    <message>
+        <source>Shared Folder 77</source>
+        <translation>Shared Folder 77</translation>
+    </message>
+    <message>
+        <source>Shared Folder 78</source>
+        <translation>Shared Folder 78</translation>
+    </message>
+    <message>
+        <source>Shared Folder 79</source>
+        <translation>Shared Folder 79</translation>
+    </message>
+    <message>
+        <source>Shared Folder 80</source>
+        <translation>Shared Folder 80</translation>
+    </message>
+    <message>
+        <source>Shared Folder 81</source>
+        <translation>Shared Folder 81</translation>
+    </message>
+    <message>
+        <source>Shared Folder 82</source>
+        <translation>Shared Folder 82</translation>
+    </message>
+    <message>
+        <source>Shared Folder 83</source>
+        <translation>Shared Folder 83</translation>
+    </message>
+    <message>
+        <source>Shared Folder 84</source>
+        <translation>Shared Folder 84</translation>
+    </message>
+    <message>
+        <source>Shared Folder 85</source>
+        <translation>Shared Folder 85</translation>
+    </message>
+    <message>
+        <source>Shared Folder 86</source>
+        <translation>Shared Folder 86</translation>
+    </message>
+    <message>
+        <source>Shared Folder 87</source>
+        <translation>Shared Folder 87</translation>
+    </message>
+    <message>
+        <source>Shared Folder 88</source>
+        <translation>Shared Folder 88</translation>
+    </message>
+    <message>
+        <source>Shared Folder 89</source>
+        <translation>Shared Folder 89</translation>
+    </message>
+    <message>
+        <source>Shared Folder 90</source>
+        <translation>Shared Folder 90</translation>
+    </message>
+    <message>
+        <source>Shared Folder 91</source>
+        <translation>Shared Folder 91</translation>
+    </message>
+    <message>
+        <source>Shared Folder 92</source>
+        <translation>Shared Folder 92</translation>
+    </message>
+    <message>
+        <source>Shared Folder 93</source>
+        <translation>Shared Folder 93</translation>
+    </message>
+    <message>
+        <source>Shared Folder 94</source>
+        <translation>Shared Folder 94</translation>
+    </message>
+    <message>
+        <source>Shared Folder 95</source>
+        <translation>Shared Folder 95</translation>
+    </message>
+    <message>
+        <source>Shared Folder 96</source>
+        <translation>Shared Folder 96</translation>
+    </message>
+    <message>
+        <source>Shared Folder 97</source>
+        <translation>Shared Folder 97</translation>
+    </message>
+    <message>
+        <source>Shared Folder 98</source>
+        <translation>Shared Folder 98</translation>
+    </message>
+    <message>
+        <source>Shared Folder 99</source>
+        <translation>Shared Folder 99</translation>
+    </message>
+    <message>
+        <source>Shared Folder 100</source>
+        <translation>Shared Folder 100</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,503 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr">
+<context>
+    <name>Localizable</name>
+    <message>
+        <source> - Utility</source>
+        <translation> - Utilitaire</translation>
+    </message>
+    <message>
+        <source>Orvo Printer Utility</source>
+        <translation>Utilitaire d'imprimante Orvo</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>IntroText</source>
+        <translation>Configurez pour cette file d'impression les dossiers partagés, les formulaires, les définitions de zones de code-barres et les profils couleur de l'imprimante.</translation>
+    </message>
+    <message>
+        <source>SNMP Community Name</source>
+        <translation>Nom de communauté SNMP</translation>
+    </message>
+    <message>
+        <source>IDS_SNMP_PROHIBIT_CHARACTER_ERROR</source>
+        <translation>Ce caractère n'est pas autorisé dans le nom de communauté SNMP.</translation>
+    </message>
+    <message>
+        <source>Wake On LAN</source>
+        <translation>Wake on LAN</translation>
+    </message>
+    <message>
+        <source>MAC Address of the Printer:</source>
+        <translation>Adresse MAC de l'imprimante :</translation>
+    </message>
+    <message>
+        <source>Connect to Another Network</source>
+        <translation>Connexion à un autre réseau</translation>
+    </message>
+    <message>
+        <source>IP address of the printer:</source>
+        <translation>Adresse IP de l'imprimante :</translation>
+    </message>
+    <message>
+        <source>Get Printer Info</source>
+        <translation>Obtenir les infos de l'imprimante</translation>
+    </message>
+    <message>
+        <source>Getting information from printer...</source>
+        <translation>Obtention des informations de l'imprimante...</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Dossier</translation>
+    </message>
+    <message>
+        <source>Form</source>
+        <translation>Formulaire</translation>
+    </message>
+    <message>
+        <source>Barcode area definition</source>
+        <translation>Définition de zone de code-barres</translation>
+    </message>
+    <message>
+        <source>Color profile</source>
+        <translation>Profil couleur</translation>
+    </message>
+    <message>
+        <source>Shared folder in the printer</source>
+        <translation>Dossier partagé de l'imprimante</translation>
+    </message>
+    <message>
+        <source>Register folder</source>
+        <translation>Dossier enregistré</translation>
+    </message>
+    <message>
+        <source>Add -&gt;</source>
+        <translation>Ajouter -&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;- Delete</source>
+        <translation>&lt;- Supprimer</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Effacer</translation>
+    </message>
+    <message>
+        <source>Use Personal folder</source>
+        <translation>Utiliser le dossier personnel</translation>
+    </message>
+    <message>
+        <source>Failed to obtain information.</source>
+        <translation>Impossible d'obtenir les informations.</translation>
+    </message>
+    <message>
+        <source>Shared Folder 1</source>
+        <translation>Dossier partagé 1</translation>
+    </message>
+    <message>
+        <source>Shared Folder 2</source>
+        <translation>Dossier partagé 2</translation>
+    </message>
+    <message>
+        <source>Shared Folder 3</source>
+        <translation>Dossier partagé 3</translation>
+    </message>
+    <message>
+        <source>Shared Folder 4</source>
+        <translation>Dossier partagé 4</translation>
+    </message>
+    <message>
+        <source>Shared Folder 5</source>
+        <translation>Dossier partagé 5</translation>
+    </message>
+    <message>
+        <source>Shared Folder 6</source>
+        <translation>Dossier partagé 6</translation>
+    </message>
+    <message>
+        <source>Shared Folder 7</source>
+        <translation>Dossier partagé 7</translation>
+    </message>
+    <message>
+        <source>Shared Folder 8</source>
+        <translation>Dossier partagé 8</translation>
+    </message>
+    <message>
+        <source>Shared Folder 9</source>
+        <translation>Dossier partagé 9</translation>
+    </message>
+    <message>
+        <source>Shared Folder 10</source>
+        <translation>Dossier partagé 10</translation>
+    </message>
+    <message>
+        <source>Shared Folder 11</source>
+        <translation>Dossier partagé 11</translation>
+    </message>
+    <message>
+        <source>Shared Folder 12</source>
+        <translation>Dossier partagé 12</translation>
+    </message>
+    <message>
+        <source>Shared Folder 13</source>
+        <translation>Dossier partagé 13</translation>
+    </message>
+    <message>
+        <source>Shared Folder 14</source>
+        <translation>Dossier partagé 14</translation>
+    </message>
+    <message>
+        <source>Shared Folder 15</source>
+        <translation>Dossier partagé 15</translation>
+    </message>
+    <message>
+        <source>Shared Folder 16</source>
+        <translation>Dossier partagé 16</translation>
+    </message>
+    <message>
+        <source>Shared Folder 17</source>
+        <translation>Dossier partagé 17</translation>
+    </message>
+    <message>
+        <source>Shared Folder 18</source>
+        <translation>Dossier partagé 18</translation>
+    </message>
+    <message>
+        <source>Shared Folder 19</source>
+        <translation>Dossier partagé 19</translation>
+    </message>
+    <message>
+        <source>Shared Folder 20</source>
+        <translation>Dossier partagé 20</translation>
+    </message>
+    <message>
+        <source>Shared Folder 21</source>
+        <translation>Dossier partagé 21</translation>
+    </message>
+    <message>
+        <source>Shared Folder 22</source>
+        <translation>Dossier partagé 22</translation>
+    </message>
+    <message>
+        <source>Shared Folder 23</source>
+        <translation>Dossier partagé 23</translation>
+    </message>
+    <message>
+        <source>Shared Folder 24</source>
+        <translation>Dossier partagé 24</translation>
+    </message>
+    <message>
+        <source>Shared Folder 25</source>
+        <translation>Dossier partagé 25</translation>
+    </message>
+    <message>
+        <source>Shared Folder 26</source>
+        <translation>Dossier partagé 26</translation>
+    </message>
+    <message>
+        <source>Shared Folder 27</source>
+        <translation>Dossier partagé 27</translation>
+    </message>
+    <message>
+        <source>Shared Folder 28</source>
+        <translation>Dossier partagé 28</translation>
+    </message>
+    <message>
+        <source>Shared Folder 29</source>
+        <translation>Dossier partagé 29</translation>
+    </message>
+    <message>
+        <source>Shared Folder 30</source>
+        <translation>Dossier partagé 30</translation>
+    </message>
+    <message>
+        <source>Shared Folder 31</source>
+        <translation>Dossier partagé 31</translation>
+    </message>
+    <message>
+        <source>Shared Folder 32</source>
+        <translation>Dossier partagé 32</translation>
+    </message>
+    <message>
+        <source>Shared Folder 33</source>
+        <translation>Dossier partagé 33</translation>
+    </message>
+    <message>
+        <source>Shared Folder 34</source>
+        <translation>Dossier partagé 34</translation>
+    </message>
+    <message>
+        <source>Shared Folder 35</source>
+        <translation>Dossier partagé 35</translation>
+    </message>
+    <message>
+        <source>Shared Folder 36</source>
+        <translation>Dossier partagé 36</translation>
+    </message>
+    <message>
+        <source>Shared Folder 37</source>
+        <translation>Dossier partagé 37</translation>
+    </message>
+    <message>
+        <source>Shared Folder 38</source>
+        <translation>Dossier partagé 38</translation>
+    </message>
+    <message>
+        <source>Shared Folder 39</source>
+        <translation>Dossier partagé 39</translation>
+    </message>
+    <message>
+        <source>Shared Folder 40</source>
+        <translation>Dossier partagé 40</translation>
+    </message>
+    <message>
+        <source>Shared Folder 41</source>
+        <translation>Dossier partagé 41</translation>
+    </message>
+    <message>
+        <source>Shared Folder 42</source>
+        <translation>Dossier partagé 42</translation>
+    </message>
+    <message>
+        <source>Shared Folder 43</source>
+        <translation>Dossier partagé 43</translation>
+    </message>
+    <message>
+        <source>Shared Folder 44</source>
+        <translation>Dossier partagé 44</translation>
+    </message>
+    <message>
+        <source>Shared Folder 45</source>
+        <translation>Dossier partagé 45</translation>
+    </message>
+    <message>
+        <source>Shared Folder 46</source>
+        <translation>Dossier partagé 46</translation>
+    </message>
+    <message>
+        <source>Shared Folder 47</source>
+        <translation>Dossier partagé 47</translation>
+    </message>
+    <message>
+        <source>Shared Folder 48</source>
+        <translation>Dossier partagé 48</translation>
+    </message>
+    <message>
+        <source>Shared Folder 49</source>
+        <translation>Dossier partagé 49</translation>
+    </message>
+    <message>
+        <source>Shared Folder 50</source>
+        <translation>Dossier partagé 50</translation>
+    </message>
+    <message>
+        <source>Shared Folder 51</source>
+        <translation>Dossier partagé 51</translation>
+    </message>
+    <message>
+        <source>Shared Folder 52</source>
+        <translation>Dossier partagé 52</translation>
+    </message>
+    <message>
+        <source>Shared Folder 53</source>
+        <translation>Dossier partagé 53</translation>
+    </message>
+    <message>
+        <source>Shared Folder 54</source>
+        <translation>Dossier partagé 54</translation>
+    </message>
+    <message>
+        <source>Shared Folder 55</source>
+        <translation>Dossier partagé 55</translation>
+    </message>
+    <message>
+        <source>Shared Folder 56</source>
+        <translation>Dossier partagé 56</translation>
+    </message>
+    <message>
+        <source>Shared Folder 57</source>
+        <translation>Dossier partagé 57</translation>
+    </message>
+    <message>
+        <source>Shared Folder 58</source>
+        <translation>Dossier partagé 58</translation>
+    </message>
+    <message>
+        <source>Shared Folder 59</source>
+        <translation>Dossier partagé 59</translation>
+    </message>
+    <message>
+        <source>Shared Folder 60</source>
+        <translation>Dossier partagé 60</translation>
+    </message>
+    <message>
+        <source>Shared Folder 61</source>
+        <translation>Dossier partagé 61</translation>
+    </message>
+    <message>
+        <source>Shared Folder 62</source>
+        <translation>Dossier partagé 62</translation>
+    </message>
+    <message>
+        <source>Shared Folder 63</source>
+        <translation>Dossier partagé 63</translation>
+    </message>
+    <message>
+        <source>Shared Folder 64</source>
+        <translation>Dossier partagé 64</translation>
+    </message>
+    <message>
+        <source>Shared Folder 65</source>
+        <translation>Dossier partagé 65</translation>
+    </message>
+    <message>
+        <source>Shared Folder 66</source>
+        <translation>Dossier partagé 66</translation>
+    </message>
+    <message>
+        <source>Shared Folder 67</source>
+        <translation>Dossier partagé 67</translation>
+    </message>
+    <message>
+        <source>Shared Folder 68</source>
+        <translation>Dossier partagé 68</translation>
+    </message>
+    <message>
+        <source>Shared Folder 69</source>
+        <translation>Dossier partagé 69</translation>
+    </message>
+    <message>
+        <source>Shared Folder 70</source>
+        <translation>Dossier partagé 70</translation>
+    </message>
+    <message>
+        <source>Shared Folder 71</source>
+        <translation>Dossier partagé 71</translation>
+    </message>
+    <message>
+        <source>Shared Folder 72</source>
+        <translation>Dossier partagé 72</translation>
+    </message>
+    <message>
+        <source>Shared Folder 73</source>
+        <translation>Dossier partagé 73</translation>
+    </message>
+    <message>
+        <source>Shared Folder 74</source>
+        <translation>Dossier partagé 74</translation>
+    </message>
+    <message>
+        <source>Shared Folder 75</source>
+        <translation>Dossier partagé 75</translation>
+    </message>
+    <message>
+        <source>Shared Folder 76</source>
+        <translation>Dossier partagé 76</translation>
+    </message>
+    <message>
+        <source>Shared Folder 77</source>
+        <translation>Dossier partagé 77</translation>
+    </message>
+    <message>
+        <source>Shared Folder 78</source>
+        <translation>Dossier partagé 78</translation>
+    </message>
+    <message>
+        <source>Shared Folder 79</source>
+        <translation>Dossier partagé 79</translation>
+    </message>
+    <message>
+        <source>Shared Folder 80</source>
+        <translation>Dossier partagé 80</translation>
+    </message>
+    <message>
+        <source>Shared Folder 81</source>
+        <translation>Dossier partagé 81</translation>
+    </message>
+    <message>
+        <source>Shared Folder 82</source>
+        <translation>Dossier partagé 82</translation>
+    </message>
+    <message>
+        <source>Shared Folder 83</source>
+        <translation>Dossier partagé 83</translation>
+    </message>
+    <message>
+        <source>Shared Folder 84</source>
+        <translation>Dossier partagé 84</translation>
+    </message>
+    <message>
+        <source>Shared Folder 85</source>
+        <translation>Dossier partagé 85</translation>
+    </message>
+    <message>
+        <source>Shared Folder 86</source>
+        <translation>Dossier partagé 86</translation>
+    </message>
+    <message>
+        <source>Shared Folder 87</source>
+        <translation>Dossier partagé 87</translation>
+    </message>
+    <message>
+        <source>Shared Folder 88</source>
+        <translation>Dossier partagé 88</translation>
+    </message>
+    <message>
+        <source>Shared Folder 89</source>
+        <translation>Dossier partagé 89</translation>
+    </message>
+    <message>
+        <source>Shared Folder 90</source>
+        <translation>Dossier partagé 90</translation>
+    </message>
+    <message>
+        <source>Shared Folder 91</source>
+        <translation>Dossier partagé 91</translation>
+    </message>
+    <message>
+        <source>Shared Folder 92</source>
+        <translation>Dossier partagé 92</translation>
+    </message>
+    <message>
+        <source>Shared Folder 93</source>
+        <translation>Dossier partagé 93</translation>
+    </message>
+    <message>
+        <source>Shared Folder 94</source>
+        <translation>Dossier partagé 94</translation>
+    </message>
+    <message>
+        <source>Shared Folder 95</source>
+        <translation>Dossier partagé 95</translation>
+    </message>
+    <message>
+        <source>Shared Folder 96</source>
+        <translation>Dossier partagé 96</translation>
+    </message>
+    <message>
+        <source>Shared Folder 97</source>
+        <translation>Dossier partagé 97</translation>
+    </message>
+    <message>
+        <source>Shared Folder 98</source>
+        <translation>Dossier partagé 98</translation>
+    </message>
+    <message>
+        <source>Shared Folder 99</source>
+        <translation>Dossier partagé 99</translation>
+    </message>
+    <message>
+        <source>Shared Folder 100</source>
+        <translation>Dossier partagé 100</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,503 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ja">
+<context>
+    <name>Localizable</name>
+    <message>
+        <source> - Utility</source>
+        <translation> - ユーティリティ</translation>
+    </message>
+    <message>
+        <source>Orvo Printer Utility</source>
+        <translation>Orvo プリンターユーティリティ</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>IntroText</source>
+        <translation>このプリンターキューで使う、プリンターの共有フォルダー、フォーム、バーコード領域定義、カラープロファイルを設定します。</translation>
+    </message>
+    <message>
+        <source>SNMP Community Name</source>
+        <translation>SNMP コミュニティー名</translation>
+    </message>
+    <message>
+        <source>IDS_SNMP_PROHIBIT_CHARACTER_ERROR</source>
+        <translation>SNMP コミュニティー名にこの文字は使用できません。</translation>
+    </message>
+    <message>
+        <source>Wake On LAN</source>
+        <translation>Wake On LAN</translation>
+    </message>
+    <message>
+        <source>MAC Address of the Printer:</source>
+        <translation>プリンターの MAC アドレス:</translation>
+    </message>
+    <message>
+        <source>Connect to Another Network</source>
+        <translation>別のネットワークに接続</translation>
+    </message>
+    <message>
+        <source>IP address of the printer:</source>
+        <translation>プリンターの IP アドレス:</translation>
+    </message>
+    <message>
+        <source>Get Printer Info</source>
+        <translation>プリンター情報の取得</translation>
+    </message>
+    <message>
+        <source>Getting information from printer...</source>
+        <translation>プリンターから情報を取得しています...</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>フォルダー</translation>
+    </message>
+    <message>
+        <source>Form</source>
+        <translation>フォーム</translation>
+    </message>
+    <message>
+        <source>Barcode area definition</source>
+        <translation>バーコード領域定義</translation>
+    </message>
+    <message>
+        <source>Color profile</source>
+        <translation>カラープロファイル</translation>
+    </message>
+    <message>
+        <source>Shared folder in the printer</source>
+        <translation>プリンター内の共有フォルダー</translation>
+    </message>
+    <message>
+        <source>Register folder</source>
+        <translation>登録フォルダー</translation>
+    </message>
+    <message>
+        <source>Add -&gt;</source>
+        <translation>追加 -&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;- Delete</source>
+        <translation>&lt;- 削除</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>クリア</translation>
+    </message>
+    <message>
+        <source>Use Personal folder</source>
+        <translation>個人フォルダーを使用</translation>
+    </message>
+    <message>
+        <source>Failed to obtain information.</source>
+        <translation>情報の取得に失敗しました。</translation>
+    </message>
+    <message>
+        <source>Shared Folder 1</source>
+        <translation>共有フォルダー 1</translation>
+    </message>
+    <message>
+        <source>Shared Folder 2</source>
+        <translation>共有フォルダー 2</translation>
+    </message>
+    <message>
+        <source>Shared Folder 3</source>
+        <translation>共有フォルダー 3</translation>
+    </message>
+    <message>
+        <source>Shared Folder 4</source>
+        <translation>共有フォルダー 4</translation>
+    </message>
+    <message>
+        <source>Shared Folder 5</source>
+        <translation>共有フォルダー 5</translation>
+    </message>
+    <message>
+        <source>Shared Folder 6</source>
+        <translation>共有フォルダー 6</translation>
+    </message>
+    <message>
+        <source>Shared Folder 7</source>
+        <translation>共有フォルダー 7</translation>
+    </message>
+    <message>
+        <source>Shared Folder 8</source>
+        <translation>共有フォルダー 8</translation>
+    </message>
+    <message>
+        <source>Shared Folder 9</source>
+        <translation>共有フォルダー 9</translation>
+    </message>
+    <message>
+        <source>Shared Folder 10</source>
+        <translation>共有フォルダー 10</translation>
+    </message>
+    <message>
+        <source>Shared Folder 11</source>
+        <translation>共有フォルダー 11</translation>
+    </message>
+    <message>
+        <source>Shared Folder 12</source>
+        <translation>共有フォルダー 12</translation>
+    </message>
+    <message>
+        <source>Shared Folder 13</source>
+        <translation>共有フォルダー 13</translation>
+    </message>
+    <message>
+        <source>Shared Folder 14</source>
+        <translation>共有フォルダー 14</translation>
+    </message>
+    <message>
+        <source>Shared Folder 15</source>
+        <translation>共有フォルダー 15</translation>
+    </message>
+    <message>
+        <source>Shared Folder 16</source>
+        <translation>共有フォルダー 16</translation>
+    </message>
+    <message>
+        <source>Shared Folder 17</source>
+        <translation>共有フォルダー 17</translation>
+    </message>
+    <message>
+        <source>Shared Folder 18</source>
+        <translation>共有フォルダー 18</translation>
+    </message>
+    <message>
+        <source>Shared Folder 19</source>
+        <translation>共有フォルダー 19</translation>
+    </message>
+    <message>
+        <source>Shared Folder 20</source>
+        <translation>共有フォルダー 20</translation>
+    </message>
+    <message>
+        <source>Shared Folder 21</source>
+        <translation>共有フォルダー 21</translation>
+    </message>
+    <message>
+        <source>Shared Folder 22</source>
+        <translation>共有フォルダー 22</translation>
+    </message>
+    <message>
+        <source>Shared Folder 23</source>
+        <translation>共有フォルダー 23</translation>
+    </message>
+    <message>
+        <source>Shared Folder 24</source>
+        <translation>共有フォルダー 24</translation>
+    </message>
+    <message>
+        <source>Shared Folder 25</source>
+        <translation>共有フォルダー 25</translation>
+    </message>
+    <message>
+        <source>Shared Folder 26</source>
+        <translation>共有フォルダー 26</translation>
+    </message>
+    <message>
+        <source>Shared Folder 27</source>
+        <translation>共有フォルダー 27</translation>
+    </message>
+    <message>
+        <source>Shared Folder 28</source>
+        <translation>共有フォルダー 28</translation>
+    </message>
+    <message>
+        <source>Shared Folder 29</source>
+        <translation>共有フォルダー 29</translation>
+    </message>
+    <message>
+        <source>Shared Folder 30</source>
+        <translation>共有フォルダー 30</translation>
+    </message>
+    <message>
+        <source>Shared Folder 31</source>
+        <translation>共有フォルダー 31</translation>
+    </message>
+    <message>
+        <source>Shared Folder 32</source>
+        <translation>共有フォルダー 32</translation>
+    </message>
+    <message>
+        <source>Shared Folder 33</source>
+        <translation>共有フォルダー 33</translation>
+    </message>
+    <message>
+        <source>Shared Folder 34</source>
+        <translation>共有フォルダー 34</translation>
+    </message>
+    <message>
+        <source>Shared Folder 35</source>
+        <translation>共有フォルダー 35</translation>
+    </message>
+    <message>
+        <source>Shared Folder 36</source>
+        <translation>共有フォルダー 36</translation>
+    </message>
+    <message>
+        <source>Shared Folder 37</source>
+        <translation>共有フォルダー 37</translation>
+    </message>
+    <message>
+        <source>Shared Folder 38</source>
+        <translation>共有フォルダー 38</translation>
+    </message>
+    <message>
+        <source>Shared Folder 39</source>
+        <translation>共有フォルダー 39</translation>
+    </message>
+    <message>
+        <source>Shared Folder 40</source>
+        <translation>共有フォルダー 40</translation>
+    </message>
+    <message>
+        <source>Shared Folder 41</source>
+        <translation>共有フォルダー 41</translation>
+    </message>
+    <message>
+        <source>Shared Folder 42</source>
+        <translation>共有フォルダー 42</translation>
+    </message>
+    <message>
+        <source>Shared Folder 43</source>
+        <translation>共有フォルダー 43</translation>
+    </message>
+    <message>
+        <source>Shared Folder 44</source>
+        <translation>共有フォルダー 44</translation>
+    </message>
+    <message>
+        <source>Shared Folder 45</source>
+        <translation>共有フォルダー 45</translation>
+    </message>
+    <message>
+        <source>Shared Folder 46</source>
+        <translation>共有フォルダー 46</translation>
+    </message>
+    <message>
+        <source>Shared Folder 47</source>
+        <translation>共有フォルダー 47</translation>
+    </message>
+    <message>
+        <source>Shared Folder 48</source>
+        <translation>共有フォルダー 48</translation>
+    </message>
+    <message>
+        <source>Shared Folder 49</source>
+        <translation>共有フォルダー 49</translation>
+    </message>
+    <message>
+        <source>Shared Folder 50</source>
+        <translation>共有フォルダー 50</translation>
+    </message>
+    <message>
+        <source>Shared Folder 51</source>
+        <translation>共有フォルダー 51</translation>
+    </message>
+    <message>
+        <source>Shared Folder 52</source>
+        <translation>共有フォルダー 52</translation>
+    </message>
+    <message>
+        <source>Shared Folder 53</source>
+        <translation>共有フォルダー 53</translation>
+    </message>
+    <message>
+        <source>Shared Folder 54</source>
+        <translation>共有フォルダー 54</translation>
+    </message>
+    <message>
+        <source>Shared Folder 55</source>
+        <translation>共有フォルダー 55</translation>
+    </message>
+    <message>
+        <source>Shared Folder 56</source>
+        <translation>共有フォルダー 56</translation>
+    </message>
+    <message>
+        <source>Shared Folder 57</source>
+        <translation>共有フォルダー 57</translation>
+    </message>
+    <message>
+        <source>Shared Folder 58</source>
+        <translation>共有フォルダー 58</translation>
+    </message>
+    <message>
+        <source>Shared Folder 59</source>
+        <translation>共有フォルダー 59</translation>
+    </message>
+    <message>
+        <source>Shared Folder 60</source>
+        <translation>共有フォルダー 60</translation>
+    </message>
+    <message>
+        <source>Shared Folder 61</source>
+        <translation>共有フォルダー 61</translation>
+    </message>
+    <message>
+        <source>Shared Folder 62</source>
+        <translation>共有フォルダー 62</translation>
+    </message>
+    <message>
+        <source>Shared Folder 63</source>
+        <translation>共有フォルダー 63</translation>
+    </message>
+    <message>
+        <source>Shared Folder 64</source>
+        <translation>共有フォルダー 64</translation>
+    </message>
+    <message>
+        <source>Shared Folder 65</source>
+        <translation>共有フォルダー 65</translation>
+    </message>
+    <message>
+        <source>Shared Folder 66</source>
+        <translation>共有フォルダー 66</translation>
+    </message>
+    <message>
+        <source>Shared Folder 67</source>
+        <translation>共有フォルダー 67</translation>
+    </message>
+    <message>
+        <source>Shared Folder 68</source>
+        <translation>共有フォルダー 68</translation>
+    </message>
+    <message>
+        <source>Shared Folder 69</source>
+        <translation>共有フォルダー 69</translation>
+    </message>
+    <message>
+        <source>Shared Folder 70</source>
+        <translation>共有フォルダー 70</translation>
+    </message>
+    <message>
+        <source>Shared Folder 71</source>
+        <translation>共有フォルダー 71</translation>
+    </message>
+    <message>
+        <source>Shared Folder 72</source>
+        <translation>共有フォルダー 72</translation>
+    </message>
+    <message>
+        <source>Shared Folder 73</source>
+        <translation>共有フォルダー 73</translation>
+    </message>
+    <message>
+        <source>Shared Folder 74</source>
+        <translation>共有フォルダー 74</translation>
+    </message>
+    <message>
+        <source>Shared Folder 75</source>
+        <translation>共有フォルダー 75</translation>
+    </message>
+    <message>
+        <source>Shared Folder 76</source>
+        <translation>共有フォルダー 76</translation>
+    </message>
+    <message>
+        <source>Shared Folder 77</source>
+        <translation>共有フォルダー 77</translation>
+    </message>
+    <message>
+        <source>Shared Folder 78</source>
+        <translation>共有フォルダー 78</translation>
+    </message>
+    <message>
+        <source>Shared Folder 79</source>
+        <translation>共有フォルダー 79</translation>
+    </message>
+    <message>
+        <source>Shared Folder 80</source>
+        <translation>共有フォルダー 80</translation>
+    </message>
+    <message>
+        <source>Shared Folder 81</source>
+        <translation>共有フォルダー 81</translation>
+    </message>
+    <message>
+        <source>Shared Folder 82</source>
+        <translation>共有フォルダー 82</translation>
+    </message>
+    <message>
+        <source>Shared Folder 83</source>
+        <translation>共有フォルダー 83</translation>
+    </message>
+    <message>
+        <source>Shared Folder 84</source>
+        <translation>共有フォルダー 84</translation>
+    </message>
+    <message>
+        <source>Shared Folder 85</source>
+        <translation>共有フォルダー 85</translation>
+    </message>
+    <message>
+        <source>Shared Folder 86</source>
+        <translation>共有フォルダー 86</translation>
+    </message>
+    <message>
+        <source>Shared Folder 87</source>
+        <translation>共有フォルダー 87</translation>
+    </message>
+    <message>
+        <source>Shared Folder 88</source>
+        <translation>共有フォルダー 88</translation>
+    </message>
+    <message>
+        <source>Shared Folder 89</source>
+        <translation>共有フォルダー 89</translation>
+    </message>
+    <message>
+        <source>Shared Folder 90</source>
+        <translation>共有フォルダー 90</translation>
+    </message>
+    <message>
+        <source>Shared Folder 91</source>
+        <translation>共有フォルダー 91</translation>
+    </message>
+    <message>
+        <source>Shared Folder 92</source>
+        <translation>共有フォルダー 92</translation>
+    </message>
+    <message>
+        <source>Shared Folder 93</source>
+        <translation>共有フォルダー 93</translation>
+    </message>
+    <message>
+        <source>Shared Folder 94</source>
+        <translation>共有フォルダー 94</translation>
+    </message>
+    <message>
+        <source>Shared Folder 95</source>
+        <translation>共有フォルダー 95</translation>
+    </message>
+    <message>
+        <source>Shared Folder 96</source>
+        <translation>共有フォルダー 96</translation>
+    </message>
+    <message>
+        <source>Shared Folder 97</source>
+        <translation>共有フォルダー 97</translation>
+    </message>
+    <message>
+        <source>Shared Folder 98</source>
+        <translation>共有フォルダー 98</translation>
+    </message>
+    <message>
+        <source>Shared Folder 99</source>
+        <translation>共有フォルダー 99</translation>
+    </message>
+    <message>
+        <source>Shared Folder 100</source>
+        <translation>共有フォルダー 100</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,503 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="zh_CN">
+<context>
+    <name>Localizable</name>
+    <message>
+        <source> - Utility</source>
+        <translation> - 实用程序</translation>
+    </message>
+    <message>
+        <source>Orvo Printer Utility</source>
+        <translation>Orvo 打印机实用程序</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>确定</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>IntroText</source>
+        <translation>为此打印机队列设置打印机的共享文件夹、表单、条形码区域定义和颜色配置文件。</translation>
+    </message>
+    <message>
+        <source>SNMP Community Name</source>
+        <translation>SNMP 团体名称</translation>
+    </message>
+    <message>
+        <source>IDS_SNMP_PROHIBIT_CHARACTER_ERROR</source>
+        <translation>SNMP 团体名称中不能使用此字符。</translation>
+    </message>
+    <message>
+        <source>Wake On LAN</source>
+        <translation>网络唤醒</translation>
+    </message>
+    <message>
+        <source>MAC Address of the Printer:</source>
+        <translation>打印机的 MAC 地址:</translation>
+    </message>
+    <message>
+        <source>Connect to Another Network</source>
+        <translation>连接到其他网络</translation>
+    </message>
+    <message>
+        <source>IP address of the printer:</source>
+        <translation>打印机的 IP 地址:</translation>
+    </message>
+    <message>
+        <source>Get Printer Info</source>
+        <translation>获取打印机信息</translation>
+    </message>
+    <message>
+        <source>Getting information from printer...</source>
+        <translation>正在从打印机获取信息...</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>文件夹</translation>
+    </message>
+    <message>
+        <source>Form</source>
+        <translation>表单</translation>
+    </message>
+    <message>
+        <source>Barcode area definition</source>
+        <translation>条形码区域定义</translation>
+    </message>
+    <message>
+        <source>Color profile</source>
+        <translation>颜色配置文件</translation>
+    </message>
+    <message>
+        <source>Shared folder in the printer</source>
+        <translation>打印机中的共享文件夹</translation>
+    </message>
+    <message>
+        <source>Register folder</source>
+        <translation>注册文件夹</translation>
+    </message>
+    <message>
+        <source>Add -&gt;</source>
+        <translation>添加 -&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;- Delete</source>
+        <translation>&lt;- 删除</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>清除</translation>
+    </message>
+    <message>
+        <source>Use Personal folder</source>
+        <translation>使用个人文件夹</translation>
+    </message>
+    <message>
+        <source>Failed to obtain information.</source>
+        <translation>无法获取信息。</translation>
+    </message>
+    <message>
+        <source>Shared Folder 1</source>
+        <translation>共享文件夹 1</translation>
+    </message>
+    <message>
+        <source>Shared Folder 2</source>
+        <translation>共享文件夹 2</translation>
+    </message>
+    <message>
+        <source>Shared Folder 3</source>
+        <translation>共享文件夹 3</translation>
+    </message>
+    <message>
+        <source>Shared Folder 4</source>
+        <translation>共享文件夹 4</translation>
+    </message>
+    <message>
+        <source>Shared Folder 5</source>
+        <translation>共享文件夹 5</translation>
+    </message>
+    <message>
+        <source>Shared Folder 6</source>
+        <translation>共享文件夹 6</translation>
+    </message>
+    <message>
+        <source>Shared Folder 7</source>
+        <translation>共享文件夹 7</translation>
+    </message>
+    <message>
+        <source>Shared Folder 8</source>
+        <translation>共享文件夹 8</translation>
+    </message>
+    <message>
+        <source>Shared Folder 9</source>
+        <translation>共享文件夹 9</translation>
+    </message>
+    <message>
+        <source>Shared Folder 10</source>
+        <translation>共享文件夹 10</translation>
+    </message>
+    <message>
+        <source>Shared Folder 11</source>
+        <translation>共享文件夹 11</translation>
+    </message>
+    <message>
+        <source>Shared Folder 12</source>
+        <translation>共享文件夹 12</translation>
+    </message>
+    <message>
+        <source>Shared Folder 13</source>
+        <translation>共享文件夹 13</translation>
+    </message>
+    <message>
+        <source>Shared Folder 14</source>
+        <translation>共享文件夹 14</translation>
+    </message>
+    <message>
+        <source>Shared Folder 15</source>
+        <translation>共享文件夹 15</translation>
+    </message>
+    <message>
+        <source>Shared Folder 16</source>
+        <translation>共享文件夹 16</translation>
+    </message>
+    <message>
+        <source>Shared Folder 17</source>
+        <translation>共享文件夹 17</translation>
+    </message>
+    <message>
+        <source>Shared Folder 18</source>
+        <translation>共享文件夹 18</translation>
+    </message>
+    <message>
+        <source>Shared Folder 19</source>
+        <translation>共享文件夹 19</translation>
+    </message>
+    <message>
+        <source>Shared Folder 20</source>
+        <translation>共享文件夹 20</translation>
+    </message>
+    <message>
+        <source>Shared Folder 21</source>
+        <translation>共享文件夹 21</translation>
+    </message>
+    <message>
+        <source>Shared Folder 22</source>
+        <translation>共享文件夹 22</translation>
+    </message>
+    <message>
+        <source>Shared Folder 23</source>
+        <translation>共享文件夹 23</translation>
+    </message>
+    <message>
+        <source>Shared Folder 24</source>
+        <translation>共享文件夹 24</translation>
+    </message>
+    <message>
+        <source>Shared Folder 25</source>
+        <translation>共享文件夹 25</translation>
+    </message>
+    <message>
+        <source>Shared Folder 26</source>
+        <translation>共享文件夹 26</translation>
+    </message>
+    <message>
+        <source>Shared Folder 27</source>
+        <translation>共享文件夹 27</translation>
+    </message>
+    <message>
+        <source>Shared Folder 28</source>
+        <translation>共享文件夹 28</translation>
+    </message>
+    <message>
+        <source>Shared Folder 29</source>
+        <translation>共享文件夹 29</translation>
+    </message>
+    <message>
+        <source>Shared Folder 30</source>
+        <translation>共享文件夹 30</translation>
+    </message>
+    <message>
+        <source>Shared Folder 31</source>
+        <translation>共享文件夹 31</translation>
+    </message>
+    <message>
+        <source>Shared Folder 32</source>
+        <translation>共享文件夹 32</translation>
+    </message>
+    <message>
+        <source>Shared Folder 33</source>
+        <translation>共享文件夹 33</translation>
+    </message>
+    <message>
+        <source>Shared Folder 34</source>
+        <translation>共享文件夹 34</translation>
+    </message>
+    <message>
+        <source>Shared Folder 35</source>
+        <translation>共享文件夹 35</translation>
+    </message>
+    <message>
+        <source>Shared Folder 36</source>
+        <translation>共享文件夹 36</translation>
+    </message>
+    <message>
+        <source>Shared Folder 37</source>
+        <translation>共享文件夹 37</translation>
+    </message>
+    <message>
+        <source>Shared Folder 38</source>
+        <translation>共享文件夹 38</translation>
+    </message>
+    <message>
+        <source>Shared Folder 39</source>
+        <translation>共享文件夹 39</translation>
+    </message>
+    <message>
+        <source>Shared Folder 40</source>
+        <translation>共享文件夹 40</translation>
+    </message>
+    <message>
+        <source>Shared Folder 41</source>
+        <translation>共享文件夹 41</translation>
+    </message>
+    <message>
+        <source>Shared Folder 42</source>
+        <translation>共享文件夹 42</translation>
+    </message>
+    <message>
+        <source>Shared Folder 43</source>
+        <translation>共享文件夹 43</translation>
+    </message>
+    <message>
+        <source>Shared Folder 44</source>
+        <translation>共享文件夹 44</translation>
+    </message>
+    <message>
+        <source>Shared Folder 45</source>
+        <translation>共享文件夹 45</translation>
+    </message>
+    <message>
+        <source>Shared Folder 46</source>
+        <translation>共享文件夹 46</translation>
+    </message>
+    <message>
+        <source>Shared Folder 47</source>
+        <translation>共享文件夹 47</translation>
+    </message>
+    <message>
+        <source>Shared Folder 48</source>
+        <translation>共享文件夹 48</translation>
+    </message>
+    <message>
+        <source>Shared Folder 49</source>
+        <translation>共享文件夹 49</translation>
+    </message>
+    <message>
+        <source>Shared Folder 50</source>
+        <translation>共享文件夹 50</translation>
+    </message>
+    <message>
+        <source>Shared Folder 51</source>
+        <translation>共享文件夹 51</translation>
+    </message>
+    <message>
+        <source>Shared Folder 52</source>
+        <translation>共享文件夹 52</translation>
+    </message>
+    <message>
+        <source>Shared Folder 53</source>
+        <translation>共享文件夹 53</translation>
+    </message>
+    <message>
+        <source>Shared Folder 54</source>
+        <translation>共享文件夹 54</translation>
+    </message>
+    <message>
+        <source>Shared Folder 55</source>
+        <translation>共享文件夹 55</translation>
+    </message>
+    <message>
+        <source>Shared Folder 56</source>
+        <translation>共享文件夹 56</translation>
+    </message>
+    <message>
+        <source>Shared Folder 57</source>
+        <translation>共享文件夹 57</translation>
+    </message>
+    <message>
+        <source>Shared Folder 58</source>
+        <translation>共享文件夹 58</translation>
+    </message>
+    <message>
+        <source>Shared Folder 59</source>
+        <translation>共享文件夹 59</translation>
+    </message>
+    <message>
+        <source>Shared Folder 60</source>
+        <translation>共享文件夹 60</translation>
+    </message>
+    <message>
+        <source>Shared Folder 61</source>
+        <translation>共享文件夹 61</translation>
+    </message>
+    <message>
+        <source>Shared Folder 62</source>
+        <translation>共享文件夹 62</translation>
+    </message>
+    <message>
+        <source>Shared Folder 63</source>
+        <translation>共享文件夹 63</translation>
+    </message>
+    <message>
+        <source>Shared Folder 64</source>
+        <translation>共享文件夹 64</translation>
+    </message>
+    <message>
+        <source>Shared Folder 65</source>
+        <translation>共享文件夹 65</translation>
+    </message>
+    <message>
+        <source>Shared Folder 66</source>
+        <translation>共享文件夹 66</translation>
+    </message>
+    <message>
+        <source>Shared Folder 67</source>
+        <translation>共享文件夹 67</translation>
+    </message>
+    <message>
+        <source>Shared Folder 68</source>
+        <translation>共享文件夹 68</translation>
+    </message>
+    <message>
+        <source>Shared Folder 69</source>
+        <translation>共享文件夹 69</translation>
+    </message>
+    <message>
+        <source>Shared Folder 70</source>
+        <translation>共享文件夹 70</translation>
+    </message>
+    <message>
+        <source>Shared Folder 71</source>
+        <translation>共享文件夹 71</translation>
+    </message>
+    <message>
+        <source>Shared Folder 72</source>
+        <translation>共享文件夹 72</translation>
+    </message>
+    <message>
+        <source>Shared Folder 73</source>
+        <translation>共享文件夹 73</translation>
+    </message>
+    <message>
+        <source>Shared Folder 74</source>
+        <translation>共享文件夹 74</translation>
+    </message>
+    <message>
+        <source>Shared Folder 75</source>
+        <translation>共享文件夹 75</translation>
+    </message>
+    <message>
+        <source>Shared Folder 76</source>
+        <translation>共享文件夹 76</translation>
+    </message>
+    <message>
+        <source>Shared Folder 77</source>
+        <translation>共享文件夹 77</translation>
+    </message>
+    <message>
+        <source>Shared Folder 78</source>
+        <translation>共享文件夹 78</translation>
+    </message>
+    <message>
+        <source>Shared Folder 79</source>
+        <translation>共享文件夹 79</translation>
+    </message>
+    <message>
+        <source>Shared Folder 80</source>
+        <translation>共享文件夹 80</translation>
+    </message>
+    <message>
+        <source>Shared Folder 81</source>
+        <translation>共享文件夹 81</translation>
+    </message>
+    <message>
+        <source>Shared Folder 82</source>
+        <translation>共享文件夹 82</translation>
+    </message>
+    <message>
+        <source>Shared Folder 83</source>
+        <translation>共享文件夹 83</translation>
+    </message>
+    <message>
+        <source>Shared Folder 84</source>
+        <translation>共享文件夹 84</translation>
+    </message>
+    <message>
+        <source>Shared Folder 85</source>
+        <translation>共享文件夹 85</translation>
+    </message>
+    <message>
+        <source>Shared Folder 86</source>
+        <translation>共享文件夹 86</translation>
+    </message>
+    <message>
+        <source>Shared Folder 87</source>
+        <translation>共享文件夹 87</translation>
+    </message>
+    <message>
+        <source>Shared Folder 88</source>
+        <translation>共享文件夹 88</translation>
+    </message>
+    <message>
+        <source>Shared Folder 89</source>
+        <translation>共享文件夹 89</translation>
+    </message>
+    <message>
+        <source>Shared Folder 90</source>
+        <translation>共享文件夹 90</translation>
+    </message>
+    <message>
+        <source>Shared Folder 91</source>
+        <translation>共享文件夹 91</translation>
+    </message>
+    <message>
+        <source>Shared Folder 92</source>
+        <translation>共享文件夹 92</translation>
+    </message>
+    <message>
+        <source>Shared Folder 93</source>
+        <translation>共享文件夹 93</translation>
+    </message>
+    <message>
+        <source>Shared Folder 94</source>
+        <translation>共享文件夹 94</translation>
+    </message>
+    <message>
+        <source>Shared Folder 95</source>
+        <translation>共享文件夹 95</translation>
+    </message>
+    <message>
+        <source>Shared Folder 96</source>
+        <translation>共享文件夹 96</translation>
+    </message>
+    <message>
+        <source>Shared Folder 97</source>
+        <translation>共享文件夹 97</translation>
+    </message>
+    <message>
+        <source>Shared Folder 98</source>
+        <translation>共享文件夹 98</translation>
+    </message>
+    <message>
+        <source>Shared Folder 99</source>
+        <translation>共享文件夹 99</translation>
+    </message>
+    <message>
+        <source>Shared Folder 100</source>
+        <translation>共享文件夹 100</translation>
+    </message>
+</context>
+</TS>

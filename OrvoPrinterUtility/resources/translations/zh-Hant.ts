@@ -1,0 +1,503 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="zh_TW">
+<context>
+    <name>Localizable</name>
+    <message>
+        <source> - Utility</source>
+        <translation> - 公用程式</translation>
+    </message>
+    <message>
+        <source>Orvo Printer Utility</source>
+        <translation>Orvo 印表機公用程式</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>確定</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>關閉</translation>
+    </message>
+    <message>
+        <source>IntroText</source>
+        <translation>為此印表機佇列設定印表機的共用資料夾、表單、條碼區域定義與色彩設定檔。</translation>
+    </message>
+    <message>
+        <source>SNMP Community Name</source>
+        <translation>SNMP 社群名稱</translation>
+    </message>
+    <message>
+        <source>IDS_SNMP_PROHIBIT_CHARACTER_ERROR</source>
+        <translation>SNMP 社群名稱中不能使用此字元。</translation>
+    </message>
+    <message>
+        <source>Wake On LAN</source>
+        <translation>網路喚醒</translation>
+    </message>
+    <message>
+        <source>MAC Address of the Printer:</source>
+        <translation>印表機的 MAC 位址:</translation>
+    </message>
+    <message>
+        <source>Connect to Another Network</source>
+        <translation>連線到其他網路</translation>
+    </message>
+    <message>
+        <source>IP address of the printer:</source>
+        <translation>印表機的 IP 位址:</translation>
+    </message>
+    <message>
+        <source>Get Printer Info</source>
+        <translation>取得印表機資訊</translation>
+    </message>
+    <message>
+        <source>Getting information from printer...</source>
+        <translation>正在從印表機取得資訊...</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>資料夾</translation>
+    </message>
+    <message>
+        <source>Form</source>
+        <translation>表單</translation>
+    </message>
+    <message>
+        <source>Barcode area definition</source>
+        <translation>條碼區域定義</translation>
+    </message>
+    <message>
+        <source>Color profile</source>
+        <translation>色彩設定檔</translation>
+    </message>
+    <message>
+        <source>Shared folder in the printer</source>
+        <translation>印表機中的共用資料夾</translation>
+    </message>
+    <message>
+        <source>Register folder</source>
+        <translation>登錄資料夾</translation>
+    </message>
+    <message>
+        <source>Add -&gt;</source>
+        <translation>新增 -&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;- Delete</source>
+        <translation>&lt;- 刪除</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>清除</translation>
+    </message>
+    <message>
+        <source>Use Personal folder</source>
+        <translation>使用個人資料夾</translation>
+    </message>
+    <message>
+        <source>Failed to obtain information.</source>
+        <translation>無法取得資訊。</translation>
+    </message>
+    <message>
+        <source>Shared Folder 1</source>
+        <translation>共用資料夾 1</translation>
+    </message>
+    <message>
+        <source>Shared Folder 2</source>
+        <translation>共用資料夾 2</translation>
+    </message>
+    <message>
+        <source>Shared Folder 3</source>
+        <translation>共用資料夾 3</translation>
+    </message>
+    <message>
+        <source>Shared Folder 4</source>
+        <translation>共用資料夾 4</translation>
+    </message>
+    <message>
+        <source>Shared Folder 5</source>
+        <translation>共用資料夾 5</translation>
+    </message>
+    <message>
+        <source>Shared Folder 6</source>
+        <translation>共用資料夾 6</translation>
+    </message>
+    <message>
+        <source>Shared Folder 7</source>
+        <translation>共用資料夾 7</translation>
+    </message>
+    <message>
+        <source>Shared Folder 8</source>
+        <translation>共用資料夾 8</translation>
+    </message>
+    <message>
+        <source>Shared Folder 9</source>
+        <translation>共用資料夾 9</translation>
+    </message>
+    <message>
+        <source>Shared Folder 10</source>
+        <translation>共用資料夾 10</translation>
+    </message>
+    <message>
+        <source>Shared Folder 11</source>
+        <translation>共用資料夾 11</translation>
+    </message>
+    <message>
+        <source>Shared Folder 12</source>
+        <translation>共用資料夾 12</translation>
+    </message>
+    <message>
+        <source>Shared Folder 13</source>
+        <translation>共用資料夾 13</translation>
+    </message>
+    <message>
+        <source>Shared Folder 14</source>
+        <translation>共用資料夾 14</translation>
+    </message>
+    <message>
+        <source>Shared Folder 15</source>
+        <translation>共用資料夾 15</translation>
+    </message>
+    <message>
+        <source>Shared Folder 16</source>
+        <translation>共用資料夾 16</translation>
+    </message>
+    <message>
+        <source>Shared Folder 17</source>
+        <translation>共用資料夾 17</translation>
+    </message>
+    <message>
+        <source>Shared Folder 18</source>
+        <translation>共用資料夾 18</translation>
+    </message>
+    <message>
+        <source>Shared Folder 19</source>
+        <translation>共用資料夾 19</translation>
+    </message>
+    <message>
+        <source>Shared Folder 20</source>
+        <translation>共用資料夾 20</translation>
+    </message>
+    <message>
+        <source>Shared Folder 21</source>
+        <translation>共用資料夾 21</translation>
+    </message>
+    <message>
+        <source>Shared Folder 22</source>
+        <translation>共用資料夾 22</translation>
+    </message>
+    <message>
+        <source>Shared Folder 23</source>
+        <translation>共用資料夾 23</translation>
+    </message>
+    <message>
+        <source>Shared Folder 24</source>
+        <translation>共用資料夾 24</translation>
+    </message>
+    <message>
+        <source>Shared Folder 25</source>
+        <translation>共用資料夾 25</translation>
+    </message>
+    <message>
+        <source>Shared Folder 26</source>
+        <translation>共用資料夾 26</translation>
+    </message>
+    <message>
+        <source>Shared Folder 27</source>
+        <translation>共用資料夾 27</translation>
+    </message>
+    <message>
+        <source>Shared Folder 28</source>
+        <translation>共用資料夾 28</translation>
+    </message>
+    <message>
+        <source>Shared Folder 29</source>
+        <translation>共用資料夾 29</translation>
+    </message>
+    <message>
+        <source>Shared Folder 30</source>
+        <translation>共用資料夾 30</translation>
+    </message>
+    <message>
+        <source>Shared Folder 31</source>
+        <translation>共用資料夾 31</translation>
+    </message>
+    <message>
+        <source>Shared Folder 32</source>
+        <translation>共用資料夾 32</translation>
+    </message>
+    <message>
+        <source>Shared Folder 33</source>
+        <translation>共用資料夾 33</translation>
+    </message>
+    <message>
+        <source>Shared Folder 34</source>
+        <translation>共用資料夾 34</translation>
+    </message>
+    <message>
+        <source>Shared Folder 35</source>
+        <translation>共用資料夾 35</translation>
+    </message>
+    <message>
+        <source>Shared Folder 36</source>
+        <translation>共用資料夾 36</translation>
+    </message>
+    <message>
+        <source>Shared Folder 37</source>
+        <translation>共用資料夾 37</translation>
+    </message>
+    <message>
+        <source>Shared Folder 38</source>
+        <translation>共用資料夾 38</translation>
+    </message>
+    <message>
+        <source>Shared Folder 39</source>
+        <translation>共用資料夾 39</translation>
+    </message>
+    <message>
+        <source>Shared Folder 40</source>
+        <translation>共用資料夾 40</translation>
+    </message>
+    <message>
+        <source>Shared Folder 41</source>
+        <translation>共用資料夾 41</translation>
+    </message>
+    <message>
+        <source>Shared Folder 42</source>
+        <translation>共用資料夾 42</translation>
+    </message>
+    <message>
+        <source>Shared Folder 43</source>
+        <translation>共用資料夾 43</translation>
+    </message>
+    <message>
+        <source>Shared Folder 44</source>
+        <translation>共用資料夾 44</translation>
+    </message>
+    <message>
+        <source>Shared Folder 45</source>
+        <translation>共用資料夾 45</translation>
+    </message>
+    <message>
+        <source>Shared Folder 46</source>
+        <translation>共用資料夾 46</translation>
+    </message>
+    <message>
+        <source>Shared Folder 47</source>
+        <translation>共用資料夾 47</translation>
+    </message>
+    <message>
+        <source>Shared Folder 48</source>
+        <translation>共用資料夾 48</translation>
+    </message>
+    <message>
+        <source>Shared Folder 49</source>
+        <translation>共用資料夾 49</translation>
+    </message>
+    <message>
+        <source>Shared Folder 50</source>
+        <translation>共用資料夾 50</translation>
+    </message>
+    <message>
+        <source>Shared Folder 51</source>
+        <translation>共用資料夾 51</translation>
+    </message>
+    <message>
+        <source>Shared Folder 52</source>
+        <translation>共用資料夾 52</translation>
+    </message>
+    <message>
+        <source>Shared Folder 53</source>
+        <translation>共用資料夾 53</translation>
+    </message>
+    <message>
+        <source>Shared Folder 54</source>
+        <translation>共用資料夾 54</translation>
+    </message>
+    <message>
+        <source>Shared Folder 55</source>
+        <translation>共用資料夾 55</translation>
+    </message>
+    <message>
+        <source>Shared Folder 56</source>
+        <translation>共用資料夾 56</translation>
+    </message>
+    <message>
+        <source>Shared Folder 57</source>
+        <translation>共用資料夾 57</translation>
+    </message>
+    <message>
+        <source>Shared Folder 58</source>
+        <translation>共用資料夾 58</translation>
+    </message>
+    <message>
+        <source>Shared Folder 59</source>
+        <translation>共用資料夾 59</translation>
+    </message>
+    <message>
+        <source>Shared Folder 60</source>
+        <translation>共用資料夾 60</translation>
+    </message>
+    <message>
+        <source>Shared Folder 61</source>
+        <translation>共用資料夾 61</translation>
+    </message>
+    <message>
+        <source>Shared Folder 62</source>
+        <translation>共用資料夾 62</translation>
+    </message>
+    <message>
+        <source>Shared Folder 63</source>
+        <translation>共用資料夾 63</translation>
+    </message>
+    <message>
+        <source>Shared Folder 64</source>
+        <translation>共用資料夾 64</translation>
+    </message>
+    <message>
+        <source>Shared Folder 65</source>
+        <translation>共用資料夾 65</translation>
+    </message>
+    <message>
+        <source>Shared Folder 66</source>
+        <translation>共用資料夾 66</translation>
+    </message>
+    <message>
+        <source>Shared Folder 67</source>
+        <translation>共用資料夾 67</translation>
+    </message>
+    <message>
+        <source>Shared Folder 68</source>
+        <translation>共用資料夾 68</translation>
+    </message>
+    <message>
+        <source>Shared Folder 69</source>
+        <translation>共用資料夾 69</translation>
+    </message>
+    <message>
+        <source>Shared Folder 70</source>
+        <translation>共用資料夾 70</translation>
+    </message>
+    <message>
+        <source>Shared Folder 71</source>
+        <translation>共用資料夾 71</translation>
+    </message>
+    <message>
+        <source>Shared Folder 72</source>
+        <translation>共用資料夾 72</translation>
+    </message>
+    <message>
+        <source>Shared Folder 73</source>
+        <translation>共用資料夾 73</translation>
+    </message>
+    <message>
+        <source>Shared Folder 74</source>
+        <translation>共用資料夾 74</translation>
+    </message>
+    <message>
+        <source>Shared Folder 75</source>
+        <translation>共用資料夾 75</translation>
+    </message>
+    <message>
+        <source>Shared Folder 76</source>
+        <translation>共用資料夾 76</translation>
+    </message>
+    <message>
+        <source>Shared Folder 77</source>
+        <translation>共用資料夾 77</translation>
+    </message>
+    <message>
+        <source>Shared Folder 78</source>
+        <translation>共用資料夾 78</translation>
+    </message>
+    <message>
+        <source>Shared Folder 79</source>
+        <translation>共用資料夾 79</translation>
+    </message>
+    <message>
+        <source>Shared Folder 80</source>
+        <translation>共用資料夾 80</translation>
+    </message>
+    <message>
+        <source>Shared Folder 81</source>
+        <translation>共用資料夾 81</translation>
+    </message>
+    <message>
+        <source>Shared Folder 82</source>
+        <translation>共用資料夾 82</translation>
+    </message>
+    <message>
+        <source>Shared Folder 83</source>
+        <translation>共用資料夾 83</translation>
+    </message>
+    <message>
+        <source>Shared Folder 84</source>
+        <translation>共用資料夾 84</translation>
+    </message>
+    <message>
+        <source>Shared Folder 85</source>
+        <translation>共用資料夾 85</translation>
+    </message>
+    <message>
+        <source>Shared Folder 86</source>
+        <translation>共用資料夾 86</translation>
+    </message>
+    <message>
+        <source>Shared Folder 87</source>
+        <translation>共用資料夾 87</translation>
+    </message>
+    <message>
+        <source>Shared Folder 88</source>
+        <translation>共用資料夾 88</translation>
+    </message>
+    <message>
+        <source>Shared Folder 89</source>
+        <translation>共用資料夾 89</translation>
+    </message>
+    <message>
+        <source>Shared Folder 90</source>
+        <translation>共用資料夾 90</translation>
+    </message>
+    <message>
+        <source>Shared Folder 91</source>
+        <translation>共用資料夾 91</translation>
+    </message>
+    <message>
+        <source>Shared Folder 92</source>
+        <translation>共用資料夾 92</translation>
+    </message>
+    <message>
+        <source>Shared Folder 93</source>
+        <translation>共用資料夾 93</translation>
+    </message>
+    <message>
+        <source>Shared Folder 94</source>
+        <translation>共用資料夾 94</translation>
+    </message>
+    <message>
+        <source>Shared Folder 95</source>
+        <translation>共用資料夾 95</translation>
+    </message>
+    <message>
+        <source>Shared Folder 96</source>
+        <translation>共用資料夾 96</translation>
+    </message>
+    <message>
+        <source>Shared Folder 97</source>
+        <translation>共用資料夾 97</translation>
+    </message>
+    <message>
+        <source>Shared Folder 98</source>
+        <translation>共用資料夾 98</translation>
+    </message>
+    <message>
+        <source>Shared Folder 99</source>
+        <translation>共用資料夾 99</translation>
+    </message>
+    <message>
+        <source>Shared Folder 100</source>
+        <translation>共用資料夾 100</translation>
+    </message>
+</context>
+</TS>
