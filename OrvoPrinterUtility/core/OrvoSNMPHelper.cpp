@@ -11,6 +11,8 @@
 #include <cstring>
 #include <functional>
 #include <limits>
+#include <optional>
+#include <string>
 
 namespace K = OrvoSettingsKeywords;
 
@@ -36,22 +38,24 @@ qsizetype withoutIncompleteTail(const QByteArray &bytes) {
     return present < needed ? lead - 1 : bytes.size();
 }
 
+// A null string when the bytes are not valid UTF-8.
 QString strictUtf8(const QByteArray &bytes) {
-    QStringDecoder decoder(QStringConverter::Utf8, QStringConverter::Flag::ConvertInitialBom);
-    QString text = decoder.decode(bytes.left(withoutIncompleteTail(bytes)));
+    QStringDecoder decoder(QStringConverter::Utf8, QStringConverter::Flag::ConvertInitialBom |
+                                                       QStringConverter::Flag::Stateless);
+    QString text = decoder.decode(bytes);
     if (decoder.hasError())
         return QString();
     return text.isNull() ? QString("") : text;
 }
 
-// A null string when the base64 text cannot be decoded into valid text.
-QString decodeBase64(const char *encoded) {
+// The decoded bytes up to the first NUL; nullopt when decoding fails.
+std::optional<QByteArray> decodeBase64(const char *encoded) {
     char decoded[K::bufferSize] = {};
     int length = sizeof decoded;
     if (!httpDecode64_2(decoded, &length, encoded))
-        return QString();
-    const auto used = qsizetype(strnlen(decoded, size_t(std::clamp(length, 0, K::bufferSize))));
-    return strictUtf8(QByteArray(decoded, used));
+        return std::nullopt;
+    return QByteArray(decoded,
+                      qsizetype(strnlen(decoded, size_t(std::clamp(length, 0, K::bufferSize)))));
 }
 
 qint32 leadingDecimal(const QString &text) {
@@ -84,7 +88,8 @@ QString OrvoSNMPHelper::getPPDAttributeValueForName(const char *name, ppd_file_t
 
 QString OrvoSNMPHelper::getDecodedPPDAttributeValueForName(const char *name, ppd_file_t *ppdFile) {
     const char *value = attributeValue(name, ppdFile);
-    return value ? decodeBase64(value) : QString();
+    const std::optional<QByteArray> bytes = value ? decodeBase64(value) : std::nullopt;
+    return bytes ? strictUtf8(*bytes) : QString();
 }
 
 QString OrvoSNMPHelper::getDecodedPPDAttributeMaltiPartValueForName(const char *name,
@@ -92,11 +97,9 @@ QString OrvoSNMPHelper::getDecodedPPDAttributeMaltiPartValueForName(const char *
     char joined[K::bufferSize] = {};
     size_t used = 0;
     char partName[partNameSize];
+    const std::string partNameFormat = std::string("%s") + K::partSuffixFormat;
     for (int part = 1; part <= K::partCount; ++part) {
-        const int stem = std::snprintf(partName, sizeof partName, "%s", name);
-        if (stem >= 0 && size_t(stem) < sizeof partName)
-            std::snprintf(partName + stem, sizeof partName - size_t(stem), K::partSuffixFormat,
-                          part);
+        std::snprintf(partName, sizeof partName, partNameFormat.c_str(), name, part);
         const char *value = attributeValue(partName, ppdFile);
         if (!value)
             continue;
@@ -106,7 +109,11 @@ QString OrvoSNMPHelper::getDecodedPPDAttributeMaltiPartValueForName(const char *
             used += length;
         }
     }
-    const QString decoded = decodeBase64(joined);
+    // The 900-byte limit of a stored value can cut its last character; only
+    // that character is dropped.
+    const std::optional<QByteArray> bytes = decodeBase64(joined);
+    const QString decoded =
+        bytes ? strictUtf8(bytes->left(withoutIncompleteTail(*bytes))) : QString();
     return decoded.isEmpty() ? QString("") : decoded;
 }
 

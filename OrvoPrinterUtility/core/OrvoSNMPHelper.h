@@ -10,11 +10,12 @@
 // Absent, null or undecodable values read as each setting's default; nothing
 // here reports an error.
 //
-// Decoded text that is not valid UTF-8 counts as a failed decoding (so the
+// Decoded text that is not valid UTF-8 counts as a failed decoding, so the
 // setting keeps its default and no replacement characters are shown or saved
-// back), except for an incomplete character at the very end: the multi-part
-// limit can cut a name inside a character, and dropping only that tail keeps
-// the rest of the name. Decoded text ends at its first NUL byte.
+// back. The one exception is an incomplete character at the very end of a
+// multi-part value: its 900-byte limit can cut a name inside a character, and
+// dropping only that character keeps the rest of the name. Decoded text ends
+// at its first NUL byte.
 class OrvoSNMPHelper {
 public:
     // The plain value; "" when absent, null or empty. Never a null string.

@@ -119,6 +119,7 @@ INSTANTIATE_TEST_SUITE_P(
                       DecodedCase{"Japanese", b64(QString("共有フォルダ")), "共有フォルダ",
                                   "共有フォルダ"},
                       DecodedCase{"InvalidUtf8", b64(QByteArray("ab\xff\xfe")), "cobalt", ""},
+                      DecodedCase{"CutCharacter", b64(QByteArray("ab\xe3\x81")), "cobalt", ""},
                       DecodedCase{"StopsAtNul", b64(QByteArray("ab\0cd", 5)), "ab", "ab"}),
     [](const auto &info) { return std::string(info.param.name); });
 
