@@ -26,7 +26,9 @@ QByteArray flag(bool on) {
 QByteArray encodeBase64(const QString &text) {
     char encoded[K::bufferSize] = {};
     const QByteArray utf8 = text.toUtf8();
-    httpEncode64_2(encoded, sizeof encoded, utf8.constData(), int(utf8.size()));
+    // More input than the buffer holds would only be cut off.
+    const auto length = int(std::min<qsizetype>(utf8.size(), K::bufferSize));
+    httpEncode64_2(encoded, sizeof encoded, utf8.constData(), length);
     return QByteArray(encoded);
 }
 
