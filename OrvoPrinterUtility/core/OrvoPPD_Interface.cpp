@@ -12,8 +12,8 @@ int r_ppdLocalize(ppd_file_t *ppd) {
     return ppdLocalize(ppd);
 }
 
-ppd_attr_t *r_ppdFindAttr(ppd_file_t *ppd, const char *name, const char *spec) {
-    return ppdFindAttr(ppd, name, spec);
+ppd_attr_t *r_ppdFindAttr(ppd_file_t *ppd, const char *name, const char *qualifier) {
+    return ppdFindAttr(ppd, name, qualifier);
 }
 
 ppd_option_t *r_ppdFindOption(ppd_file_t *ppd, const char *keyword) {

@@ -10,7 +10,7 @@
 ppd_file_t *r_ppdOpenFile(const char *filename);
 void r_ppdClose(ppd_file_t *ppd);
 int r_ppdLocalize(ppd_file_t *ppd);
-ppd_attr_t *r_ppdFindAttr(ppd_file_t *ppd, const char *name, const char *spec);
+ppd_attr_t *r_ppdFindAttr(ppd_file_t *ppd, const char *name, const char *qualifier);
 ppd_option_t *r_ppdFindOption(ppd_file_t *ppd, const char *keyword);
 ppd_choice_t *r_ppdFindChoice(ppd_option_t *option, const char *choice);
 int r_ppdMarkOption(ppd_file_t *ppd, const char *keyword, const char *option);
