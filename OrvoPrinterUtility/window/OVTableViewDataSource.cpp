@@ -130,6 +130,7 @@ void OVTableViewDataSource::reload(const QStringList &elements) {
     const int oldCount = rowCount();
     const int newCount = int(elements.size());
     if (newCount < oldCount) {
+        releaseCurrentRowFrom(newCount);
         beginRemoveRows({}, newCount, oldCount - 1);
         m_elementsArray = elements;
         endRemoveRows();
@@ -143,6 +144,18 @@ void OVTableViewDataSource::reload(const QStringList &elements) {
     const int kept = std::min(oldCount, newCount);
     if (kept > 0) {
         emit dataChanged(index(0, 0), index(kept - 1, 0), {Qt::DisplayRole});
+    }
+}
+
+void OVTableViewDataSource::releaseCurrentRowFrom(int firstRemovedRow) {
+    if (!m_tableView) {
+        return;
+    }
+    // A view whose current row goes away moves the selection to a
+    // neighbour; the table only drops the rows that no longer exist.
+    QItemSelectionModel *selection = m_tableView->selectionModel();
+    if (selection->currentIndex().row() >= firstRemovedRow) {
+        selection->setCurrentIndex({}, QItemSelectionModel::NoUpdate);
     }
 }
 

@@ -69,6 +69,7 @@ private:
     // Swaps in a new list the way a table reloads: rows past the new end go
     // (with their selection), the rest keep their selection and show new text.
     void reload(const QStringList &elements);
+    void releaseCurrentRowFrom(int firstRemovedRow);
     void replaceSelectionWithRow(int row);
     int tableSelectedRow() const;
 
