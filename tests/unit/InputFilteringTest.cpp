@@ -48,6 +48,14 @@ INSTANTIATE_TEST_SUITE_P(
         FilterCase{"nullString", QString(), "ab", QString()}),
     [](const auto &info) { return std::string(info.param.name); });
 
+TEST(OrvoHelperTest, communitySetsHaveTheirExactUnits) {
+    EXPECT_EQ(communitySet.size(), 76);
+    EXPECT_EQ(communitySet.count(QChar(0x200B)), 2);
+    EXPECT_EQ(ControlSets::communityInvalid().size(), 21);
+    EXPECT_FALSE(OrvoHelper::isValidString("-", communitySet));
+    EXPECT_FALSE(OrvoHelper::isValidString(" ", communitySet));
+}
+
 TEST(OrvoHelperTest, nullStringsAreValidAndTrimToEmpty) {
     EXPECT_TRUE(OrvoHelper::isValidString(QString(), QStringLiteral("")));
     EXPECT_TRUE(OrvoHelper::deleteCharFromString(QString(), u'a').isNull());
