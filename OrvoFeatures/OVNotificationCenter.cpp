@@ -7,18 +7,31 @@ OVNotificationCenter &OVNotificationCenter::defaultCenter() {
     return center;
 }
 
+OVNotificationCenter::~OVNotificationCenter() {
+    for (const auto &[token, entry] : m_entries) {
+        QObject::disconnect(entry.contextGone);
+    }
+}
+
 OVNotificationCenter::Token OVNotificationCenter::addObserver(const QString &name,
                                                               Observer observer, QObject *context) {
     const Token token = m_nextToken++;
-    m_entries.emplace(token, Entry{name, std::move(observer), context != nullptr, context});
+    Entry entry{name, std::move(observer), context != nullptr, context, {}};
     if (context != nullptr) {
-        QObject::connect(context, &QObject::destroyed, [this, token] { removeObserver(token); });
+        entry.contextGone = QObject::connect(context, &QObject::destroyed,
+                                             [this, token] { removeObserver(token); });
     }
+    m_entries.emplace(token, std::move(entry));
     return token;
 }
 
 void OVNotificationCenter::removeObserver(Token token) {
-    m_entries.erase(token);
+    const auto found = m_entries.find(token);
+    if (found == m_entries.end()) {
+        return;
+    }
+    QObject::disconnect(found->second.contextGone);
+    m_entries.erase(found);
 }
 
 void OVNotificationCenter::postNotification(const QString &name, const QVariant &object,

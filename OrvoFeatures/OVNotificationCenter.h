@@ -16,6 +16,11 @@ public:
     using Observer = std::function<void(const OVNotification &)>;
     using Token = quint64;
 
+    OVNotificationCenter() = default;
+    ~OVNotificationCenter();
+    OVNotificationCenter(const OVNotificationCenter &) = delete;
+    OVNotificationCenter &operator=(const OVNotificationCenter &) = delete;
+
     static OVNotificationCenter &defaultCenter();
 
     // When `context` is given the observer goes away with it.
@@ -32,6 +37,7 @@ private:
         Observer observer;
         bool hasContext = false;
         QPointer<QObject> context;
+        QMetaObject::Connection contextGone;
     };
 
     std::map<Token, Entry> m_entries;

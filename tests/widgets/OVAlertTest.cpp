@@ -10,51 +10,34 @@
 
 namespace {
 
-struct ButtonCase {
-    const char *name;
-    QString defaultTitle;
-    QString alternateTitle;
-    QString otherTitle;
-    QStringList panelOrder;
-    QList<int> resultPerButton;
-};
-
-class AlertButtonTest : public ::testing::TestWithParam<ButtonCase> {};
-
-TEST_P(AlertButtonTest, panelOrderAndResults) {
-    const ButtonCase &c = GetParam();
-    for (int pressed = 0; pressed < c.resultPerButton.size(); ++pressed) {
-        AlertRecorder recorder(pressed);
-        const auto alert = OVAlert::alertWithMessageText("Message", c.defaultTitle,
-                                                         c.alternateTitle, c.otherTitle, "%@");
-        EXPECT_EQ(alert->buttonTitles(), c.panelOrder);
-        EXPECT_EQ(alert->runModal(), c.resultPerButton[pressed]) << "button " << pressed;
+TEST(OVAlertTest, panelOrderAndResults) {
+    const struct {
+        QString defaultTitle, alternateTitle, otherTitle;
+        QStringList panelOrder;
+        QList<int> resultPerButton;
+    } cases[] = {
+        {QString(), QString(), QString(), {"OK"}, {1}},
+        {"Save", "Cancel", QString(), {"Save", "Cancel"}, {1, 0}},
+        {"Save", "Cancel", "Discard", {"Save", "Discard", "Cancel"}, {1, -1, 0}},
+        {"Save", QString(), "Discard", {"Save", "Discard"}, {1, -1}},
+    };
+    for (const auto &c : cases) {
+        // Index -1 stands for closing the panel without a button.
+        for (int pressed = -1; pressed < c.resultPerButton.size(); ++pressed) {
+            AlertRecorder recorder(pressed);
+            const auto alert = OVAlert::alertWithMessageText("Message", c.defaultTitle,
+                                                             c.alternateTitle, c.otherTitle, "%@");
+            EXPECT_EQ(alert->buttonTitles(), c.panelOrder);
+            EXPECT_EQ(alert->runModal(), pressed < 0 ? 1 : c.resultPerButton[pressed])
+                << c.panelOrder.join(",").toStdString() << " button " << pressed;
+        }
     }
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Titles, AlertButtonTest,
-    ::testing::Values(
-        ButtonCase{"none", QString(), QString(), QString(), {"OK"}, {1}},
-        ButtonCase{"defaultAndAlternate", "Save", "Cancel", QString(), {"Save", "Cancel"}, {1, 0}},
-        ButtonCase{"all", "Save", "Cancel", "Discard", {"Save", "Discard", "Cancel"}, {1, -1, 0}},
-        ButtonCase{"defaultAndOther", "Save", QString(), "Discard", {"Save", "Discard"}, {1, -1}}),
-    [](const auto &info) { return std::string(info.param.name); });
-
-TEST(OVAlertTest, closingWithoutAButtonAnswersDefault) {
-    AlertRecorder recorder(-1);
-    const auto alert = OVAlert::alertWithMessageText("m", "A", "B", "C", QString());
-    EXPECT_EQ(alert->runModal(), OVAlert::DefaultReturn);
 }
 
 TEST(OVAlertTest, informativeTextFillsFormat) {
     const auto alert = OVAlert::alertWithMessageText(QString(), QString(), QString(), QString(),
-                                                     "%@ of %@ at 100%%", {"3", "5"});
-    EXPECT_EQ(alert->informativeText(), "3 of 5 at 100%");
-    EXPECT_TRUE(alert->text().isEmpty());
-    const auto missing =
-        OVAlert::alertWithMessageText("m", QString(), QString(), QString(), "%@ and %@", {"one"});
-    EXPECT_EQ(missing->informativeText(), "one and ");
+                                                     "%@ of %@ at 100%% %@", {"3", "5"});
+    EXPECT_EQ(alert->informativeText(), "3 of 5 at 100% ");
 }
 
 // A real dialog, answered from a timer: the first button sits rightmost, as
