@@ -8,7 +8,10 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstring>
+#include <map>
 #include <mutex>
+#include <string>
+#include <vector>
 
 namespace {
 
@@ -82,11 +85,31 @@ void prepareLibrary() {
     });
 }
 
-QList<QByteArray> family(const char *prefix, int count) {
-    QList<QByteArray> oids;
+using Identifiers = std::vector<std::vector<oid>>;
+
+std::vector<oid> parsed(const QByteArray &text) {
+    prepareLibrary();
+    std::array<oid, MAX_OID_LEN> name{};
+    size_t length = name.size();
+    if (!snmp_parse_oid(text.constData(), name.data(), &length))
+        return {};
+    return std::vector<oid>(name.begin(), name.begin() + qsizetype(length));
+}
+
+// The identifiers of a scalar (count 0) or of rows 1..count of a column. The
+// texts are fixed data, so each is parsed once, not on every request.
+const Identifiers &identifiers(const char *text, int count = 0) {
+    static std::mutex mutex;
+    static std::map<std::pair<std::string, int>, Identifiers> cache;
+    std::lock_guard lock(mutex);
+    Identifiers &result = cache[{text, count}];
+    if (!result.empty())
+        return result;
+    if (count == 0)
+        result.push_back(parsed(text));
     for (int index = 1; index <= count; ++index)
-        oids.append(QByteArray(prefix) + '.' + QByteArray::number(index));
-    return oids;
+        result.push_back(parsed(QByteArray(text) + '.' + QByteArray::number(index)));
+    return result;
 }
 
 // Text up to the first zero byte, as UTF-8; nothing if it is not UTF-8.
@@ -123,20 +146,18 @@ void readResponse(const netsnmp_pdu *response, u_char type, Answer &answer) {
         answer.values.append(readVariable(var, type));
 }
 
-netsnmp_pdu *buildRequest(const QList<QByteArray> &oids) {
+netsnmp_pdu *buildRequest(const Identifiers &names) {
     netsnmp_pdu *request = snmp_pdu_create(SNMP_MSG_GET);
-    std::array<oid, MAX_OID_LEN> name{};
-    for (const QByteArray &text : oids) {
-        size_t length = name.size();
-        if (snmp_parse_oid(text.constData(), name.data(), &length))
-            snmp_add_null_var(request, name.data(), length);
+    for (const std::vector<oid> &name : names) {
+        if (!name.empty())
+            snmp_add_null_var(request, name.data(), name.size());
     }
     return request;
 }
 
 // One synchronous get request in its own session, torn down before returning.
 Answer exchange(const char *address, const QString &community, SessionSettings settings,
-                const QList<QByteArray> &oids, u_char type) {
+                const Identifiers &names, u_char type) {
     prepareLibrary();
     Answer answer;
     OVSNMPHelper::PeerName peerName;
@@ -156,7 +177,7 @@ Answer exchange(const char *address, const QString &community, SessionSettings s
     if (!session)
         return answer;
     netsnmp_pdu *response = nullptr;
-    answer.status = snmp_synch_response(session, buildRequest(oids), &response);
+    answer.status = snmp_synch_response(session, buildRequest(names), &response);
     readResponse(response, type, answer);
     if (response)
         snmp_free_pdu(response);
@@ -167,7 +188,7 @@ Answer exchange(const char *address, const QString &community, SessionSettings s
 bool listQuery(QStringList &array, const char *prefix, int count, u_char type, const char *address,
                const QString &community, SessionSettings settings = {}) {
     array.clear();
-    const Answer answer = exchange(address, community, settings, family(prefix, count), type);
+    const Answer answer = exchange(address, community, settings, identifiers(prefix, count), type);
     if (!answer.complete(count))
         return false;
     for (const auto &value : answer.values)
@@ -233,7 +254,8 @@ const QStringList &OVSNMPHelper::colorProfileNameArray() {
 }
 
 int OVSNMPHelper::snmpGetSharedBoxEntryForIPAddress(const char *address, const QString &community) {
-    const Answer answer = exchange(address, community, {}, {kSharedBoxProbe}, ASN_INTEGER);
+    const Answer answer =
+        exchange(address, community, {}, identifiers(kSharedBoxProbe), ASN_INTEGER);
     return answer.answered ? kLargeSharedBoxCount : kSmallSharedBoxCount;
 }
 
@@ -284,7 +306,8 @@ bool OVSNMPHelper::snmpGetColorProfileNameForIPAddress(const char *address,
 }
 
 bool OVSNMPHelper::snmpGetAdminLoginModeEnabled(const char *address, const QString &community) {
-    const Answer answer = exchange(address, community, {}, {kAdminLoginMode}, ASN_INTEGER);
+    const Answer answer =
+        exchange(address, community, {}, identifiers(kAdminLoginMode), ASN_INTEGER);
     return answer.first() == QString(kEnabled);
 }
 
@@ -327,8 +350,8 @@ OVSNMPHelper::getValidatedColorProfileForIPAddress(const char *address, const QS
 
 int OVSNMPHelper::getSleepMode(const char *address, const QString &community, int &sleepMode) {
     sleepMode = -1;
-    const Answer answer =
-        exchange(address, community, {kOneSecond, kSleepModeRetries}, {kSleepMode}, ASN_INTEGER);
+    const Answer answer = exchange(address, community, {kOneSecond, kSleepModeRetries},
+                                   identifiers(kSleepMode), ASN_INTEGER);
     if (const auto mode = answer.first())
         sleepMode = int(mode->toLong());
     return answer.status;
@@ -337,7 +360,8 @@ int OVSNMPHelper::getSleepMode(const char *address, const QString &community, in
 QString OVSNMPHelper::getMacAddress(const char *address, const QString &community) {
     SessionSettings settings;
     settings.timeout = kOneSecond;
-    const Answer answer = exchange(address, community, settings, {kMacAddress}, ASN_OCTET_STR);
+    const Answer answer =
+        exchange(address, community, settings, identifiers(kMacAddress), ASN_OCTET_STR);
     return answer.first().value_or(QString());
 }
 
