@@ -20,6 +20,8 @@
 // the timeouts below) and no persistent state is loaded or saved.
 class OVSNMPHelper {
 public:
+    OVSNMPHelper() = delete;
+
     // Net-SNMP's own maximum peer-name length is larger, but every address
     // this program sends fits; a longer one is refused rather than cut.
     using PeerName = std::array<char, 256>;

@@ -11,6 +11,8 @@
 // the system log; the caller sees only YES/NO.
 class OVWakeOnLanHelper {
 public:
+    OVWakeOnLanHelper() = delete;
+
     static constexpr size_t kMagicPacketSize = 108;
     using MagicPacketBytes = std::array<std::uint8_t, kMagicPacketSize>;
 
