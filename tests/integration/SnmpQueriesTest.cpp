@@ -2,6 +2,9 @@
 // a loopback address of this process.
 #include "OVSNMPHelper.h"
 #include "SimulatedPrinter.h"
+#include "TruncatingResponder.h"
+
+#include <QCoreApplication>
 
 #include <gtest/gtest.h>
 
@@ -281,6 +284,58 @@ INSTANTIATE_TEST_SUITE_P(
                       EXPECT_TRUE(OVSNMPHelper::formStateArray().isEmpty());
                   },
                   6}),
+    [](const auto &info) { return std::string(info.param.label); });
+
+// Answers with fewer variables than asked, which snmpd never sends.
+struct ShortAnswerCase {
+    const char *label;
+    int kept;
+    std::function<void(const char *)> check;
+};
+
+class ShortAnswerTest : public ::testing::TestWithParam<ShortAnswerCase> {};
+
+TEST_P(ShortAnswerTest, GivesPlainResult) {
+    const qint64 pid = QCoreApplication::applicationPid();
+    const QByteArray ip =
+        QString("127.254.%1.%2").arg((pid >> 8) & 0xFF).arg(pid % 250 + 2).toLatin1();
+    TruncatingResponder responder(ip, GetParam().kept, 1);
+    ASSERT_TRUE(responder.isListening());
+    GetParam().check(ip.constData());
+    EXPECT_GT(responder.requestsAnswered(), 0);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Answers, ShortAnswerTest,
+    ::testing::Values(
+        ShortAnswerCase{"everyState", 100,
+                        [](const char *ip) {
+                            EXPECT_TRUE(OVSNMPHelper::snmpGetFormStateForIPAddress(ip, kCommunity));
+                            EXPECT_EQ(OVSNMPHelper::formStateArray(), QStringList(100, "1"));
+                        }},
+        ShortAnswerCase{"oneStateShort", 99,
+                        [](const char *ip) {
+                            EXPECT_FALSE(
+                                OVSNMPHelper::snmpGetFormStateForIPAddress(ip, kCommunity));
+                            EXPECT_TRUE(OVSNMPHelper::formStateArray().isEmpty());
+                        }},
+        ShortAnswerCase{"noSleepMode", 0,
+                        [](const char *ip) {
+                            int mode = 5;
+                            EXPECT_EQ(OVSNMPHelper::getSleepMode(ip, kCommunity, mode), 0);
+                            EXPECT_EQ(mode, -1);
+                        }},
+        // An answer without error counts as the printer having box 100.
+        ShortAnswerCase{
+            "noProbeValue", 0,
+            [](const char *ip) {
+                EXPECT_EQ(OVSNMPHelper::snmpGetSharedBoxEntryForIPAddress(ip, kCommunity), 100);
+            }},
+        ShortAnswerCase{"noAdminMode", 0,
+                        [](const char *ip) {
+                            EXPECT_FALSE(
+                                OVSNMPHelper::snmpGetAdminLoginModeEnabled(ip, kCommunity));
+                        }}),
     [](const auto &info) { return std::string(info.param.label); });
 
 // A printer reached over IPv6 loopback on port 161.
