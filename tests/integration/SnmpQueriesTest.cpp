@@ -88,6 +88,10 @@ struct NameCase {
     std::optional<QString> expected; // nullopt: the list fails
 };
 
+void PrintTo(const NameCase &c, std::ostream *os) {
+    *os << c.label;
+}
+
 class FormNameTest : public SnmpQueriesTest, public ::testing::WithParamInterface<NameCase> {};
 
 TEST_P(FormNameTest, NameOfAFormInUse) {
@@ -125,6 +129,10 @@ struct FaultCase {
     std::function<void(SimulatedPrinter &)> fault;
     std::function<void(const char *)> check;
 };
+
+void PrintTo(const FaultCase &c, std::ostream *os) {
+    *os << c.label;
+}
 
 class PrinterFaultTest : public SnmpQueriesTest, public ::testing::WithParamInterface<FaultCase> {};
 
@@ -246,6 +254,10 @@ struct RetryCase {
     int requests;
 };
 
+void PrintTo(const RetryCase &c, std::ostream *os) {
+    *os << c.label;
+}
+
 class SilentPrinterTest : public SnmpQueriesTest,
                           public ::testing::WithParamInterface<RetryCase> {};
 
@@ -292,6 +304,10 @@ struct ShortAnswerCase {
     int kept;
     std::function<void(const char *)> check;
 };
+
+void PrintTo(const ShortAnswerCase &c, std::ostream *os) {
+    *os << c.label;
+}
 
 class ShortAnswerTest : public ::testing::TestWithParam<ShortAnswerCase> {};
 
