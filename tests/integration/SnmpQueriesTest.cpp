@@ -298,6 +298,59 @@ INSTANTIATE_TEST_SUITE_P(
                   6}),
     [](const auto &info) { return std::string(info.param.label); });
 
+// The timeouts, proved at the printer: an answer 1.5 s late is waited for
+// by a 10 s timeout (one request) and asked again by a 1 s one.
+struct SlowAnswerCase {
+    const char *label;
+    std::function<void(const char *)> query;
+    bool retried;
+};
+
+void PrintTo(const SlowAnswerCase &c, std::ostream *os) {
+    *os << c.label;
+}
+
+class SlowPrinterTest : public SnmpQueriesTest,
+                        public ::testing::WithParamInterface<SlowAnswerCase> {};
+
+TEST_P(SlowPrinterTest, RetriesOnlyAfterTheSessionTimeout) {
+    QList<SimulatedPrinter::Entry> boxes(100, {1, "Box"});
+    printer->setTable(Table::SharedBox, boxes);
+    const int before = printer->requestCount();
+    printer->setResponseDelayMs(1500);
+    GetParam().query(address());
+    const int requests = printer->requestCount() - before;
+    printer->setResponseDelayMs(0);
+    if (GetParam().retried)
+        EXPECT_GT(requests, 1);
+    else
+        EXPECT_EQ(requests, 1);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Queries, SlowPrinterTest,
+    ::testing::Values(
+        SlowAnswerCase{"hundredBoxStates",
+                       [](const char *ip) {
+                           EXPECT_TRUE(OVSNMPHelper::snmpGetSharedBoxStateForIPAddress(
+                               ip, kCommunity, 100));
+                       },
+                       false},
+        SlowAnswerCase{"hundredBoxNames",
+                       [](const char *ip) {
+                           EXPECT_TRUE(
+                               OVSNMPHelper::snmpGetSharedBoxNameForIPAddress(ip, kCommunity, 100));
+                       },
+                       false},
+        SlowAnswerCase{"thirtyBoxStates",
+                       [](const char *ip) {
+                           OVSNMPHelper::snmpGetSharedBoxStateForIPAddress(ip, kCommunity, 30);
+                       },
+                       true},
+        SlowAnswerCase{"macAddress",
+                       [](const char *ip) { OVSNMPHelper::getMacAddress(ip, kCommunity); }, true}),
+    [](const auto &info) { return std::string(info.param.label); });
+
 // Answers with fewer variables than asked, which snmpd never sends.
 struct ShortAnswerCase {
     const char *label;
