@@ -127,7 +127,9 @@ struct WakeCase {
     const char *logged;       // a line the flow logs, or nullptr for none
 };
 
-void PrintTo(const WakeCase &c, std::ostream *os) { *os << c.label; }
+void PrintTo(const WakeCase &c, std::ostream *os) {
+    *os << c.label;
+}
 
 class WakeFlowTest : public WakeOnLanTest, public ::testing::WithParamInterface<WakeCase> {};
 
