@@ -1,0 +1,300 @@
+#include "OrvoPPDRegex.h"
+#include "OrvoPPDScanIndex.h"
+#include "OrvoPPDTestSupport.h"
+
+#include <QDir>
+#include <QRandomGenerator>
+#include <QStringDecoder>
+
+#include <gtest/gtest.h>
+
+#include <cups/ppd.h>
+
+#include <iostream>
+
+using namespace OrvoPPDTestSupport;
+
+namespace {
+
+// The reader's rules done the slow way: every option scans the whole text with
+// its own expressions. The fast reader must give exactly this.
+struct NaiveOption {
+    QString group, keyword, text, defchoice;
+    QStringList choiceKeys, choiceTexts, choiceCodes;
+    bool operator==(const NaiveOption &) const = default;
+};
+struct NaiveReading {
+    bool utf8 = false;
+    bool readable = false; // options found and every one has a choice
+    std::vector<NaiveOption> options;
+    std::vector<std::pair<QString, QString>> attributes;
+};
+
+enum class Verdict { Null, Stops, Structure };
+const char *verdictName(Verdict v) {
+    return v == Verdict::Null ? "null" : v == Verdict::Stops ? "stops" : "structure";
+}
+
+QString cutText(const QByteArray &bytes, bool &utf8) {
+    QStringDecoder decoder(QStringConverter::Utf8, QStringConverter::Flag::Stateless);
+    QString text = decoder.decode(bytes);
+    utf8 = !decoder.hasError();
+    const qsizetype cut = text.indexOf(u"*CloseGroup: Advanced");
+    if (cut >= 0)
+        text.truncate(cut + 21);
+    return text;
+}
+
+QString lastCapture(const QString &text, OrvoPPDRange range, const QString &pattern) {
+    const auto match = OrvoPPDRegex(pattern).findLast(text, range.location, range.end());
+    return match ? match->capture(text, 1).toString() : QString();
+}
+
+std::vector<std::pair<QString, QString>> naiveAttributes(const QString &text) {
+    std::vector<std::pair<QString, QString>> attributes;
+    const OrvoPPDRegex quoted(QStringLiteral("\"(.*)\""));
+    for (const auto &match : OrvoPPDRegex(QStringLiteral("\\*([^ ]*?):[ ]*(.*)")).findAll(text)) {
+        QString value = match.capture(text, 2).toString();
+        if (const auto inner = quoted.findFirst(value, 0, value.size()))
+            value = inner->capture(value, 1).toString();
+        attributes.emplace_back(match.capture(text, 1).toString(), value);
+    }
+    return attributes;
+}
+
+QStringList naiveCustomCodes(const QString &text, const QString &keyword) {
+    QStringList codes;
+    const OrvoPPDRegex custom(OrvoPPDRegex::format(u"\\*Custom%@[ ]+(.*?):.*\"(.*)\"", {keyword}));
+    for (const auto &match : custom.findAll(text))
+        codes.append(match.capture(text, 2).toString());
+    return codes;
+}
+
+bool naiveOption(const QString &text, const QString &keyword, OrvoPPDRange range,
+                 NaiveOption &option) {
+    option.keyword = keyword;
+    option.text =
+        lastCapture(text, range, OrvoPPDRegex::format(u"\\*OpenUI.*\\*%@?/(.*):", {keyword}));
+    option.defchoice =
+        lastCapture(text, range, OrvoPPDRegex::format(u"\\*Default%@:[ ]*(.*)", {keyword}));
+    const auto choices =
+        OrvoPPDRegex(OrvoPPDRegex::format(u"\\*%@[ ]+(.*?)/(.*?):.*\"(.*)\"", {keyword}))
+            .findAll(text, range.location, range.end());
+    for (const auto &match : choices) {
+        option.choiceKeys << match.capture(text, 1).toString();
+        option.choiceTexts << match.capture(text, 2).toString();
+        option.choiceCodes << match.capture(text, 3).toString();
+    }
+    for (const QString &code : naiveCustomCodes(text, keyword)) {
+        option.choiceKeys << "Custom";
+        option.choiceTexts << "Custom";
+        option.choiceCodes << code;
+    }
+    if (keyword == "PageRegion") {
+        option.choiceKeys << "Custom";
+        option.choiceTexts << "Custom";
+        option.choiceCodes << QString();
+    }
+    return !option.choiceKeys.isEmpty();
+}
+
+NaiveReading naiveRead(const QByteArray &bytes) {
+    NaiveReading reading;
+    const QString text = cutText(bytes, reading.utf8);
+    if (!reading.utf8)
+        return reading;
+    const QStringList groups = OrvoPPD::groupKeyword(text);
+    OrvoPPD::GroupRanges ranges;
+    for (const QString &group : groups)
+        ranges.append({group, OrvoPPD::groupRange(text, group)});
+    std::vector<std::vector<NaiveOption>> byGroup(size_t(groups.size()));
+    const QStringList keywords = OrvoPPD::optionKeywords(text);
+    for (const QString &keyword : keywords) {
+        const OrvoPPDRange range = OrvoPPD::optionRagne(text, keyword);
+        if (range.isNotFound())
+            continue;
+        NaiveOption option;
+        option.group = OrvoPPD::findGroupKey(ranges, range);
+        if (!naiveOption(text, keyword, range, option))
+            return reading;
+        for (qsizetype g = 0; g < groups.size(); ++g)
+            if (groups[g] == option.group)
+                byGroup[size_t(g)].push_back(option);
+    }
+    reading.readable = !keywords.isEmpty();
+    for (const auto &group : byGroup)
+        reading.options.insert(reading.options.end(), group.begin(), group.end());
+    reading.attributes = naiveAttributes(text);
+    return reading;
+}
+
+Verdict verdictOf(const NaiveReading &reading) {
+    if (!reading.readable)
+        return Verdict::Null;
+    auto tooLong = [](const QString &value, int limit) { return value.toUtf8().size() > limit; };
+    for (const NaiveOption &option : reading.options) {
+        if (tooLong(option.keyword, 40) || tooLong(option.defchoice, 40) ||
+            tooLong(option.text, 80))
+            return Verdict::Stops;
+        for (qsizetype c = 0; c < option.choiceKeys.size(); ++c)
+            if (tooLong(option.choiceKeys[c], 40) || tooLong(option.choiceTexts[c], 80))
+                return Verdict::Stops;
+    }
+    for (const auto &attribute : reading.attributes)
+        if (tooLong(attribute.first, 40))
+            return Verdict::Stops;
+    return Verdict::Structure;
+}
+
+// The structure as the naive reading describes it (group names become the
+// options' group positions).
+std::vector<NaiveOption> structureOptions(const ppd_file_t *ppd, const QStringList &groups) {
+    std::vector<NaiveOption> options;
+    for (int g = 0; g < ppd->num_groups; ++g) {
+        for (int o = 0; o < ppd->groups[g].num_options; ++o) {
+            const ppd_option_t &source = ppd->groups[g].options[o];
+            NaiveOption option{
+                groups.value(g), source.keyword, source.text, source.defchoice, {}, {}, {}};
+            for (int c = 0; c < source.num_choices; ++c) {
+                option.choiceKeys << source.choices[c].choice;
+                option.choiceTexts << source.choices[c].text;
+                option.choiceCodes << (source.choices[c].code ? source.choices[c].code : QString());
+            }
+            options.push_back(option);
+        }
+    }
+    return options;
+}
+
+QByteArray readAll(const QString &path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+QStringList corpusFiles() {
+    QStringList files;
+    for (const QString &name : QDir(ORVO_PPD_CORPUS).entryList({"*.ppd"}, QDir::Files, QDir::Name))
+        files << QDir(ORVO_PPD_CORPUS).filePath(name);
+    return files;
+}
+
+// Opens a file in a child process and reports how the child ended.
+void expectVerdict(const QString &path, const QByteArray &bytes, const NaiveReading &reading) {
+    const QByteArray file = path.toUtf8();
+    switch (verdictOf(reading)) {
+    case Verdict::Null:
+        EXPECT_EQ(OpenedPPD(OrvoPPD::ppdOpenFile(file.constData())), nullptr);
+        break;
+    case Verdict::Stops:
+        EXPECT_EXIT(
+            {
+                logToStandardError();
+                OrvoPPD::ppdOpenFile(file.constData());
+            },
+            ::testing::KilledBySignal(SIGABRT), "\\[Driver\\] PPD field overflow: ");
+        break;
+    case Verdict::Structure: {
+        OpenedPPD ppd(OrvoPPD::ppdOpenFile(file.constData()));
+        ASSERT_TRUE(ppd);
+        bool utf8 = false;
+        const QStringList groups = OrvoPPD::groupKeyword(cutText(bytes, utf8));
+        EXPECT_EQ(structureOptions(ppd.get(), groups), reading.options);
+        std::vector<std::pair<QString, QString>> attributes;
+        for (int i = 0; i < ppd->num_attrs; ++i)
+            attributes.emplace_back(ppd->attrs[i]->name, ppd->attrs[i]->value);
+        EXPECT_EQ(attributes, reading.attributes);
+        break;
+    }
+    }
+}
+
+TEST(OrvoPPDCorpus, EveryFileGetsTheVerdictOfTheRules) {
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
+    const QStringList files = corpusFiles();
+    ASSERT_EQ(files.size(), 43);
+    std::map<Verdict, int> counts;
+    for (const QString &path : files) {
+        SCOPED_TRACE(path.toStdString());
+        const QByteArray bytes = readAll(path);
+        const NaiveReading reading = naiveRead(bytes);
+        const Verdict verdict = verdictOf(reading);
+        ++counts[verdict];
+        std::cout << verdictName(verdict) << "\t" << QFileInfo(path).fileName().toStdString()
+                  << "\n";
+        expectVerdict(path, bytes, reading);
+    }
+    std::cout << "null " << counts[Verdict::Null] << ", stops " << counts[Verdict::Stops]
+              << ", structure " << counts[Verdict::Structure] << "\n";
+}
+
+// The one-pass scans against the per-keyword expressions, on every text.
+void expectSameScans(const QString &text) {
+    const OrvoPPDScanIndex index(text);
+    ASSERT_EQ(index.groupKeywords(), OrvoPPD::groupKeyword(text));
+    ASSERT_EQ(index.optionKeywords(), OrvoPPD::optionKeywords(text));
+    for (const QString &group : index.groupKeywords())
+        EXPECT_EQ(index.groupRange(group), OrvoPPD::groupRange(text, group)) << group.toStdString();
+    for (const QString &keyword : index.optionKeywords()) {
+        EXPECT_EQ(index.optionRange(keyword), OrvoPPD::optionRagne(text, keyword))
+            << keyword.toStdString();
+        EXPECT_EQ(index.customCodes(keyword), naiveCustomCodes(text, keyword))
+            << keyword.toStdString();
+    }
+    std::vector<std::pair<QString, QString>> attributes;
+    for (const auto &attribute : index.attributes())
+        attributes.emplace_back(attribute.name.toString(), attribute.value.toString());
+    const auto expected = naiveAttributes(text);
+    ASSERT_EQ(attributes.size(), expected.size());
+    // Values compare before the quotes come off.
+    for (size_t i = 0; i < expected.size(); ++i)
+        EXPECT_EQ(attributes[i].first, expected[i].first);
+}
+
+TEST(OrvoPPDScanEquivalence, CorpusFiles) {
+    for (const QString &path : corpusFiles()) {
+        SCOPED_TRACE(path.toStdString());
+        bool utf8 = false;
+        const QString text = cutText(readAll(path), utf8);
+        if (utf8)
+            expectSameScans(text);
+    }
+}
+
+class OrvoPPDScanEquivalenceCases : public ::testing::TestWithParam<const char *> {};
+
+TEST_P(OrvoPPDScanEquivalenceCases, TrickyTexts) {
+    expectSameScans(QString::fromUtf8(GetParam()));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Texts, OrvoPPDScanEquivalenceCases,
+    ::testing::Values(
+        // prefixes of keywords, last character optional, several *OpenUI on a line
+        "*OpenUI *Slot/S: PickOne\n*CloseUI: *Slot\n*OpenUI *Slo/S: *OpenUI *Slot/x\n"
+        "*Slo a/A: \"\"\n*OpenUI *S/S: PickOne\n*OpenUI */E: x\n",
+        // close lines with trailing blanks, a longer name, CR, a keyword inside another
+        "*OpenUI *Size/S: PickOne\n*CloseUI: *PageSize  \n*OpenUI *PageSize/P: PickOne\n"
+        "*CloseUI: *Size \r\n*CloseUI:*Size*CloseUI: *Size\n*OpenUI *Page/P: x\n",
+        // keywords with expression syntax, blanks, empty names
+        "*OpenUI *Page.Size/S: PickOne\n*OpenUI *A(B/x: y\n*OpenUI *Two Words/T: x\n"
+        "*CloseUI: *Page.Size\n*CustomPage.Size True: \"a\"\n*OpenUI */empty: x\n",
+        // custom lines: several per line, no blank, duplicates, quotes
+        "*OpenUI *PageSize/P: x\n*CustomPageSize True: \"a\" \"b\" *CustomPageSize x: \"c\"\n"
+        "*CustomPageSize: \"n\"\n*CustomPageSizeX y: \"d\"\n*CustomPageSize  z:\"e\"\"f\"\n",
+        // groups: prefixes, no slash, blanks, duplicates, closes that start with the name
+        "*OpenGroup: Fin/F\n*OpenGroup:Fi/x\n*OpenGroup: Fin\n*CloseGroup: Finishing\n"
+        "*CloseGroup:   Fin\n*OpenGroup: Fin/again\n*OpenGroup: My Group/M\n*CloseGroup: My Group\n"
+        "*OpenGroup: /E\n*CloseGroup: \n*OpenGroup: G/*OpenGroup: H/x\n",
+        // attributes across lines and blanks
+        "*End\n*Foo: bar\n** :x\n*a*b:c \"q\" \"r\"\n*\n:\n*x:\n*y\r\n*z:v\n", ""));
+
+TEST(OrvoPPDScanEquivalence, LineTerminatorsBeyondLineFeed) {
+    for (const char16_t terminator : {u'\r', u'\v', u'\f', u'\x85', u'\u2028', u'\u2029'}) {
+        QString text = "*OpenUI *A/A: x\n*CloseUI: *A\n*OpenUI *B/B: y\n*CustomA v: \"c\"\n"
+                       "*OpenGroup: G/g\n*CloseGroup: G\n*D:e\n";
+        text.replace(u'\n', QChar(terminator));
+        expectSameScans(text);
+    }
+}
+
+} // namespace
