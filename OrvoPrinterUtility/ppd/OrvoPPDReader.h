@@ -13,7 +13,6 @@ public:
     static std::optional<OrvoPPDModel> read(const QString &text, const OrvoPPDScanIndex &index);
 
 private:
-    static std::optional<OrvoPPDModel::Option> readOption(const QString &text, OrvoPPDRange range,
-                                                          const QString &keyword,
-                                                          const OrvoPPDScanIndex &index);
+    static std::optional<OrvoPPDModel::Option>
+    readOption(OrvoPPDRange range, const QString &keyword, const OrvoPPDScanIndex &index);
 };

@@ -15,6 +15,9 @@ constexpr QStringView openUITag = u"*OpenUI";
 constexpr QStringView closeUITag = u"*CloseUI:";
 constexpr QStringView customTag = u"*Custom";
 constexpr QStringView optionKeywordTag = u"OpenUI *";
+constexpr QStringView optionTextPattern = u"\\*OpenUI.*\\*%@?/(.*):";
+constexpr QStringView defaultChoicePattern = u"\\*Default%@:[ ]*(.*)";
+constexpr QStringView choicePattern = u"\\*%@[ ]+(.*?)/(.*?):.*\"(.*)\"";
 constexpr QStringView customChoicePattern = u"\\*Custom%@[ ]+(.*?):.*\"(.*)\"";
 constexpr QStringView expressionSyntax = u"\\^$.|?*+()[]{}#/";
 
@@ -56,6 +59,15 @@ template <typename Key, typename Value>
 void insertFirst(QHash<Key, Value> &hash, const Key &key, const Value &value) {
     if (!hash.contains(key))
         hash.insert(key, value);
+}
+
+std::optional<QString> lastCapture(const QString &text, OrvoPPDRange range, QStringView pattern,
+                                   const QString &keyword) {
+    const auto match = OrvoPPDRegex(OrvoPPDRegex::format(pattern, {keyword}))
+                           .findLast(text, range.location, range.end());
+    if (!match || !match->has(1))
+        return std::nullopt;
+    return match->capture(text, 1).toString();
 }
 
 void addLine(std::vector<qsizetype> &lines, qsizetype line) {
@@ -291,23 +303,141 @@ OrvoPPDRange OrvoPPDScanIndex::uniteWithLineBefore(QStringView text, OrvoPPDRang
     return OrvoPPDRange::unite(start, {first - 1, 1});
 }
 
-QStringList OrvoPPDScanIndex::customCodes(const QString &keyword) const {
-    const OrvoPPDRegex custom(OrvoPPDRegex::format(customChoicePattern, {keyword}));
-    QStringList codes;
-    auto take = [&](const OrvoPPDRegex::Match &match) {
-        codes.append(match.capture(text, 2).toString());
+OrvoPPDScanIndex::Line OrvoPPDScanIndex::lineWithin(qsizetype position, OrvoPPDRange range) const {
+    qsizetype start = position;
+    while (start > range.location && !isLineTerminator(text[start - 1]))
+        --start;
+    qsizetype end = position;
+    while (end < range.end() && !isLineTerminator(text[end]))
+        ++end;
+    return {start, end};
+}
+
+// `:.*"(.*)"` from a position: the first colon, then the text between the
+// line's last two double quotes, both after that colon.
+std::optional<OrvoPPDScanIndex::QuotedCode> OrvoPPDScanIndex::quotedCode(Line line,
+                                                                         qsizetype from) const {
+    const QStringView view = QStringView(text).sliced(line.start, line.end - line.start);
+    const qsizetype colon = view.indexOf(u':', from - line.start);
+    const qsizetype last = view.lastIndexOf(u'"');
+    const qsizetype secondLast = last > 0 ? view.lastIndexOf(u'"', last - 1) : -1;
+    if (colon < 0 || secondLast <= colon)
+        return std::nullopt;
+    return QuotedCode{line.start + colon, line.start + secondLast + 1, line.start + last};
+}
+
+// The slash after the rightmost "*keyword/" (or "*keywor/") that starts at or
+// after `from` and ends before `before`, or -1.
+qsizetype OrvoPPDScanIndex::translationSlash(qsizetype from, qsizetype before,
+                                             const QString &keyword) const {
+    const QStringView view(text);
+    const QStringView shorter = QStringView(keyword).chopped(1);
+    for (qsizetype star = view.lastIndexOf(u'*', before - 1); star >= from;
+         star = star > 0 ? view.lastIndexOf(u'*', star - 1) : -1) {
+        for (const QStringView name : {QStringView(keyword), shorter}) {
+            const qsizetype slash = star + 1 + name.size();
+            if (slash < before && text[slash] == u'/' && view.sliced(star + 1, name.size()) == name)
+                return slash;
+        }
+    }
+    return -1;
+}
+
+std::optional<QString> OrvoPPDScanIndex::optionText(const QString &keyword,
+                                                    OrvoPPDRange range) const {
+    if (!isPlain(keyword))
+        return lastCapture(text, range, optionTextPattern, keyword);
+    auto next = std::lower_bound(openOccurrences.begin(), openOccurrences.end(),
+                                 range.end() - openUITag.size() + 1);
+    const auto first =
+        std::lower_bound(openOccurrences.begin(), openOccurrences.end(), range.location);
+    while (next != first) {
+        const Line line = lineWithin(*(next - 1), range);
+        while (next != first && *(next - 1) >= line.start)
+            --next;
+        // The line's first "*OpenUI" starts the match; the text runs to the last colon.
+        const qsizetype colon =
+            QStringView(text).sliced(line.start, line.end - line.start).lastIndexOf(u':');
+        const qsizetype slash =
+            colon < 0 ? -1
+                      : translationSlash(*next + openUITag.size(), line.start + colon, keyword);
+        if (slash >= 0)
+            return text.sliced(slash + 1, line.start + colon - slash - 1);
+    }
+    return std::nullopt;
+}
+
+std::optional<QString> OrvoPPDScanIndex::defaultChoice(const QString &keyword,
+                                                       OrvoPPDRange range) const {
+    if (!isPlain(keyword))
+        return lastCapture(text, range, defaultChoicePattern, keyword);
+    const QString needle = QStringLiteral("*Default") + keyword + u':';
+    const QStringView own = QStringView(text).sliced(range.location, range.length);
+    const qsizetype last = own.lastIndexOf(needle);
+    if (last < 0)
+        return std::nullopt;
+    const Line line = lineWithin(range.location + last, range);
+    const qsizetype first = own.indexOf(needle, line.start - range.location) + range.location;
+    qsizetype value = first + needle.size();
+    while (value < line.end && text[value] == u' ')
+        ++value;
+    return text.sliced(value, line.end - value);
+}
+
+QList<OrvoPPDModel::Choice> OrvoPPDScanIndex::choices(const QString &keyword,
+                                                      OrvoPPDRange range) const {
+    QList<OrvoPPDModel::Choice> found;
+    auto add = [&](QStringView key, QStringView text, QStringView code) {
+        found.append({key.toString(), text.toString(), code.toString()});
     };
     if (!isPlain(keyword)) {
+        const OrvoPPDRegex choice(OrvoPPDRegex::format(choicePattern, {keyword}));
+        for (const OrvoPPDRegex::Match &match : choice.findAll(text, range.location, range.end()))
+            add(match.capture(text, 1), match.capture(text, 2), match.capture(text, 3));
+        return found;
+    }
+    // One match at most per line, from the line's first "*keyword ".
+    const QString needle = u'*' + keyword + u' ';
+    const QStringView own = QStringView(text).sliced(range.location, range.length);
+    for (qsizetype at = own.indexOf(needle); at >= 0;) {
+        const Line line = lineWithin(range.location + at, range);
+        qsizetype key = range.location + at + needle.size();
+        while (key < line.end && text[key] == u' ')
+            ++key;
+        const qsizetype slash = QStringView(text).sliced(key, line.end - key).indexOf(u'/');
+        if (slash >= 0) {
+            if (const auto code = quotedCode(line, key + slash + 1))
+                add(QStringView(text).sliced(key, slash),
+                    QStringView(text).sliced(key + slash + 1, code->colon - key - slash - 1),
+                    QStringView(text).sliced(code->start, code->end - code->start));
+        }
+        at = line.end - range.location < own.size() ? own.indexOf(needle, line.end - range.location)
+                                                    : -1;
+    }
+    return found;
+}
+
+QStringList OrvoPPDScanIndex::customCodes(const QString &keyword) const {
+    QStringList codes;
+    if (!isPlain(keyword)) {
+        const OrvoPPDRegex custom(OrvoPPDRegex::format(customChoicePattern, {keyword}));
         for (const OrvoPPDRegex::Match &match : custom.findAll(text))
-            take(match);
+            codes.append(match.capture(text, 2).toString());
         return codes;
     }
     const auto lines = customLinesByName.constFind(keyword);
     if (lines == customLinesByName.constEnd())
         return codes;
-    for (const qsizetype start : *lines)
-        if (const auto match = custom.findFirst(text, start, lineEnd(start)))
-            take(*match);
+    const QString needle = customTag.toString() + keyword + u' ';
+    for (const qsizetype start : *lines) {
+        const Line line{start, lineEnd(start)};
+        qsizetype name = QStringView(text).sliced(start, line.end - start).indexOf(needle) + start;
+        name += needle.size();
+        while (name < line.end && text[name] == u' ')
+            ++name;
+        if (const auto code = quotedCode(line, name))
+            codes.append(text.sliced(code->start, code->end - code->start));
+    }
     return codes;
 }
 

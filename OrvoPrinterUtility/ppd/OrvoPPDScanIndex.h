@@ -1,18 +1,21 @@
 #pragma once
 
+#include "OrvoPPDModel.h"
 #include "OrvoPPDRange.h"
 
 #include <QHash>
 #include <QString>
 #include <QStringList>
 
+#include <optional>
 #include <vector>
 
-// The reader's group, option, custom-choice and attribute scans, answered from
-// one pass over the text instead of one pass per option. Each answer is the one
-// the per-keyword expression over the whole text gives: the same last (or
-// first) match, the keyword's optional last character, the custom lines of the
-// whole text. Keywords holding expression syntax take the per-keyword path.
+// The reader's scans, answered from one pass over the text instead of one pass
+// per option with several expressions. Each answer is the one the per-keyword
+// expression gives: the same last (or first) match, the keyword's optional
+// last character, the custom lines of the whole text. Every expression here
+// matches within one line, so the lines that hold its literal parts are the
+// only places to look. Keywords holding expression syntax take the expression.
 class OrvoPPDScanIndex {
 public:
     struct Attribute {
@@ -26,6 +29,11 @@ public:
     const QStringList &optionKeywords() const { return options; }
     OrvoPPDRange groupRange(const QString &name) const;
     OrvoPPDRange optionRange(const QString &keyword) const;
+    // Within the option's own text: its translation, its default choice and
+    // its choices, as the last (or every) match of its expressions.
+    std::optional<QString> optionText(const QString &keyword, OrvoPPDRange range) const;
+    std::optional<QString> defaultChoice(const QString &keyword, OrvoPPDRange range) const;
+    QList<OrvoPPDModel::Choice> choices(const QString &keyword, OrvoPPDRange range) const;
     // The codes of the keyword's custom lines anywhere in the text, in order.
     QStringList customCodes(const QString &keyword) const;
     // Name and raw value of every attribute line, in text order.
@@ -45,6 +53,11 @@ private:
         qsizetype end;
     };
     using LineIndex = QHash<QStringView, std::vector<qsizetype>>;
+    struct QuotedCode {
+        qsizetype colon;
+        qsizetype start;
+        qsizetype end;
+    };
 
     void indexGroups();
     void indexOptionStarts();
@@ -53,6 +66,9 @@ private:
     OrvoPPDRange followingOpenEnd(OrvoPPDRange start) const;
     static qsizetype lastOf(const LineIndex &index, QStringView key);
     static QList<qsizetype> plainLengths(const QStringList &keywords);
+    Line lineWithin(qsizetype position, OrvoPPDRange range) const;
+    std::optional<QuotedCode> quotedCode(Line line, qsizetype from) const;
+    qsizetype translationSlash(qsizetype from, qsizetype before, const QString &keyword) const;
     qsizetype lineEnd(qsizetype position) const;
     qsizetype lineStart(qsizetype position) const;
     qsizetype skipBlanks(qsizetype position) const;

@@ -239,6 +239,20 @@ void expectSameScans(const QString &text) {
             << keyword.toStdString();
         EXPECT_EQ(index.customCodes(keyword), naiveCustomCodes(text, keyword))
             << keyword.toStdString();
+        const OrvoPPDRange range = OrvoPPD::optionRagne(text, keyword);
+        if (range.isNotFound())
+            continue;
+        NaiveOption naive;
+        naiveOption(text, keyword, range, naive);
+        EXPECT_EQ(index.optionText(keyword, range).value_or(QString()), naive.text);
+        EXPECT_EQ(index.defaultChoice(keyword, range).value_or(QString()), naive.defchoice);
+        QStringList keys, texts, codes;
+        for (const OrvoPPDModel::Choice &choice : index.choices(keyword, range))
+            keys << choice.key, texts << choice.text, codes << choice.code;
+        const qsizetype ordinary = keys.size();
+        EXPECT_EQ(keys, naive.choiceKeys.mid(0, ordinary)) << keyword.toStdString();
+        EXPECT_EQ(texts, naive.choiceTexts.mid(0, ordinary));
+        EXPECT_EQ(codes, naive.choiceCodes.mid(0, ordinary));
     }
     std::vector<std::pair<QString, QString>> attributes;
     for (const auto &attribute : index.attributes())
@@ -285,6 +299,11 @@ INSTANTIATE_TEST_SUITE_P(
         "*OpenGroup: Fin/F\n*OpenGroup:Fi/x\n*OpenGroup: Fin\n*CloseGroup: Finishing\n"
         "*CloseGroup:   Fin\n*OpenGroup: Fin/again\n*OpenGroup: My Group/M\n*CloseGroup: My Group\n"
         "*OpenGroup: /E\n*CloseGroup: \n*OpenGroup: G/*OpenGroup: H/x\n",
+        // translations, defaults and choices inside an option's own text
+        "*OpenUI *A/T1: x: y *OpenUI *A/T2:z\n*DefaultA: one *DefaultA: two\n*DefaultA:   \n"
+        "*A  k/t:\"a\"\"b\"\n*A k2/t2:\"only\n*A k3 /t:3: \"c\" *A k4/t4: \"d\"\n*A "
+        "k5:/x\"e\"\"f\"\n"
+        "*A k6/t6 \"g\": \"h\"\n*A/x: \"i\"\n*CloseUI: *A\n*OpenUI *Ab/T: x\n*A k7/t7: \"j\"\n",
         // attributes across lines and blanks
         "*End\n*Foo: bar\n** :x\n*a*b:c \"q\" \"r\"\n*\n:\n*x:\n*y\r\n*z:v\n", ""));
 
