@@ -17,7 +17,7 @@
 
 namespace {
 
-constexpr int repetitions = 7;
+constexpr int repetitions = 9;
 constexpr size_t topCount = 10;
 
 enum class Verdict { Structure, Null, Stops };
@@ -25,7 +25,7 @@ enum class Verdict { Structure, Null, Stops };
 struct Measured {
     QString name;
     qint64 bytes;
-    double orvo;   // seconds, best of the repetitions
+    double orvo; // seconds, best of the repetitions
     double libcups;
 };
 
@@ -43,25 +43,26 @@ Verdict verdictOf(const QByteArray &path) {
     return WEXITSTATUS(status) == 0 ? Verdict::Structure : Verdict::Null;
 }
 
-template <typename Open> double bestTime(Open open) {
-    double best = INFINITY;
-    for (int i = 0; i < repetitions; ++i) {
-        const auto start = std::chrono::steady_clock::now();
-        open();
-        best = std::min(best, std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count());
-    }
-    return best;
+template <typename Open> double timed(Open open) {
+    const auto start = std::chrono::steady_clock::now();
+    open();
+    return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
 }
 
+// Best of several runs, the two readers taking turns so that both see the
+// same machine load.
 Measured measure(const QFileInfo &file) {
     const QByteArray path = file.filePath().toUtf8();
-    Measured measured{file.fileName(), file.size(), 0, 0};
-    // Interleaved so that both readers see the same machine load.
-    measured.libcups = bestTime([&] {
-        if (ppd_file_t *ppd = ::ppdOpenFile(path.constData()))
-            ::ppdClose(ppd);
-    });
-    measured.orvo = bestTime([&] { OrvoPPD::ppdClose(OrvoPPD::ppdOpenFile(path.constData())); });
+    Measured measured{file.fileName(), file.size(), INFINITY, INFINITY};
+    for (int i = 0; i < repetitions; ++i) {
+        measured.libcups = std::min(measured.libcups, timed([&] {
+                                        if (ppd_file_t *ppd = ::ppdOpenFile(path.constData()))
+                                            ::ppdClose(ppd);
+                                    }));
+        measured.orvo =
+            std::min(measured.orvo,
+                     timed([&] { OrvoPPD::ppdClose(OrvoPPD::ppdOpenFile(path.constData())); }));
+    }
     return measured;
 }
 

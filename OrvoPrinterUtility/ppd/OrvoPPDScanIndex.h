@@ -74,7 +74,7 @@ private:
     qsizetype skipBlanks(qsizetype position) const;
     qsizetype plainRunEnd(qsizetype position) const;
 
-    QString text;
+    const QString text;
     QStringList groups;
     QStringList options;
     QHash<QStringView, qsizetype> openGroupFirst;
