@@ -4,6 +4,8 @@
 
 #include <QDir>
 #include <QRandomGenerator>
+#include <QRegularExpression>
+#include <QSet>
 #include <QStringDecoder>
 
 #include <gtest/gtest.h>
@@ -314,6 +316,149 @@ TEST(OrvoPPDScanEquivalence, LineTerminatorsBeyondLineFeed) {
         text.replace(u'\n', QChar(terminator));
         expectSameScans(text);
     }
+}
+
+// Where the rules and libcups read the same file differently, the reason.
+struct Difference {
+    std::string what;
+    std::string reason; // empty: unexplained
+};
+
+bool hasChoiceLine(const QString &text, const QString &keyword, const QString &choice,
+                   bool translated) {
+    const QString pattern = translated ? "\\*%@[ ]+%@/.*:.*\".*\"" : "\\*%@[ ]+%@[:/]";
+    return OrvoPPDRegex(OrvoPPDRegex::format(pattern, {keyword, choice}))
+        .findFirst(text, 0, text.size())
+        .has_value();
+}
+
+std::string missingChoiceReason(const QString &text, const QString &keyword,
+                                const QString &choice) {
+    if (choice == "Custom")
+        return "libcups adds Custom for a custom option";
+    if (!hasChoiceLine(text, keyword, choice, false))
+        return "";
+    if (!hasChoiceLine(text, keyword, choice, true))
+        return "choice line without translation, or code not closed on its line";
+    return "";
+}
+
+std::string extraAttributeReason(const QString &text, const QString &name) {
+    static const QStringList structural = {
+        "OpenUI",    "CloseUI",    "OpenGroup", "CloseGroup", "OpenSubGroup",   "CloseSubGroup",
+        "JCLOpenUI", "JCLCloseUI", "End",       "Default",    "OrderDependency"};
+    if (name.contains(QRegularExpression("[\\n\\r]")))
+        return "attribute name runs over lines";
+    if (name.contains(u'/'))
+        return "keyword/translation inside another line";
+    for (const QString &keyword : structural)
+        if (name.startsWith(keyword))
+            return "structure keyword libcups keeps apart";
+    if (name == "PPD-Adobe")
+        return "format header libcups checks apart";
+    if (name.endsWith("Constraints"))
+        return "constraints libcups keeps apart";
+    const qsizetype at = text.indexOf(u'\n' + ('*' + name) + u':');
+    if (at < 0)
+        return "an asterisk inside a value, not at a line start";
+    if (text.first(at).count(u'"') % 2)
+        return "a line inside a quoted value over several lines";
+    return "";
+}
+
+std::vector<Difference> compareWithLibcups(const QString &text, const ppd_file_t *ours,
+                                           ppd_file_t *theirs) {
+    std::vector<Difference> differences;
+    std::map<QString, const ppd_option_t *> ourOptions, theirOptions;
+    for (int g = 0; g < ours->num_groups; ++g)
+        for (int o = 0; o < ours->groups[g].num_options; ++o)
+            ourOptions[ours->groups[g].options[o].keyword] = &ours->groups[g].options[o];
+    for (ppd_option_t *option = ppdFirstOption(theirs); option; option = ppdNextOption(theirs))
+        theirOptions[option->keyword] = option;
+    for (const auto &[keyword, option] : theirOptions) {
+        const auto own = ourOptions.find(keyword);
+        if (own == ourOptions.end()) {
+            differences.push_back({"option " + keyword.toStdString() + " only in libcups", ""});
+            continue;
+        }
+        if (strcmp(own->second->defchoice, option->defchoice) != 0)
+            differences.push_back({"default of " + keyword.toStdString(), ""});
+        QStringList ourChoices, theirChoices;
+        for (int c = 0; c < own->second->num_choices; ++c)
+            ourChoices << own->second->choices[c].choice;
+        for (int c = 0; c < option->num_choices; ++c)
+            theirChoices << option->choices[c].choice;
+        for (const QString &choice : theirChoices)
+            if (!ourChoices.contains(choice))
+                differences.push_back({"choice " + keyword.toStdString() + "=" +
+                                           choice.toStdString() + " only in libcups",
+                                       missingChoiceReason(text, keyword, choice)});
+        for (const QString &choice : ourChoices)
+            if (!theirChoices.contains(choice))
+                differences.push_back(
+                    {"choice " + keyword.toStdString() + "=" + choice.toStdString() + " only here",
+                     choice == "Custom" ? "Custom added by the rules" : ""});
+    }
+    for (const auto &[keyword, option] : ourOptions)
+        if (!theirOptions.count(keyword))
+            differences.push_back({"option " + keyword.toStdString() + " only here", ""});
+    QSet<QString> ourNames, theirNames;
+    for (int i = 0; i < ours->num_attrs; ++i)
+        ourNames << ours->attrs[i]->name;
+    for (int i = 0; i < theirs->num_attrs; ++i)
+        theirNames << theirs->attrs[i]->name;
+    for (const QString &name : ourNames)
+        if (!theirNames.contains(name))
+            differences.push_back({"attribute " + name.toStdString() + " only here",
+                                   extraAttributeReason(text, name)});
+    for (const QString &name : theirNames)
+        if (!ourNames.contains(name))
+            differences.push_back({"attribute " + name.toStdString() + " only in libcups",
+                                   "read with a spec or translation (a blank before its colon)"});
+    return differences;
+}
+
+// Files where the rules and libcups should agree: nothing cut, every *OpenUI
+// with a translation and closed.
+bool rulesAgreeWithLibcups(const QString &text) {
+    if (text.contains(u"*CloseGroup: Advanced"))
+        return false;
+    const auto opens = OrvoPPDRegex(QStringLiteral("\\*OpenUI.*")).findAll(text);
+    const auto translated = OrvoPPDRegex(QStringLiteral("\\*OpenUI[^/\\n]*/")).findAll(text);
+    const auto closes = OrvoPPDRegex(QStringLiteral("\\*CloseUI:")).findAll(text);
+    return opens.size() == translated.size() && opens.size() == closes.size();
+}
+
+TEST(OrvoPPDCorpus, AgreesWithLibcupsWhereTheRulesDo) {
+    int compared = 0;
+    for (const QString &path : corpusFiles()) {
+        const QByteArray bytes = readAll(path);
+        bool utf8 = false;
+        const QString text = cutText(bytes, utf8);
+        const std::string name = QFileInfo(path).fileName().toStdString();
+        if (!utf8 || !rulesAgreeWithLibcups(text) ||
+            verdictOf(naiveRead(bytes)) != Verdict::Structure) {
+            std::cout << "not compared: " << name << "\n";
+            continue;
+        }
+        SCOPED_TRACE(name);
+        const QByteArray file = path.toUtf8();
+        OpenedPPD ours(OrvoPPD::ppdOpenFile(file.constData()));
+        ppd_file_t *theirs = ppdOpenFile(file.constData());
+        ASSERT_TRUE(ours && theirs);
+        ++compared;
+        std::map<std::string, int> reasons;
+        for (const Difference &difference : compareWithLibcups(text, ours.get(), theirs)) {
+            EXPECT_FALSE(difference.reason.empty()) << difference.what;
+            ++reasons[difference.reason.empty() ? difference.what : difference.reason];
+        }
+        std::cout << (reasons.empty() ? "same as libcups: " : "differs from libcups: ") << name
+                  << "\n";
+        for (const auto &[reason, count] : reasons)
+            std::cout << "    " << count << " x " << reason << "\n";
+        ppdClose(theirs);
+    }
+    EXPECT_GT(compared, 10);
 }
 
 } // namespace
