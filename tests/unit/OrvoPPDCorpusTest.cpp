@@ -461,4 +461,70 @@ TEST(OrvoPPDCorpus, AgreesWithLibcupsWhereTheRulesDo) {
     EXPECT_GT(compared, 10);
 }
 
+const QByteArray smallPPD = "*PPD-Adobe: \"4.3\"\n*OpenUI *PageSize/Media Size: PickOne\n"
+                            "*DefaultPageSize: A4\n*PageSize A4/A4: \"<</PageSize[595 842]>>\"\n"
+                            "*CloseUI: *PageSize\n*OpenUI *Duplex/Duplex: PickOne\n"
+                            "*Duplex None/Off: \"n\"\n*CloseUI: *Duplex\n";
+
+QByteArray randomBytes(int size, int ceiling) {
+    QRandomGenerator random(42);
+    QByteArray bytes(size, 0);
+    for (char &byte : bytes)
+        byte = char(random.bounded(ceiling));
+    return bytes;
+}
+
+struct BadInput {
+    const char *name;
+    QByteArray content;
+};
+
+class OrvoPPDBadInput : public ::testing::TestWithParam<BadInput> {};
+
+TEST_P(OrvoPPDBadInput, GivesNullOrTheStructureOfTheRules) {
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
+    TempPPD file(GetParam().content);
+    expectVerdict(QString::fromUtf8(file.filePath()), GetParam().content,
+                  naiveRead(GetParam().content));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Files, OrvoPPDBadInput,
+    ::testing::Values(BadInput{"Empty", ""}, BadInput{"Binary", randomBytes(65536, 256)},
+                      BadInput{"ControlCharacters", randomBytes(16384, 128)},
+                      BadInput{"NoNewline", QByteArray(smallPPD).replace('\n', ' ')},
+                      BadInput{"CarriageReturnsOnly", QByteArray(smallPPD).replace('\n', '\r')},
+                      BadInput{"TruncatedCharacter", smallPPD + "*A: \xc3"},
+                      BadInput{"ByteOrderMark", "\xef\xbb\xbf" + smallPPD},
+                      BadInput{"NulBytes", QByteArray(smallPPD).replace(' ', '\0')}),
+    [](const auto &info) { return std::string(info.param.name); });
+
+TEST(OrvoPPDBadInput, MissingFileIsNullAndLogged) {
+    QStringList lines;
+    OVSystemLog::setSink([&](int, const QString &line) { lines << line; });
+    EXPECT_EQ(OrvoPPD::ppdOpenFile("/nonexistent/x.ppd"), nullptr);
+    EXPECT_EQ(OrvoPPD::ppdOpenFile(nullptr), nullptr);
+    OVSystemLog::setSink({});
+    EXPECT_EQ(lines, QStringList({"[Driver] PPD file open Error!!! - /nonexistent/x.ppd",
+                                  "[Driver] PPD file open Error!!! - (null)"}));
+}
+
+// 50 MB of comment lines after a small file read the same as the small file,
+// in time that grows with the size.
+TEST(OrvoPPDBadInput, FiftyMegabytes) {
+    QByteArray content = smallPPD;
+    const QByteArray filler = "*% a comment line that no expression takes for anything at all\n";
+    content.reserve(50 << 20);
+    while (content.size() < (50 << 20))
+        content += filler;
+    TempPPD large(content);
+    TempPPD small(smallPPD);
+    OpenedPPD read = large.open();
+    OpenedPPD expected = small.open();
+    ASSERT_TRUE(read && expected);
+    const QStringList groups = OrvoPPD::groupKeyword(QString::fromUtf8(smallPPD));
+    EXPECT_EQ(structureOptions(read.get(), groups), structureOptions(expected.get(), groups));
+    EXPECT_EQ(read->num_attrs, expected->num_attrs);
+}
+
 } // namespace
