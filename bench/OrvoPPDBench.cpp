@@ -78,6 +78,43 @@ double growthExponent(const std::vector<Measured> &files) {
     return (n * sxy - sx * sy) / (n * sxx - sx * sx);
 }
 
+// A PPD with the given number of options in groups of ten, five choices each.
+QByteArray generatedPPD(int options) {
+    QByteArray text = "*PPD-Adobe: \"4.3\"\n";
+    for (int i = 0; i < options; ++i) {
+        const QByteArray n = QByteArray::number(i);
+        if (i % 10 == 0)
+            text += "*OpenGroup: G" + n + "/Group " + n + "\n";
+        text += "*OpenUI *Option" + n + "/Option " + n + ": PickOne\n*DefaultOption" + n + ": C0\n";
+        for (int c = 0; c < 5; ++c)
+            text +=
+                "*Option" + n + " C" + QByteArray::number(c) + "/Choice: \"<</Code " + n + ">>\"\n";
+        text += "*CloseUI: *Option" + n + "\n";
+        if (i % 10 == 9 || i + 1 == options)
+            text += "*CloseGroup: G" + QByteArray::number(i - i % 10) + "\n";
+    }
+    return text;
+}
+
+// Files of 500 to 8000 options: twice the options should take twice the time.
+std::vector<Measured> generatedFiles() {
+    std::vector<Measured> files;
+    const QString path =
+        QDir::temp().filePath(QStringLiteral("orvoppd-bench-%1.ppd").arg(getpid()));
+    for (int options = 500; options <= 8000; options *= 2) {
+        QFile file(path);
+        if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate))
+            break;
+        file.write(generatedPPD(options));
+        file.close();
+        Measured measured = measure(QFileInfo(path));
+        measured.name = QStringLiteral("%1 options").arg(options);
+        files.push_back(measured);
+    }
+    QFile::remove(path);
+    return files;
+}
+
 } // namespace
 
 int main(int argc, char **argv) {
@@ -108,6 +145,17 @@ int main(int argc, char **argv) {
         printf("%10lld %10.3f %10.3f %7.2f  %s%s\n", m.bytes, m.orvo * 1e3, m.libcups * 1e3, ratio,
                i < topCount ? "[top] " : "", qPrintable(m.name));
     }
+    const std::vector<Measured> generated = generatedFiles();
+    for (const Measured &m : generated)
+        printf("generated %10lld bytes %-13s orvo %8.3f ms, libcups %8.3f ms\n", m.bytes,
+               qPrintable(m.name), m.orvo * 1e3, m.libcups * 1e3);
+    printf("generated files: growth exponent orvo %.2f, libcups %.2f\n", growthExponent(generated),
+           growthExponent([&] {
+               std::vector<Measured> libcups = generated;
+               for (Measured &m : libcups)
+                   m.orvo = m.libcups;
+               return libcups;
+           }()));
     printf("total %d files: orvo %.3f ms, libcups %.3f ms\n", int(opened.size()), orvoTotal * 1e3,
            libcupsTotal * 1e3);
     printf("RESULT orvoppd_vs_libcups_max_top10=%.2f orvoppd_vs_libcups_total=%.2f "

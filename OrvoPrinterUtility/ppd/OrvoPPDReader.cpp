@@ -1,6 +1,6 @@
 #include "OrvoPPDReader.h"
 
-#include "OrvoPPD.h"
+#include "OrvoPPDGroupLookup.h"
 
 namespace {
 
@@ -23,9 +23,10 @@ std::optional<OrvoPPDModel> OrvoPPDReader::read(const QString &text,
     const QStringList &keywords = index.optionKeywords();
     if (keywords.isEmpty())
         return std::nullopt;
+    const OrvoPPDGroupLookup groups(ranges);
     for (const QString &keyword : keywords) {
         const OrvoPPDRange range = index.optionRange(keyword);
-        const QString group = OrvoPPD::findGroupKey(ranges, range);
+        const QString group = groups.find(range);
         if (range.isNotFound() || range.location < 0 || range.end() > text.size())
             continue;
         std::optional<OrvoPPDModel::Option> option = readOption(range, keyword, index);

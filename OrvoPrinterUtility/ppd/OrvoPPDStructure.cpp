@@ -133,6 +133,8 @@ bool OrvoPPDStructure::fillAttributes(ppd_file_t &ppd,
 }
 
 void OrvoPPDStructure::release(ppd_file_t *ppd) {
+    if (!ppd)
+        return;
     for (int g = 0; g < ppd->num_groups; ++g) {
         ppd_group_t &group = ppd->groups[g];
         for (int o = 0; o < group.num_options; ++o) {

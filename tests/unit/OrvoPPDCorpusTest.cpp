@@ -1,3 +1,4 @@
+#include "OrvoPPDGroupLookup.h"
 #include "OrvoPPDRegex.h"
 #include "OrvoPPDScanIndex.h"
 #include "OrvoPPDTestSupport.h"
@@ -234,8 +235,12 @@ void expectSameScans(const QString &text) {
     const OrvoPPDScanIndex index(text);
     ASSERT_EQ(index.groupKeywords(), OrvoPPD::groupKeyword(text));
     ASSERT_EQ(index.optionKeywords(), OrvoPPD::optionKeywords(text));
-    for (const QString &group : index.groupKeywords())
+    OrvoPPD::GroupRanges ranges;
+    for (const QString &group : index.groupKeywords()) {
         EXPECT_EQ(index.groupRange(group), OrvoPPD::groupRange(text, group)) << group.toStdString();
+        ranges.append({group, OrvoPPD::groupRange(text, group)});
+    }
+    const OrvoPPDGroupLookup lookup(ranges);
     for (const QString &keyword : index.optionKeywords()) {
         EXPECT_EQ(index.optionRange(keyword), OrvoPPD::optionRagne(text, keyword))
             << keyword.toStdString();
@@ -244,6 +249,7 @@ void expectSameScans(const QString &text) {
         const OrvoPPDRange range = OrvoPPD::optionRagne(text, keyword);
         if (range.isNotFound())
             continue;
+        EXPECT_EQ(lookup.find(range), OrvoPPD::findGroupKey(ranges, range));
         NaiveOption naive;
         naiveOption(text, keyword, range, naive);
         EXPECT_EQ(index.optionText(keyword, range).value_or(QString()), naive.text);
