@@ -419,8 +419,9 @@ std::vector<Difference> compareWithLibcups(const QString &text, const ppd_file_t
                                    extraAttributeReason(text, name)});
     for (const QString &name : theirNames)
         if (!ourNames.contains(name))
-            differences.push_back({"attribute " + name.toStdString() + " only in libcups",
-                                   "read with a spec or translation (a blank before its colon)"});
+            differences.push_back(
+                {"attribute " + name.toStdString() + " only in libcups",
+                 "read with an option qualifier or translation (a blank before its colon)"});
     return differences;
 }
 
