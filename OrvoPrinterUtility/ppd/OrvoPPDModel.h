@@ -7,19 +7,20 @@
 #include <optional>
 
 // What the reader takes from the text before it fills the PPD structure:
-// groups in order, each with its options in the order they were read.
+// groups in order, each with its options in the order they were read. The
+// strings are views into the text, which outlives the model.
 struct OrvoPPDModel {
     // Marks a choice that has no code (the one added to "PageRegion").
     static constexpr char16_t emptyCode[] = u"__EMPTY__";
 
     struct Choice {
-        QString key;
-        QString text;
-        QString code;
+        QStringView key;
+        QStringView text;
+        QStringView code;
     };
     struct Option {
-        std::optional<QString> text;
-        std::optional<QString> defaultChoice;
+        std::optional<QStringView> text;
+        std::optional<QStringView> defaultChoice;
         QList<Choice> choices;
     };
     struct Group {

@@ -46,13 +46,12 @@ std::optional<OrvoPPDModel::Option> OrvoPPDReader::readOption(OrvoPPDRange range
     option.text = index.optionText(keyword, range);
     option.defaultChoice = index.defaultChoice(keyword, range);
     option.choices = index.choices(keyword, range);
-    const QStringList customCodes = index.customCodes(keyword);
+    const QList<QStringView> customCodes = index.customCodes(keyword);
     if (option.choices.isEmpty() && customCodes.isEmpty())
         return std::nullopt;
-    for (const QString &code : customCodes)
-        option.choices.append({customChoice.toString(), customChoice.toString(), code});
+    for (const QStringView code : customCodes)
+        option.choices.append({customChoice, customChoice, code});
     if (keyword == pageRegion)
-        option.choices.append({customChoice.toString(), customChoice.toString(),
-                               QString::fromUtf16(OrvoPPDModel::emptyCode)});
+        option.choices.append({customChoice, customChoice, OrvoPPDModel::emptyCode});
     return option;
 }

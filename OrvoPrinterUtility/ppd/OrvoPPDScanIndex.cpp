@@ -61,13 +61,13 @@ void insertFirst(QHash<Key, Value> &hash, const Key &key, const Value &value) {
         hash.insert(key, value);
 }
 
-std::optional<QString> lastCapture(const QString &text, OrvoPPDRange range, QStringView pattern,
-                                   const QString &keyword) {
+std::optional<QStringView> lastCapture(const QString &text, OrvoPPDRange range, QStringView pattern,
+                                       const QString &keyword) {
     const auto match = OrvoPPDRegex(OrvoPPDRegex::format(pattern, {keyword}))
                            .findLast(text, range.location, range.end());
     if (!match || !match->has(1))
         return std::nullopt;
-    return match->capture(text, 1).toString();
+    return match->capture(text, 1);
 }
 
 void addLine(std::vector<qsizetype> &lines, qsizetype line) {
@@ -343,8 +343,8 @@ qsizetype OrvoPPDScanIndex::translationSlash(qsizetype from, qsizetype before,
     return -1;
 }
 
-std::optional<QString> OrvoPPDScanIndex::optionText(const QString &keyword,
-                                                    OrvoPPDRange range) const {
+std::optional<QStringView> OrvoPPDScanIndex::optionText(const QString &keyword,
+                                                        OrvoPPDRange range) const {
     if (!isPlain(keyword))
         return lastCapture(text, range, optionTextPattern, keyword);
     auto next = std::lower_bound(openOccurrences.begin(), openOccurrences.end(),
@@ -362,13 +362,13 @@ std::optional<QString> OrvoPPDScanIndex::optionText(const QString &keyword,
             colon < 0 ? -1
                       : translationSlash(*next + openUITag.size(), line.start + colon, keyword);
         if (slash >= 0)
-            return text.sliced(slash + 1, line.start + colon - slash - 1);
+            return QStringView(text).sliced(slash + 1, line.start + colon - slash - 1);
     }
     return std::nullopt;
 }
 
-std::optional<QString> OrvoPPDScanIndex::defaultChoice(const QString &keyword,
-                                                       OrvoPPDRange range) const {
+std::optional<QStringView> OrvoPPDScanIndex::defaultChoice(const QString &keyword,
+                                                           OrvoPPDRange range) const {
     if (!isPlain(keyword))
         return lastCapture(text, range, defaultChoicePattern, keyword);
     const QString needle = QStringLiteral("*Default") + keyword + u':';
@@ -381,14 +381,14 @@ std::optional<QString> OrvoPPDScanIndex::defaultChoice(const QString &keyword,
     qsizetype value = first + needle.size();
     while (value < line.end && text[value] == u' ')
         ++value;
-    return text.sliced(value, line.end - value);
+    return QStringView(text).sliced(value, line.end - value);
 }
 
 QList<OrvoPPDModel::Choice> OrvoPPDScanIndex::choices(const QString &keyword,
                                                       OrvoPPDRange range) const {
     QList<OrvoPPDModel::Choice> found;
     auto add = [&](QStringView key, QStringView text, QStringView code) {
-        found.append({key.toString(), text.toString(), code.toString()});
+        found.append({key, text, code});
     };
     if (!isPlain(keyword)) {
         const OrvoPPDRegex choice(OrvoPPDRegex::format(choicePattern, {keyword}));
@@ -417,12 +417,12 @@ QList<OrvoPPDModel::Choice> OrvoPPDScanIndex::choices(const QString &keyword,
     return found;
 }
 
-QStringList OrvoPPDScanIndex::customCodes(const QString &keyword) const {
-    QStringList codes;
+QList<QStringView> OrvoPPDScanIndex::customCodes(const QString &keyword) const {
+    QList<QStringView> codes;
     if (!isPlain(keyword)) {
         const OrvoPPDRegex custom(OrvoPPDRegex::format(customChoicePattern, {keyword}));
         for (const OrvoPPDRegex::Match &match : custom.findAll(text))
-            codes.append(match.capture(text, 2).toString());
+            codes.append(match.capture(text, 2));
         return codes;
     }
     const auto lines = customLinesByName.constFind(keyword);
@@ -436,7 +436,7 @@ QStringList OrvoPPDScanIndex::customCodes(const QString &keyword) const {
         while (name < line.end && text[name] == u' ')
             ++name;
         if (const auto code = quotedCode(line, name))
-            codes.append(text.sliced(code->start, code->end - code->start));
+            codes.append(QStringView(text).sliced(code->start, code->end - code->start));
     }
     return codes;
 }

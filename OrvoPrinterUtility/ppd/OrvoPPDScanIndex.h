@@ -31,11 +31,11 @@ public:
     OrvoPPDRange optionRange(const QString &keyword) const;
     // Within the option's own text: its translation, its default choice and
     // its choices, as the last (or every) match of its expressions.
-    std::optional<QString> optionText(const QString &keyword, OrvoPPDRange range) const;
-    std::optional<QString> defaultChoice(const QString &keyword, OrvoPPDRange range) const;
+    std::optional<QStringView> optionText(const QString &keyword, OrvoPPDRange range) const;
+    std::optional<QStringView> defaultChoice(const QString &keyword, OrvoPPDRange range) const;
     QList<OrvoPPDModel::Choice> choices(const QString &keyword, OrvoPPDRange range) const;
     // The codes of the keyword's custom lines anywhere in the text, in order.
-    QStringList customCodes(const QString &keyword) const;
+    QList<QStringView> customCodes(const QString &keyword) const;
     // Name and raw value of every attribute line, in text order.
     std::vector<Attribute> attributes() const;
 

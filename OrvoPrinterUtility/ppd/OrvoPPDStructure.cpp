@@ -84,9 +84,10 @@ bool OrvoPPDStructure::fillGroup(ppd_group_t &group, const OrvoPPDModel::Group &
 bool OrvoPPDStructure::fillOption(ppd_option_t &option, const QString &keyword,
                                   const OrvoPPDModel::Option &source) {
     copyChecked(option.keyword, sizeof option.keyword, keyword, "option keyword");
-    copyChecked(option.defchoice, sizeof option.defchoice, source.defaultChoice.value_or(""),
-                "default choice");
-    copyChecked(option.text, sizeof option.text, source.text.value_or(""), "option text");
+    copyChecked(option.defchoice, sizeof option.defchoice,
+                source.defaultChoice.value_or(QStringView()), "default choice");
+    copyChecked(option.text, sizeof option.text, source.text.value_or(QStringView()),
+                "option text");
     option.choices = allocateZeroed<ppd_choice_t>(size_t(source.choices.size()));
     if (!option.choices) {
         logError(QString::fromLatin1(optionMemoryError));

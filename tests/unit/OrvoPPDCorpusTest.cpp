@@ -244,19 +244,23 @@ void expectSameScans(const QString &text) {
     for (const QString &keyword : index.optionKeywords()) {
         EXPECT_EQ(index.optionRange(keyword), OrvoPPD::optionRagne(text, keyword))
             << keyword.toStdString();
-        EXPECT_EQ(index.customCodes(keyword), naiveCustomCodes(text, keyword))
-            << keyword.toStdString();
+        QStringList customCodes;
+        for (const QStringView code : index.customCodes(keyword))
+            customCodes << code.toString();
+        EXPECT_EQ(customCodes, naiveCustomCodes(text, keyword)) << keyword.toStdString();
         const OrvoPPDRange range = OrvoPPD::optionRagne(text, keyword);
         if (range.isNotFound())
             continue;
         EXPECT_EQ(lookup.find(range), OrvoPPD::findGroupKey(ranges, range));
         NaiveOption naive;
         naiveOption(text, keyword, range, naive);
-        EXPECT_EQ(index.optionText(keyword, range).value_or(QString()), naive.text);
-        EXPECT_EQ(index.defaultChoice(keyword, range).value_or(QString()), naive.defchoice);
+        EXPECT_EQ(index.optionText(keyword, range).value_or(QStringView()).toString(), naive.text);
+        EXPECT_EQ(index.defaultChoice(keyword, range).value_or(QStringView()).toString(),
+                  naive.defchoice);
         QStringList keys, texts, codes;
         for (const OrvoPPDModel::Choice &choice : index.choices(keyword, range))
-            keys << choice.key, texts << choice.text, codes << choice.code;
+            keys << choice.key.toString(), texts << choice.text.toString(),
+                codes << choice.code.toString();
         const qsizetype ordinary = keys.size();
         EXPECT_EQ(keys, naive.choiceKeys.mid(0, ordinary)) << keyword.toStdString();
         EXPECT_EQ(texts, naive.choiceTexts.mid(0, ordinary));

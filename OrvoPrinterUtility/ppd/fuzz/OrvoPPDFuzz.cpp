@@ -13,7 +13,7 @@
 
 namespace {
 
-bool fits(const QString &value, int limit) {
+bool fits(QStringView value, int limit) {
     return value.toUtf8().size() <= limit;
 }
 
@@ -32,7 +32,8 @@ bool readerStops(const QByteArray &bytes) {
         return false;
     for (const OrvoPPDModel::Group &group : model->groups) {
         for (const OrvoPPDModel::Option &option : group.options) {
-            if (!fits(option.text.value_or(""), 80) || !fits(option.defaultChoice.value_or(""), 40))
+            if (!fits(option.text.value_or(QStringView()), 80) ||
+                !fits(option.defaultChoice.value_or(QStringView()), 40))
                 return true;
             for (const OrvoPPDModel::Choice &choice : option.choices)
                 if (!fits(choice.key, 40) || !fits(choice.text, 80))
@@ -43,7 +44,7 @@ bool readerStops(const QByteArray &bytes) {
                 return true;
     }
     for (const OrvoPPDScanIndex::Attribute &attribute : index.attributes())
-        if (!fits(attribute.name.toString(), 40))
+        if (!fits(attribute.name, 40))
             return true;
     return false;
 }
