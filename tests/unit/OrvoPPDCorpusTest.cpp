@@ -29,6 +29,7 @@ struct NaiveOption {
 struct NaiveReading {
     bool utf8 = false;
     bool readable = false; // options found and every one has a choice
+    std::string nullReason;
     std::vector<NaiveOption> options;
     std::vector<std::pair<QString, QString>> attributes;
 };
@@ -104,8 +105,10 @@ bool naiveOption(const QString &text, const QString &keyword, OrvoPPDRange range
 NaiveReading naiveRead(const QByteArray &bytes) {
     NaiveReading reading;
     const QString text = cutText(bytes, reading.utf8);
-    if (!reading.utf8)
+    if (!reading.utf8) {
+        reading.nullReason = "not UTF-8";
         return reading;
+    }
     const QStringList groups = OrvoPPD::groupKeyword(text);
     OrvoPPD::GroupRanges ranges;
     for (const QString &group : groups)
@@ -118,13 +121,17 @@ NaiveReading naiveRead(const QByteArray &bytes) {
             continue;
         NaiveOption option;
         option.group = OrvoPPD::findGroupKey(ranges, range);
-        if (!naiveOption(text, keyword, range, option))
+        if (!naiveOption(text, keyword, range, option)) {
+            reading.nullReason = "no choice for " + keyword.toStdString();
             return reading;
+        }
         for (qsizetype g = 0; g < groups.size(); ++g)
             if (groups[g] == option.group)
                 byGroup[size_t(g)].push_back(option);
     }
     reading.readable = !keywords.isEmpty();
+    if (keywords.isEmpty())
+        reading.nullReason = "no option";
     for (const auto &group : byGroup)
         reading.options.insert(reading.options.end(), group.begin(), group.end());
     reading.attributes = naiveAttributes(text);
@@ -223,7 +230,7 @@ TEST(OrvoPPDCorpus, EveryFileGetsTheVerdictOfTheRules) {
         const Verdict verdict = verdictOf(reading);
         ++counts[verdict];
         std::cout << verdictName(verdict) << "\t" << QFileInfo(path).fileName().toStdString()
-                  << "\n";
+                  << "\t" << reading.nullReason << "\n";
         expectVerdict(path, bytes, reading);
     }
     std::cout << "null " << counts[Verdict::Null] << ", stops " << counts[Verdict::Stops]
