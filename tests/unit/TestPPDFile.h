@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QByteArray>
+#include <QList>
+#include <QTemporaryDir>
+
+#include <cups/ppd.h>
+
+#include <utility>
+
+// A PPD written to a temporary folder with the given main keywords and quoted
+// values after a minimal header, opened through the program's libcups wrapper
+// and closed again when the object goes.
+class TestPPDFile {
+public:
+    using Attributes = QList<std::pair<QByteArray, QByteArray>>;
+
+    explicit TestPPDFile(const Attributes &attributes);
+    ~TestPPDFile();
+    TestPPDFile(const TestPPDFile &) = delete;
+    TestPPDFile &operator=(const TestPPDFile &) = delete;
+
+    ppd_file_t *ppd() const { return m_ppd; }
+
+private:
+    QTemporaryDir m_dir;
+    ppd_file_t *m_ppd = nullptr;
+};
