@@ -8,6 +8,7 @@
 #include "OVNotificationCenter.h"
 #include "OVPrinterUtilityHelper.h"
 #include "OVRestrictedTextField.h"
+#include "OVSaveSizeCheck.h"
 #include "OVSNMPHelper.h"
 #include "OVSettingsSnapshot.h"
 #include "OVTableViewDataSource.h"
@@ -123,7 +124,7 @@ void OVPrinterUtilityWindowController::loadControls() {
     setUpFolderTab();
     createDataSources();
     OVNotificationCenter::defaultCenter().addObserver(
-        OVCustomRestrictedTextField::notificationName,
+        OVCustomRestrictedTextField::Notification,
         [this](const OVNotification &) { receiveTextFieldNotification(); }, this);
     loadDefaultFolderValues();
     loadDefaultSelectedFolderValues();
@@ -327,10 +328,9 @@ void OVPrinterUtilityWindowController::loadDefaultFolderValues() {
         names << OVPrinterUtilityHelper::getLocalizedStringFor(QString(SharedFolderFormat).arg(n));
     loadFolderValues();
     registerFolderTableViewDataSource_->setElementsArray(names);
-    registerFolderTableViewDataSource_->reloadData();
     registerFolderTableViewDataSource_->selectFirstRow();
     OVNotificationCenter::defaultCenter().addObserver(
-        OVTableViewDataSource::selectionChangedNotification,
+        OVTableViewDataSource::SelectionChangedNotification,
         [this](const OVNotification &) { receiveTableViewNotification(); }, this);
 }
 
@@ -339,7 +339,6 @@ void OVPrinterUtilityWindowController::loadDefaultSelectedFolderValues() {
     selectedFolderTableViewDataSource_->setElementsArray(
         QStringList{OVPrinterUtilityHelper::getLocalizedStringFor(QString(SharedFolderFormat).arg(1))});
     loadSelectedFolderValues();
-    selectedFolderTableViewDataSource_->reloadData();
     selectedFolderTableViewDataSource_->selectLastRow();
 }
 
@@ -388,8 +387,7 @@ void OVPrinterUtilityWindowController::loadOptionsFromPPD() {
     unlink(path.constData());
 }
 
-void OVPrinterUtilityWindowController::readSettings(void *file) {
-    auto *ppd = static_cast<ppd_file_t *>(file);
+void OVPrinterUtilityWindowController::readSettings(ppd_file_t *ppd) {
     Ui::MainUtilityWindiw &c = *ui_;
     c.snmpCommunityCheck->setChecked(OrvoSNMPHelper::isCustomSnmpCommunity(ppd));
     c.snmpCommunityText->setText(OrvoSNMPHelper::snmpCommunityName(ppd));
@@ -403,13 +401,11 @@ void OVPrinterUtilityWindowController::readSettings(void *file) {
     readListSettings(ppd);
 }
 
-void OVPrinterUtilityWindowController::readFolderSettings(void *file) {
-    auto *ppd = static_cast<ppd_file_t *>(file);
+void OVPrinterUtilityWindowController::readFolderSettings(ppd_file_t *ppd) {
     const QStringList shared = OrvoSNMPHelper::getSharedBoxDetailsArray(ppd);
     if (!shared.isEmpty()) {
         registerFolderTableViewDataSource_->setElementsArray(shared);
         loadFolderValues();
-        registerFolderTableViewDataSource_->reloadData();
         registerFolderTableViewDataSource_->selectLastRow();
     } else {
         loadDefaultFolderValues();
@@ -421,7 +417,6 @@ void OVPrinterUtilityWindowController::readFolderSettings(void *file) {
             : QStringList{OVPrinterUtilityHelper::getLocalizedStringFor(QString(SharedFolderFormat).arg(1))};
     selectedFolderTableViewDataSource_->setElementsArray(chosen);
     loadSelectedFolderValues();
-    selectedFolderTableViewDataSource_->reloadData();
     selectedFolderTableViewDataSource_->selectLastRow();
     const QList<qint32> indices = OrvoSNMPHelper::getSelectedSharedBoxIndexArray(ppd);
     if (!indices.isEmpty())
@@ -434,8 +429,7 @@ void OVPrinterUtilityWindowController::readFolderSettings(void *file) {
         ui_->folderPersonalFolderCheck->setChecked(false);
 }
 
-void OVPrinterUtilityWindowController::readListSettings(void *file) {
-    auto *ppd = static_cast<ppd_file_t *>(file);
+void OVPrinterUtilityWindowController::readListSettings(ppd_file_t *ppd) {
     showList(formTableViewDataSource_.get(), ui_->formTable,
              OrvoSNMPHelper::getFormDetailsArray(ppd));
     loadFormValues();
@@ -451,7 +445,6 @@ void OVPrinterUtilityWindowController::showList(OVTableViewDataSource *dataSourc
                                                 QTableView *table, const QStringList &list) {
     dataSource->setElementsArray(list);
     bindTable(dataSource, table);
-    dataSource->reloadData();
     dataSource->selectFirstRow();
 }
 
@@ -460,8 +453,26 @@ void OVPrinterUtilityWindowController::showList(OVTableViewDataSource *dataSourc
 void OVPrinterUtilityWindowController::okButtonClicked(QObject *) {
     updateStringArrays();
     isPPDOptionsUpdated_ = true;
+    // Linux addition: a save that cannot reach the driver keeps the window
+    // open and says which lists to shorten, instead of closing and losing it.
+    const QStringList tooLong = OVSaveSizeCheck::listsToShorten(settingsSnapshot());
+    if (!tooLong.isEmpty()) {
+        showTooLongMessage(tooLong);
+        return;
+    }
     saveOptionsToPPD();
     closeButtonClicked(ui_->closeButton);
+}
+
+void OVPrinterUtilityWindowController::showTooLongMessage(const QStringList &listKeys) {
+    QStringList names;
+    for (const QString &key : listKeys)
+        names << "\u2022 " + OVPrinterUtilityHelper::getLocalizedStringFor(key);
+    const QString text = localized(SettingsTooLong);
+    auto alert = OVAlert::alertWithMessageText(text, localized(OK), QString(), QString(),
+                                               OVAlert::PlainMessageFormat,
+                                               {names.join('\n')});
+    alert->runModal();
 }
 
 void OVPrinterUtilityWindowController::closeButtonClicked(QObject *) {
@@ -482,7 +493,7 @@ OVSettingsSnapshot OVPrinterUtilityWindowController::settingsSnapshot() const {
     QLineEdit *fields[] = {c.macAddressText1, c.macAddressText2, c.macAddressText3,
                            c.macAddressText4, c.macAddressText5, c.macAddressText6};
     for (int i = 0; i < macFieldCount; ++i)
-        s.macAddressTexts[i] = fields[i]->text();
+        s.macAddressFields[i] = fields[i]->text();
     s.overstepTheRouter = c.overstepTheRouter->isChecked();
     s.printerIPAddressText = c.printerIPAddressText->text();
     s.allSharedBoxNames = allSharedBoxNames_;
@@ -503,7 +514,6 @@ void OVPrinterUtilityWindowController::folderAddButtonClicked(QObject *) {
     selectedFolderTableViewDataSource_->addElement(
         registerFolderTableViewDataSource_->getSelectedRowValue());
     loadSelectedFolderValues();
-    selectedFolderTableViewDataSource_->reloadData();
     selectedFolderTableViewDataSource_->selectLastRow();
     selectedSharedBoxIndex_.append(row);
 }
@@ -513,7 +523,6 @@ void OVPrinterUtilityWindowController::folderDeleteButtonClicked(QObject *) {
     if (row >= 0 && row < selectedSharedBoxIndex_.size())
         selectedSharedBoxIndex_.removeAt(row);
     selectedFolderTableViewDataSource_->removeSelectedRow();
-    selectedFolderTableViewDataSource_->reloadData();
 }
 
 void OVPrinterUtilityWindowController::folderClearButtonClicked(QObject *) {
@@ -564,7 +573,6 @@ void OVPrinterUtilityWindowController::updateSelectedArrayStrings() {
     }
     selectedFolderTableViewDataSource_->setElementsArray(selectedSharedBoxNames_);
     loadSelectedFolderValues();
-    selectedFolderTableViewDataSource_->reloadData();
     selectedFolderTableViewDataSource_->selectLastRow();
 }
 
@@ -578,22 +586,22 @@ void OVPrinterUtilityWindowController::showProgress(bool show) {
 
 void OVPrinterUtilityWindowController::showFailedMessage() {
     const QString text = localized(FailedToObtain);
-    auto alert = OVAlert::alertWithMessageText(text, localized(OK), QString(), QString(), text);
+    auto alert = OVAlert::alertWithMessageText(text, localized(OK), QString(), QString(),
+                                               OVAlert::PlainMessageFormat, {text});
     alert->runModal();
 }
 
 bool OVPrinterUtilityWindowController::wakeOnLanWrapper() {
     Ui::MainUtilityWindiw &c = *ui_;
-    const QByteArray address = c.printerIPAddressText->text().toLatin1();
-    const QByteArray mac = macAddressFromFields().toLatin1();
-    const QByteArray community = c.snmpCommunityCheck->isChecked()
-                                     ? c.snmpCommunityText->text().toLatin1()
-                                     : QByteArray(OrvoSettingsKeywords::DefaultCommunity);
+    const QString address = c.printerIPAddressText->text();
+    const QString mac = macAddressFromFields();
+    const QString community = c.snmpCommunityCheck->isChecked()
+                                  ? c.snmpCommunityText->text()
+                                  : QString(OrvoSettingsKeywords::DefaultCommunity);
     const bool wake = c.wakeOnLANCheck->isChecked();
     const bool overRouter = c.overstepTheRouter->isChecked();
     return OVBackgroundCall::value<bool>([&] {
-        return OVWakeOnLanHelper::SnmpWakeUpOnLan(address.constData(), mac.constData(),
-                                                  community.constData(), wake, overRouter);
+        return OVWakeOnLanHelper::SnmpWakeUpOnLan(address, mac, community, wake, overRouter);
     });
 }
 
@@ -644,9 +652,9 @@ void OVPrinterUtilityWindowController::getPrinterInfoMacAddress(QObject *) {
         return;
     }
     const QByteArray address = ui_->printerIPAddressText->text().toLatin1();
-    const QByteArray community = getSnmpCommunityFromUI();
+    const QString community = QString::fromLatin1(getSnmpCommunityFromUI());
     const QString mac = OVBackgroundCall::value<QString>(
-        [&] { return OVSNMPHelper::getMacAddress(address.constData(), community.constData()); });
+        [&] { return OVSNMPHelper::getMacAddress(address.constData(), community); });
     if (mac.isNull()) {
         failFetch();
         return;
@@ -662,27 +670,21 @@ void OVPrinterUtilityWindowController::folderGetPrinterInfoButtonClicked(QObject
         return;
     }
     const QByteArray address = ui_->printerIPAddressText->text().toLatin1();
-    std::optional<QStringList> names, states;
-    bool adminMode = false;
-    const int total = OVBackgroundCall::value<int>([&] {
-        return OVSNMPHelper::snmpGetSharedBoxEntryForIPAddress(address.constData(),
-                                                              getSnmpCommunityFromUI().constData());
+    const char *host = address.constData();
+    // The community is read afresh for every query, on this thread.
+    const auto community = [this] { return QString::fromLatin1(getSnmpCommunityFromUI()); };
+    const int total = OVBackgroundCall::value<int>(
+        [&, c = community()] { return OVSNMPHelper::snmpGetSharedBoxEntryForIPAddress(host, c); });
+    const auto names = OVBackgroundCall::value<std::optional<QStringList>>([&, c = community()] {
+        return OVSNMPHelper::getValidatedSharedBoxNameArrayForIPAddress(host, c, total);
     });
-    OVBackgroundCall::run([&] {
-        names = OVSNMPHelper::getValidatedSharedBoxNameArrayForIPAddress(
-            address.constData(), getSnmpCommunityFromUI().constData(), total);
-    });
-    OVBackgroundCall::run([&] {
-        states = OVSNMPHelper::getValidatedSharedBoxStateArrayForIPAddress(
-            address.constData(), getSnmpCommunityFromUI().constData(), total);
+    const auto states = OVBackgroundCall::value<std::optional<QStringList>>([&, c = community()] {
+        return OVSNMPHelper::getValidatedSharedBoxStateArrayForIPAddress(host, c, total);
     });
     applyFolderList(names, states);
-    OVBackgroundCall::run([&] {
-        adminMode = OVSNMPHelper::getAdminLoginModeEnabled(address.constData(),
-                                                           getSnmpCommunityFromUI().constData());
-    });
-    bAdminLoginModeEnabled_ = adminMode;
-    ui_->folderPersonalFolderCheck->setEnabled(adminMode);
+    bAdminLoginModeEnabled_ = OVBackgroundCall::value<bool>(
+        [&, c = community()] { return OVSNMPHelper::getAdminLoginModeEnabled(host, c); });
+    ui_->folderPersonalFolderCheck->setEnabled(bAdminLoginModeEnabled_);
     showProgress(false);
     if (!names || !states)
         failFolderFetch();
@@ -702,7 +704,6 @@ void OVPrinterUtilityWindowController::applyFolderList(const std::optional<QStri
     }
     allSharedBoxNames_ = inUse;
     registerFolderTableViewDataSource_->setElementsArray(inUse);
-    registerFolderTableViewDataSource_->reloadData();
     updateStringArrays();
     updateSelectedArrayStrings();
 }
@@ -720,17 +721,16 @@ void OVPrinterUtilityWindowController::fetchList(ListQuery query,
         return;
     }
     const QByteArray address = ui_->printerIPAddressText->text().toLatin1();
-    const QByteArray community = getSnmpCommunityFromUI();
+    const QString community = QString::fromLatin1(getSnmpCommunityFromUI());
     const auto list = OVBackgroundCall::value<std::optional<QStringList>>(
-        [&] { return query(address.constData(), community.constData()); });
+        [&] { return query(address.constData(), community); });
     if (!list) {
         failFetch();
         return;
     }
     if (!list->isEmpty()) {
         dataSource->setElementsArray(*list);
-        dataSource->reloadData();
-        dataSource->selectFirstRow();
+            dataSource->selectFirstRow();
     }
     showProgress(false);
 }
@@ -752,17 +752,14 @@ void OVPrinterUtilityWindowController::colorProfileGetPrinterInfoButtonClicked(Q
 
 void OVPrinterUtilityWindowController::formClearButtonClicked(QObject *) {
     formTableViewDataSource_->setElementsArray(std::nullopt);
-    formTableViewDataSource_->reloadData();
 }
 
 void OVPrinterUtilityWindowController::barcodeAreaDefinitionClearButtonClicked(QObject *) {
     barcodeAreaDefinitionTableViewDataSource_->setElementsArray(std::nullopt);
-    barcodeAreaDefinitionTableViewDataSource_->reloadData();
 }
 
 void OVPrinterUtilityWindowController::colorProfileClearButtonClicked(QObject *) {
     colorProfileTableViewDataSource_->setElementsArray(std::nullopt);
-    colorProfileTableViewDataSource_->reloadData();
 }
 
 void OVPrinterUtilityWindowController::customSnmpCommunityClicked(QObject *) {

@@ -8,8 +8,9 @@
 #include <optional>
 
 class OVTableViewDataSource;
-class OVSettingsSnapshot;
+struct OVSettingsSnapshot;
 class QTableView;
+struct ppd_file_s;
 class QWidget;
 namespace Ui {
 class MainUtilityWindiw;
@@ -113,7 +114,7 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    using ListQuery = std::optional<QStringList> (*)(const char *address, const char *community);
+    using ListQuery = std::optional<QStringList> (*)(const char *address, const QString &community);
 
     void resetLaunchState();
     void setUpTexts();
@@ -123,15 +124,16 @@ private:
     void createDataSources();
     void connectActions();
     void bindTable(OVTableViewDataSource *dataSource, QTableView *table);
-    void readSettings(void *ppd);
-    void readFolderSettings(void *ppd);
-    void readListSettings(void *ppd);
+    void readSettings(ppd_file_s *ppd);
+    void readFolderSettings(ppd_file_s *ppd);
+    void readListSettings(ppd_file_s *ppd);
     void showList(OVTableViewDataSource *dataSource, QTableView *table, const QStringList &list);
     bool passesFetchGuard();
     void fetchList(ListQuery query, OVTableViewDataSource *dataSource);
     void applyFolderList(const std::optional<QStringList> &names,
                          const std::optional<QStringList> &states);
     void failFetch();
+    void showTooLongMessage(const QStringList &listKeys);
     void failFolderFetch();
     QString macAddressFromFields() const;
     QString localized(const char *key) const;
