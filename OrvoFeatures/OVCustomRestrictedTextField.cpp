@@ -1,0 +1,75 @@
+#include "OVCustomRestrictedTextField.h"
+
+#include "OVNotificationCenter.h"
+#include "OrvoHelper.h"
+
+OVCustomRestrictedTextField::OVCustomRestrictedTextField(QWidget *parent)
+    : NSKeyValueTextField(parent) {
+    connect(this, &QLineEdit::returnPressed, this, [this] { textDidEndEditing(OVNotification{}); });
+}
+
+void OVCustomRestrictedTextField::postNotificationWithString(const QString &methodName) {
+    if (!m_bSendNotification) {
+        return;
+    }
+    OVNotificationCenter::defaultCenter().postNotification(
+        QString::fromLatin1(Notification), this,
+        {{QString::fromLatin1(MethodNameKey), methodName}});
+}
+
+void OVCustomRestrictedTextField::sendEndEditingNotification() {
+    postNotificationWithString(QString::fromLatin1(TextDidEndEditingMethod));
+}
+
+bool OVCustomRestrictedTextField::becomeFirstResponder() {
+    if (m_bSendNotification) {
+        OVNotificationCenter::defaultCenter().postNotification(
+            QString::fromLatin1(BecomeNotification), this);
+    }
+    return true;
+}
+
+void OVCustomRestrictedTextField::textDidChange(const OVNotification &) {
+    if (!m_validCharacters.isNull() && !OrvoHelper::isValidString(text(), m_validCharacters)) {
+        if (!m_bAlloWAutoTrim) {
+            restoreText(m_oldString.isNull() ? QStringLiteral("") : m_oldString);
+            return;
+        }
+        restoreText(OrvoHelper::stringByRemovingInvalidCharacters(text(), m_validCharacters));
+    }
+    if (m_maxEditableTextLength >= 0 && text().size() > m_maxEditableTextLength) {
+        if (m_oldString.isNull()) {
+            m_oldString = QStringLiteral("");
+        }
+        restoreText(m_oldString);
+        return;
+    }
+    m_oldString = text();
+    postNotificationWithString(QString::fromLatin1(TextDidChangeMethod));
+}
+
+void OVCustomRestrictedTextField::textDidEndEditing(const OVNotification &) {
+    sendEndEditingNotification();
+}
+
+void OVCustomRestrictedTextField::userDidEdit(const QString &) {
+    textDidChange(OVNotification{});
+}
+
+bool OVCustomRestrictedTextField::textView(KeyCommand doCommandBySelector) {
+    return followKeyViewChain(doCommandBySelector);
+}
+
+void OVCustomRestrictedTextField::focusInEvent(QFocusEvent *event) {
+    NSKeyValueTextField::focusInEvent(event);
+    if (changesFirstResponder(event)) {
+        becomeFirstResponder();
+    }
+}
+
+void OVCustomRestrictedTextField::focusOutEvent(QFocusEvent *event) {
+    if (changesFirstResponder(event)) {
+        textDidEndEditing(OVNotification{});
+    }
+    NSKeyValueTextField::focusOutEvent(event);
+}

@@ -1,0 +1,91 @@
+#include "OrvoPPDUpdateFilter.h"
+
+#include "OrvoFilterLog.h"
+#include "OrvoPPDMessageWriter.h"
+#include "OrvoSettingsKeywords.h"
+#include "OrvoSettingsOption.h"
+
+#include <cstdio>
+#include <cstring>
+#include <string>
+#include <unistd.h>
+
+namespace {
+
+constexpr int optionsArgument = 5;
+constexpr int argumentsWithoutFile = 6;
+constexpr int argumentsWithFile = 7;
+
+} // namespace
+
+int OrvoPPDUpdateFilter::run(int argc, char **argv) {
+    if (argc != argumentsWithoutFile && argc != argumentsWithFile) {
+        std::fprintf(stderr, "Usage: %s job-id user title copies options [file]\n", argv[0]);
+        return 1;
+    }
+    // The print file only carries the job; when it comes on standard input it
+    // is read to the end so that nothing upstream writes into a closed pipe.
+    if (argc == argumentsWithoutFile)
+        drainInput();
+
+    OrvoFilterLog log(stderr);
+    const char *optionsText = argv[optionsArgument];
+    log.write(OrvoFilterLog::Level::Debug,
+              "Job options text is " + std::to_string(std::strlen(optionsText)) + " bytes");
+    cups_option_t *options = nullptr;
+    const int count = cupsParseOptions(optionsText, 0, &options);
+    if (isUpdateJob(count, options))
+        store(count, options, log);
+    else
+        log.write(OrvoFilterLog::Level::Debug, "Not a settings update job, nothing stored");
+    cupsFreeOptions(count, options);
+    return 0;
+}
+
+void OrvoPPDUpdateFilter::drainInput() {
+    char buffer[4096];
+    while (read(STDIN_FILENO, buffer, sizeof buffer) > 0) {
+    }
+}
+
+// The marker travels as an IPP boolean, so it comes back as "true".
+bool OrvoPPDUpdateFilter::isUpdateJob(int count, cups_option_t *options) {
+    const char *marker = cupsGetOption(OrvoSettingsKeywords::UpdatePPDOptions, count, options);
+    return marker && (std::strcmp(marker, "true") == 0 ||
+                      std::strcmp(marker, OrvoSettingsKeywords::UpdatePPDOptionsValue) == 0);
+}
+
+// cupsd adds attributes such as job-uuid to every job's options; they are
+// refused like any other option but noted at debug level only.
+bool OrvoPPDUpdateFilter::looksLikeJobAttribute(const char *name) {
+    return name[0] &&
+           std::strspn(name, "abcdefghijklmnopqrstuvwxyz0123456789-") == std::strlen(name);
+}
+
+void OrvoPPDUpdateFilter::store(int count, cups_option_t *options, OrvoFilterLog &log) {
+    OrvoPPDMessageWriter writer(stderr);
+    std::size_t stored = 0;
+    for (int i = 0; i < count; ++i) {
+        const auto [verdict, reason] = OrvoSettingsOption::check(options[i].name, options[i].value);
+        switch (verdict) {
+        case OrvoSettingsOption::Verdict::Store:
+            writer.add(options[i].name, options[i].value);
+            ++stored;
+            break;
+        case OrvoSettingsOption::Verdict::JobMarker:
+            break;
+        case OrvoSettingsOption::Verdict::NotASetting:
+            if (looksLikeJobAttribute(options[i].name))
+                log.refused(OrvoFilterLog::Level::Debug, options[i].name, "a job attribute");
+            else
+                log.refused(OrvoFilterLog::Level::Warning, options[i].name,
+                            "not a settings keyword");
+            break;
+        case OrvoSettingsOption::Verdict::BadValue:
+            log.refused(OrvoFilterLog::Level::Error, options[i].name, reason);
+            break;
+        }
+    }
+    writer.flush();
+    log.summary(stored);
+}
