@@ -1,0 +1,85 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <array>
+#include <optional>
+
+// The printer's vendor MIB (.1.3.6.1.4.1.41871) over SNMP version 1 get
+// requests. Every query opens, uses and closes its own Net-SNMP session and
+// blocks until the answer or the last retry's timeout.
+//
+// The list queries leave their result in eight class-level arrays that are
+// not guarded: only one fetch may run at a time (the window runs one fetch at
+// a time on its worker thread). After a list query its array holds either the
+// complete answer or nothing.
+//
+// The library is used without reading any file: no MIB is loaded (the
+// identifiers are numeric), no snmp.conf is read (so no user setting changes
+// the timeouts below) and no persistent state is loaded or saved.
+class OVSNMPHelper {
+public:
+    OVSNMPHelper() = delete;
+
+    // Net-SNMP's own maximum peer-name length is larger, but every address
+    // this program sends fits; a longer one is refused rather than cut.
+    using PeerName = std::array<char, 256>;
+
+    static const QStringList &sharedBoxStateArray();
+    static const QStringList &sharedBoxNameArray();
+    static const QStringList &formStateArray();
+    static const QStringList &formNameArray();
+    static const QStringList &barcodeAreaDefinitionStateArray();
+    static const QStringList &barcodeAreaDefinitionNameArray();
+    static const QStringList &colorProfileStateArray();
+    static const QStringList &colorProfileNameArray();
+
+    // 100 when the printer answers shared box 100, else 30.
+    static int snmpGetSharedBoxEntryForIPAddress(const char *address, const QString &community);
+    static bool snmpGetSharedBoxStateForIPAddress(const char *address, const QString &community,
+                                                  int totalCount);
+    static bool snmpGetSharedBoxNameForIPAddress(const char *address, const QString &community,
+                                                 int totalCount);
+    static bool snmpGetFormStateForIPAddress(const char *address, const QString &community);
+    static bool snmpGetFormNameForIPAddress(const char *address, const QString &community);
+    static bool snmpGetBarcodeAreDefinitionStateForIPAddress(const char *address,
+                                                             const QString &community);
+    static bool snmpGetBarcodeAreDefinitionNameForIPAddress(const char *address,
+                                                            const QString &community);
+    static bool snmpGetColorProfileStateForIPAddress(const char *address, const QString &community);
+    static bool snmpGetColorProfileNameForIPAddress(const char *address, const QString &community);
+    static bool snmpGetAdminLoginModeEnabled(const char *address, const QString &community);
+    static bool getAdminLoginModeEnabled(const char *address, const QString &community);
+
+    // Copies of the whole shared-box arrays; nullopt on failure or when empty.
+    static std::optional<QStringList>
+    getValidatedSharedBoxNameArrayForIPAddress(const char *address, const QString &community,
+                                               int totalCount);
+    static std::optional<QStringList>
+    getValidatedSharedBoxStateArrayForIPAddress(const char *address, const QString &community,
+                                                int totalCount);
+    // The names of the entries in use (state "1"), in index order; nullopt on
+    // failure, an empty list when none is in use.
+    static std::optional<QStringList>
+    getValidatedFormNameArrayForIPAddress(const char *address, const QString &community);
+    static std::optional<QStringList>
+    getValidatedBarcodeAreaNameArrayForIPAddress(const char *address, const QString &community);
+    static std::optional<QStringList>
+    getValidatedColorProfileForIPAddress(const char *address, const QString &community);
+
+    // The request status (0 success, 1 error, 2 timeout; 1 when no session
+    // opens). sleepMode is -1 unless the printer answered with an integer.
+    static int getSleepMode(const char *address, const QString &community, int &sleepMode);
+    // The MAC address text, or a null string on any failure.
+    static QString getMacAddress(const char *address, const QString &community);
+
+    // The Net-SNMP peer name for an address: the address itself, or for any
+    // address with a colon "udp6:[ADDRESS]:161". The brackets differ on
+    // purpose from the plain "udp6:ADDRESS:161": Net-SNMP 5.9 reads the
+    // unbracketed form as the host "ADDRESS:161" (udp6:fd99::2:161 goes to
+    // fd99::2:161, udp6:::1:161 to ::0.1.1.97), while the bracketed one reaches
+    // the IPv6 literal (a zone such as %en0 included) on UDP port 161.
+    // False, with an empty peer name, when the result would not fit.
+    static bool getConvertedAddress(PeerName &peerName, const char *sourceAddr);
+};
