@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QTextStream>
+#include <QWidget>
 
 namespace {
 constexpr char usage[] = "Usage: orvo-printer-utility [--printer QUEUE]\n"

@@ -8,8 +8,8 @@
 #include "OVNotificationCenter.h"
 #include "OVPrinterUtilityHelper.h"
 #include "OVRestrictedTextField.h"
-#include "OVSaveSizeCheck.h"
 #include "OVSNMPHelper.h"
+#include "OVSaveSizeCheck.h"
 #include "OVSettingsSnapshot.h"
 #include "OVTableViewDataSource.h"
 #include "OVUpdateJob.h"
@@ -30,10 +30,10 @@
 namespace {
 using namespace OVWindowTexts;
 
-const QString communityValidCharacters = QStringLiteral(",./:;@[\\") + QChar(0x00A5) +
-                                         QStringLiteral("]^_0123456789abcdefghijklmn") +
-                                         QChar(0x200B) + QStringLiteral("opqrstuvwxyzABCDEFGHIJKLMN") +
-                                         QChar(0x200B) + QStringLiteral("OPQRSTUVWXYZ");
+const QString communityValidCharacters =
+    QStringLiteral(",./:;@[\\") + QChar(0x00A5) + QStringLiteral("]^_0123456789abcdefghijklmn") +
+    QChar(0x200B) + QStringLiteral("opqrstuvwxyzABCDEFGHIJKLMN") + QChar(0x200B) +
+    QStringLiteral("OPQRSTUVWXYZ");
 const QString communityInvalidCharacters = QStringLiteral("!\"#%%&'()*+-<=>?`{|}~");
 const QString hexDigits = QStringLiteral("0123456789ABCDEFabcdef");
 constexpr int communityMaxLength = 32;
@@ -60,8 +60,12 @@ OVPrinterUtilityWindowController::OVPrinterUtilityWindowController(QObject *pare
 // Observers registered with this controller as context leave with it.
 OVPrinterUtilityWindowController::~OVPrinterUtilityWindowController() = default;
 
-QWidget *OVPrinterUtilityWindowController::mainWindowObject() const { return window_.get(); }
-Ui::MainUtilityWindiw &OVPrinterUtilityWindowController::controls() const { return *ui_; }
+QWidget *OVPrinterUtilityWindowController::mainWindowObject() const {
+    return window_.get();
+}
+Ui::MainUtilityWindiw &OVPrinterUtilityWindowController::controls() const {
+    return *ui_;
+}
 
 OVTableViewDataSource *OVPrinterUtilityWindowController::registerFolderTableViewDataSource() const {
     return registerFolderTableViewDataSource_.get();
@@ -173,9 +177,9 @@ void OVPrinterUtilityWindowController::setUpTexts() {
     c.formLabel->setText(localized(FormTab));
     c.barcodeAreaDefinitionLabel->setText(localized(BarcodeTab));
     c.colorProfileLabel->setText(localized(ColorProfileTab));
-    for (QPushButton *button : {c.folderGetPrinterInfoButton, c.formGetPrinterInfoButton,
-                                c.barcodeAreaDefinitionGetPrinterInfoButton,
-                                c.colorProfileGetPrinterInfoButton})
+    for (QPushButton *button :
+         {c.folderGetPrinterInfoButton, c.formGetPrinterInfoButton,
+          c.barcodeAreaDefinitionGetPrinterInfoButton, c.colorProfileGetPrinterInfoButton})
         button->setText(localized(GetPrinterInfo));
     for (QPushButton *button : {c.folderClearButton, c.formClearButton,
                                 c.barcodeAreaDefinitionClearButton, c.colorProfileClearButton})
@@ -193,9 +197,9 @@ void OVPrinterUtilityWindowController::setUpSettingsFields() {
     c.snmpCommunityText->setText(OrvoSettingsKeywords::DefaultCommunity);
     c.snmpCommunityText->setEnabled(false);
     c.wakeOnLANCheck->setChecked(true);
-    for (OVCustomRestrictedTextField *field : {c.macAddressText1, c.macAddressText2,
-                                               c.macAddressText3, c.macAddressText4,
-                                               c.macAddressText5, c.macAddressText6}) {
+    for (OVCustomRestrictedTextField *field :
+         {c.macAddressText1, c.macAddressText2, c.macAddressText3, c.macAddressText4,
+          c.macAddressText5, c.macAddressText6}) {
         field->setValidCharacters(hexDigits);
         field->setMaxEditableTextLength(macFieldMaxLength);
         field->setText("00");
@@ -245,9 +249,12 @@ void OVPrinterUtilityWindowController::connectActions() {
     };
     on(c.okButton, &OVPrinterUtilityWindowController::okButtonClicked);
     on(c.closeButton, &OVPrinterUtilityWindowController::closeButtonClicked);
-    on(c.printerGetPrinterInfoButton, &OVPrinterUtilityWindowController::getPrinterInfoButtonClicked);
-    on(c.folderGetPrinterInfoButton, &OVPrinterUtilityWindowController::folderGetPrinterInfoButtonClicked);
-    on(c.formGetPrinterInfoButton, &OVPrinterUtilityWindowController::formGetPrinterInfoButtonClicked);
+    on(c.printerGetPrinterInfoButton,
+       &OVPrinterUtilityWindowController::getPrinterInfoButtonClicked);
+    on(c.folderGetPrinterInfoButton,
+       &OVPrinterUtilityWindowController::folderGetPrinterInfoButtonClicked);
+    on(c.formGetPrinterInfoButton,
+       &OVPrinterUtilityWindowController::formGetPrinterInfoButtonClicked);
     on(c.barcodeAreaDefinitionGetPrinterInfoButton,
        &OVPrinterUtilityWindowController::barcodeAreaDefinitionGetPrinterInfoButtonClicked);
     on(c.colorProfileGetPrinterInfoButton,
@@ -258,7 +265,8 @@ void OVPrinterUtilityWindowController::connectActions() {
     on(c.formClearButton, &OVPrinterUtilityWindowController::formClearButtonClicked);
     on(c.barcodeAreaDefinitionClearButton,
        &OVPrinterUtilityWindowController::barcodeAreaDefinitionClearButtonClicked);
-    on(c.colorProfileClearButton, &OVPrinterUtilityWindowController::colorProfileClearButtonClicked);
+    on(c.colorProfileClearButton,
+       &OVPrinterUtilityWindowController::colorProfileClearButtonClicked);
     on(c.snmpCommunityCheck, &OVPrinterUtilityWindowController::customSnmpCommunityClicked);
     on(c.wakeOnLANCheck, &OVPrinterUtilityWindowController::wakeOnLANCheckClicked);
 }
@@ -307,13 +315,14 @@ void OVPrinterUtilityWindowController::setTabOrder() {
         QGuiApplication::styleHints()->tabFocusBehavior() == Qt::TabFocusAllControls;
     QList<QWidget *> chain;
     if (allControls)
-        chain = {c.snmpCommunityCheck, c.snmpCommunityText, c.wakeOnLANCheck, c.macAddressText1,
-                 c.macAddressText2, c.macAddressText3, c.macAddressText4, c.macAddressText5,
-                 c.macAddressText6, c.overstepTheRouter, c.printerIPAddressText,
-                 c.printerGetPrinterInfoButton, c.meinTabView, c.closeButton, c.okButton};
+        chain = {c.snmpCommunityCheck, c.snmpCommunityText,    c.wakeOnLANCheck,
+                 c.macAddressText1,    c.macAddressText2,      c.macAddressText3,
+                 c.macAddressText4,    c.macAddressText5,      c.macAddressText6,
+                 c.overstepTheRouter,  c.printerIPAddressText, c.printerGetPrinterInfoButton,
+                 c.meinTabView,        c.closeButton,          c.okButton};
     else
         chain = {c.snmpCommunityText, c.macAddressText1, c.macAddressText2, c.macAddressText3,
-                 c.macAddressText4, c.macAddressText5, c.macAddressText6, c.printerIPAddressText};
+                 c.macAddressText4,   c.macAddressText5, c.macAddressText6, c.printerIPAddressText};
     for (qsizetype i = 0; i + 1 < chain.size(); ++i)
         QWidget::setTabOrder(chain[i], chain[i + 1]);
     QWidget::setTabOrder(chain.last(), chain.first());
@@ -336,8 +345,8 @@ void OVPrinterUtilityWindowController::loadDefaultFolderValues() {
 
 void OVPrinterUtilityWindowController::loadDefaultSelectedFolderValues() {
     selectedSharedBoxIndex_ = {0};
-    selectedFolderTableViewDataSource_->setElementsArray(
-        QStringList{OVPrinterUtilityHelper::getLocalizedStringFor(QString(SharedFolderFormat).arg(1))});
+    selectedFolderTableViewDataSource_->setElementsArray(QStringList{
+        OVPrinterUtilityHelper::getLocalizedStringFor(QString(SharedFolderFormat).arg(1))});
     loadSelectedFolderValues();
     selectedFolderTableViewDataSource_->selectLastRow();
 }
@@ -411,10 +420,10 @@ void OVPrinterUtilityWindowController::readFolderSettings(ppd_file_t *ppd) {
         loadDefaultFolderValues();
     }
     isPPDOptionsUpdated_ = OrvoSNMPHelper::isPPDOptionsUpdated(ppd);
-    const QStringList chosen =
-        isPPDOptionsUpdated_
-            ? OrvoSNMPHelper::getSelectedSharedBoxDetailsArray(ppd)
-            : QStringList{OVPrinterUtilityHelper::getLocalizedStringFor(QString(SharedFolderFormat).arg(1))};
+    const QStringList chosen = isPPDOptionsUpdated_
+                                   ? OrvoSNMPHelper::getSelectedSharedBoxDetailsArray(ppd)
+                                   : QStringList{OVPrinterUtilityHelper::getLocalizedStringFor(
+                                         QString(SharedFolderFormat).arg(1))};
     selectedFolderTableViewDataSource_->setElementsArray(chosen);
     loadSelectedFolderValues();
     selectedFolderTableViewDataSource_->selectLastRow();
@@ -470,8 +479,7 @@ void OVPrinterUtilityWindowController::showTooLongMessage(const QStringList &lis
         names << "\u2022 " + OVPrinterUtilityHelper::getLocalizedStringFor(key);
     const QString text = localized(SettingsTooLong);
     auto alert = OVAlert::alertWithMessageText(text, localized(OK), QString(), QString(),
-                                               OVAlert::PlainMessageFormat,
-                                               {names.join('\n')});
+                                               OVAlert::PlainMessageFormat, {names.join('\n')});
     alert->runModal();
 }
 
@@ -552,7 +560,9 @@ bool OVPrinterUtilityWindowController::shouldEnableDelete() const {
     return !selectedFolderTableViewDataSource_->getSelectedRowValue().isNull();
 }
 
-void OVPrinterUtilityWindowController::receiveTableViewNotification() { initAddDeleteState(); }
+void OVPrinterUtilityWindowController::receiveTableViewNotification() {
+    initAddDeleteState();
+}
 
 void OVPrinterUtilityWindowController::receiveTextFieldNotification() {
     constraintsWakeOnLanItems();
@@ -730,14 +740,13 @@ void OVPrinterUtilityWindowController::fetchList(ListQuery query,
     }
     if (!list->isEmpty()) {
         dataSource->setElementsArray(*list);
-            dataSource->selectFirstRow();
+        dataSource->selectFirstRow();
     }
     showProgress(false);
 }
 
 void OVPrinterUtilityWindowController::formGetPrinterInfoButtonClicked(QObject *) {
-    fetchList(&OVSNMPHelper::getValidatedFormNameArrayForIPAddress,
-              formTableViewDataSource_.get());
+    fetchList(&OVSNMPHelper::getValidatedFormNameArrayForIPAddress, formTableViewDataSource_.get());
 }
 
 void OVPrinterUtilityWindowController::barcodeAreaDefinitionGetPrinterInfoButtonClicked(QObject *) {
