@@ -3,6 +3,7 @@
 #include "OVPreferredLanguages.h"
 #include "OVSystemLog.h"
 #include "OVSystemVersion.h"
+#include "OrvoPPD_Interface.h"
 #include "OrvoPPDReader.h"
 #include "OrvoPPDRegex.h"
 #include "OrvoPPDScanIndex.h"
@@ -280,7 +281,7 @@ ppd_choice_t *OrvoPPD::ppdFindChoice(ppd_option_t *option, const char *choiceKey
 int OrvoPPD::ppdMarkOption(ppd_file_t *ppd, const char *optionKey, const char *choiceKey) {
     if (!choiceKey)
         return 0;
-    ppd_option_t *option = ppd && optionKey ? ::ppdFindOption(ppd, optionKey) : nullptr;
+    ppd_option_t *option = ppd && optionKey ? r_ppdFindOption(ppd, optionKey) : nullptr;
     if (!option || option->num_choices == 0)
         return 1;
     int chosen = -1;
@@ -307,7 +308,7 @@ void OrvoPPD::ppdMarkDefaults(ppd_file_t *ppd) {
 }
 
 ppd_choice_t *OrvoPPD::ppdFindMarkedChoice(ppd_file_t *ppd, const char *optionKey) {
-    ppd_option_t *option = ppd && optionKey ? ::ppdFindOption(ppd, optionKey) : nullptr;
+    ppd_option_t *option = ppd && optionKey ? r_ppdFindOption(ppd, optionKey) : nullptr;
     if (!option)
         return nullptr;
     for (int c = 0; c < option->num_choices; ++c)
