@@ -3,6 +3,7 @@
 #include "OVSNMPHelper.h"
 #include "OVSleep.h"
 #include "OVSystemLog.h"
+#include "OrvoSettingsKeywords.h"
 
 #include <arpa/inet.h>
 #include <ifaddrs.h>
@@ -22,7 +23,6 @@ namespace {
 
 constexpr const char *kIPv4Broadcast = "255.255.255.255";
 constexpr const char *kIPv6AllRouters = "FF02::2";
-constexpr const char *kDefaultCommunity = "cobalt";
 constexpr const char *kInterfacePrefix = "en";
 constexpr size_t kMacParts = 6;
 constexpr size_t kMacPartBuffer = 10;
@@ -246,7 +246,8 @@ bool OVWakeOnLanHelper::SnmpWakeUpOnLan(const QString &ipAddress, const QString 
         return false;
     }
     const QByteArray given = fitting(snmpComm, kCommunityBuffer);
-    const QString community = given.isEmpty() ? QString(kDefaultCommunity) : QString(given);
+    const QString community =
+        given.isEmpty() ? QString(OrvoSettingsKeywords::DefaultCommunity) : QString(given);
     const int ipType = spJudgeIPtype(address.constData());
     if (waitWhileAsleep(address.constData(), community))
         return true;

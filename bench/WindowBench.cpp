@@ -1,0 +1,137 @@
+// The window against a private cupsd and the simulated printer:
+// - start-up: from process start to the window shown with the queue's settings
+//   loaded, in a fresh process each time (median of 10);
+// - save: from OK to the queue's PPD holding the new settings (median of 10);
+// - fetch: the combined Get Printer Info with 20 ms added to every answer,
+//   against round trips x delay, and the longest the event loop went without
+//   running meanwhile.
+// Ends with one RESULT line.
+#include "CupsServer.h"
+#include "OVPrinterUtilityWindowController.h"
+#include "SimulatedPrinter.h"
+#include "ui_MainUtilityWindiw.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QProcess>
+#include <QThread>
+#include <QTimer>
+
+#include <algorithm>
+#include <cstdio>
+#include <ctime>
+#include <unistd.h>
+
+namespace {
+constexpr char queue[] = "OrvoBench";
+constexpr int runs = 10;
+constexpr int addedDelayMs = 20;
+
+double median(std::vector<double> values) {
+    std::sort(values.begin(), values.end());
+    return values[values.size() / 2];
+}
+
+// Milliseconds since this process started, from /proc (field 22, in ticks).
+double msSinceProcessStart() {
+    QFile stat("/proc/self/stat");
+    if (!stat.open(QIODevice::ReadOnly))
+        return -1;
+    const QList<QByteArray> fields = stat.readAll().split(')').last().trimmed().split(' ');
+    const double startTicks = fields.value(19).toDouble();
+    timespec now{};
+    clock_gettime(CLOCK_BOOTTIME, &now);
+    return (now.tv_sec + now.tv_nsec / 1e9) * 1000.0 - startTicks * 1000.0 / sysconf(_SC_CLK_TCK);
+}
+
+// Child mode: open the window as the program does and say when it shows.
+int startupChild() {
+    OVPrinterUtilityWindowController controller;
+    controller.applicationDidFinishLaunching({"--printer", queue});
+    controller.mainWindowObject()->show();
+    QApplication::processEvents();
+    std::printf("%.1f\n", msSinceProcessStart());
+    return 0;
+}
+
+double startupMs(const QString &self) {
+    std::vector<double> times;
+    for (int i = 0; i < runs; ++i) {
+        QProcess child;
+        child.start(self, {"--startup-child"});
+        child.waitForFinished(60000);
+        times.push_back(child.readAllStandardOutput().trimmed().toDouble());
+    }
+    return median(times);
+}
+
+double saveMs(CupsServer &cups) {
+    std::vector<double> times;
+    for (int i = 0; i < runs; ++i) {
+        OVPrinterUtilityWindowController controller;
+        controller.applicationDidFinishLaunching({"--printer", queue});
+        const QString marker = QString("10.9.%1.1").arg(i);
+        controller.controls().printerIPAddressText->setText(marker);
+        const QByteArray stored = marker.toLatin1().toBase64();
+        QElapsedTimer timer;
+        timer.start();
+        controller.controls().okButton->click();
+        while (!cups.queuePpd(queue).contains(stored) && timer.elapsed() < 30000)
+            QThread::msleep(5);
+        times.push_back(timer.nsecsElapsed() / 1e6);
+    }
+    return median(times);
+}
+
+struct Fetch {
+    double overhead;
+    double maxStallMs;
+};
+
+Fetch fetch(SimulatedPrinter &printer) {
+    OVPrinterUtilityWindowController controller;
+    controller.applicationDidFinishLaunching({"--printer", queue});
+    controller.controls().printerIPAddressText->setText(SimulatedPrinter::loopbackAddress());
+    controller.controls().wakeOnLANCheck->setChecked(false);
+    printer.setResponseDelayMs(addedDelayMs);
+    QElapsedTimer sinceTick, total;
+    double maxStall = 0;
+    QTimer ticker;
+    QObject::connect(&ticker, &QTimer::timeout, [&] {
+        maxStall = std::max(maxStall, sinceTick.nsecsElapsed() / 1e6);
+        sinceTick.restart();
+    });
+    const int before = printer.requestCount();
+    ticker.start(1);
+    sinceTick.start();
+    total.start();
+    controller.controls().printerGetPrinterInfoButton->click();
+    const double elapsed = total.nsecsElapsed() / 1e6;
+    ticker.stop();
+    printer.setResponseDelayMs(0);
+    const int roundTrips = printer.requestCount() - before;
+    std::printf("fetch: %.1f ms for %d round trips of %d ms\n", elapsed, roundTrips, addedDelayMs);
+    return {elapsed / (roundTrips * addedDelayMs), maxStall};
+}
+} // namespace
+
+int main(int argc, char **argv) {
+    QApplication app(argc, argv);
+    // The child talks to its parent's server, found through the environment.
+    if (app.arguments().contains("--startup-child"))
+        return startupChild();
+    CupsServer cups(ORVO_PPD_UPDATE_FILTER);
+    if (!cups.isRunning() || !cups.addQueue(queue))
+        return 1;
+    SimulatedPrinter printer;
+    printer.setDefaults();
+    if (!printer.start())
+        return 1;
+    const double startup = startupMs(app.applicationFilePath());
+    const double save = saveMs(cups);
+    const Fetch fetched = fetch(printer);
+    std::printf("RESULT startup_ms=%.0f save_ms=%.0f fetch_overhead=%.3f max_stall_ms=%.1f\n",
+                startup, save, fetched.overhead, fetched.maxStallMs);
+    return 0;
+}
