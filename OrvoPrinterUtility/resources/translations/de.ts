@@ -100,6 +100,10 @@
         <translation>Die Informationen konnten nicht abgerufen werden.</translation>
     </message>
     <message>
+        <source>IDS_SETTINGS_TOO_LONG</source>
+        <translation>Diese Einstellungen sind zu lang, um vom Druckserver an den Druckertreiber übergeben zu werden, und können nicht gespeichert werden. Kürzen Sie diese Listen und klicken Sie erneut auf OK:</translation>
+    </message>
+    <message>
         <source>Shared Folder 1</source>
         <translation>Freigegebener Ordner 1</translation>
     </message>

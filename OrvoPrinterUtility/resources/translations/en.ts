@@ -100,6 +100,10 @@
         <translation>Failed to obtain information.</translation>
     </message>
     <message>
+        <source>IDS_SETTINGS_TOO_LONG</source>
+        <translation>These settings are too long for the print server to pass to the printer driver, so they cannot be saved. Shorten these lists and press OK again:</translation>
+    </message>
+    <message>
         <source>Shared Folder 1</source>
         <translation>Shared Folder 1</translation>
     </message>

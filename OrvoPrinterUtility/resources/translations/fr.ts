@@ -100,6 +100,10 @@
         <translation>Impossible d'obtenir les informations.</translation>
     </message>
     <message>
+        <source>IDS_SETTINGS_TOO_LONG</source>
+        <translation>Ces réglages sont trop longs pour que le serveur d'impression les transmette au pilote de l'imprimante : ils ne peuvent pas être enregistrés. Raccourcissez ces listes, puis cliquez de nouveau sur OK :</translation>
+    </message>
+    <message>
         <source>Shared Folder 1</source>
         <translation>Dossier partagé 1</translation>
     </message>

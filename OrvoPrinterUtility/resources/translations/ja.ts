@@ -100,6 +100,10 @@
         <translation>情報の取得に失敗しました。</translation>
     </message>
     <message>
+        <source>IDS_SETTINGS_TOO_LONG</source>
+        <translation>設定が長すぎるため、プリントサーバーからプリンタードライバーに渡せず、保存できません。次の一覧を短くしてから、もう一度 OK を押してください:</translation>
+    </message>
+    <message>
         <source>Shared Folder 1</source>
         <translation>共有フォルダー 1</translation>
     </message>

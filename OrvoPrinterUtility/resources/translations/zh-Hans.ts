@@ -100,6 +100,10 @@
         <translation>无法获取信息。</translation>
     </message>
     <message>
+        <source>IDS_SETTINGS_TOO_LONG</source>
+        <translation>这些设置太长，打印服务器无法将其传递给打印机驱动程序，因此无法保存。请缩短以下列表，然后再次单击“确定”：</translation>
+    </message>
+    <message>
         <source>Shared Folder 1</source>
         <translation>共享文件夹 1</translation>
     </message>

@@ -100,6 +100,10 @@
         <translation>無法取得資訊。</translation>
     </message>
     <message>
+        <source>IDS_SETTINGS_TOO_LONG</source>
+        <translation>這些設定太長，列印伺服器無法將其傳給印表機驅動程式，因此無法儲存。請縮短以下清單，然後再按一次「確定」：</translation>
+    </message>
+    <message>
         <source>Shared Folder 1</source>
         <translation>共用資料夾 1</translation>
     </message>

@@ -1,0 +1,88 @@
+#pragma once
+
+#include "OrvoPPDModel.h"
+#include "OrvoPPDRange.h"
+
+#include <QHash>
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+#include <vector>
+
+// The reader's scans, answered from one pass over the text instead of one pass
+// per option with several expressions. Each answer is the one the per-keyword
+// expression gives: the same last (or first) match, the keyword's optional
+// last character, the custom lines of the whole text. Every expression here
+// matches within one line, so the lines that hold its literal parts are the
+// only places to look. Keywords holding expression syntax take the expression.
+class OrvoPPDScanIndex {
+public:
+    struct Attribute {
+        QStringView name;
+        QStringView value;
+    };
+
+    explicit OrvoPPDScanIndex(const QString &text);
+
+    const QStringList &groupKeywords() const { return groups; }
+    const QStringList &optionKeywords() const { return options; }
+    OrvoPPDRange groupRange(const QString &name) const;
+    OrvoPPDRange optionRange(const QString &keyword) const;
+    // Within the option's own text: its translation, its default choice and
+    // its choices, as the last (or every) match of its expressions.
+    std::optional<QStringView> optionText(const QString &keyword, OrvoPPDRange range) const;
+    std::optional<QStringView> defaultChoice(const QString &keyword, OrvoPPDRange range) const;
+    QList<OrvoPPDModel::Choice> choices(const QString &keyword, OrvoPPDRange range) const;
+    // The codes of the keyword's custom lines anywhere in the text, in order.
+    QList<QStringView> customCodes(const QString &keyword) const;
+    // Name and raw value of every attribute line, in text order.
+    std::vector<Attribute> attributes() const;
+
+    static bool isLineTerminator(QChar c);
+    // Literal in an expression, so the keyword's lines can be found by text.
+    static bool isPlain(QStringView keyword);
+    // The start range united with the character before the first occurrence
+    // of the following "*OpenUI" line.
+    static OrvoPPDRange uniteWithLineBefore(QStringView text, OrvoPPDRange start,
+                                            QStringView followingLine);
+
+private:
+    struct Line {
+        qsizetype start;
+        qsizetype end;
+    };
+    using LineIndex = QHash<QStringView, std::vector<qsizetype>>;
+    struct QuotedCode {
+        qsizetype colon;
+        qsizetype start;
+        qsizetype end;
+    };
+
+    void indexGroups();
+    void indexOptionStarts();
+    void indexOptionEnds();
+    void indexCustomLines();
+    OrvoPPDRange followingOpenEnd(OrvoPPDRange start) const;
+    static qsizetype lastOf(const LineIndex &index, QStringView key);
+    static QList<qsizetype> plainLengths(const QStringList &keywords);
+    Line lineWithin(qsizetype position, OrvoPPDRange range) const;
+    std::optional<QuotedCode> quotedCode(Line line, qsizetype from) const;
+    qsizetype translationSlash(qsizetype from, qsizetype before, const QString &keyword) const;
+    qsizetype lineEnd(qsizetype position) const;
+    qsizetype lineStart(qsizetype position) const;
+    qsizetype skipBlanks(qsizetype position) const;
+    qsizetype plainRunEnd(qsizetype position) const;
+
+    const QString text;
+    QStringList groups;
+    QStringList options;
+    QHash<QStringView, qsizetype> openGroupFirst;
+    QHash<QStringView, Line> closeGroupFirst;
+    std::vector<Line> openLines;
+    LineIndex openLinesByName;
+    std::vector<Line> closeLines;
+    LineIndex closeLinesBySuffix;
+    std::vector<qsizetype> openOccurrences;
+    LineIndex customLinesByName;
+};
