@@ -1,6 +1,7 @@
 #include "OVCommandLine.h"
 
 #include "OVFetchCommand.h"
+#include "OVPpdCommand.h"
 #include "OVQueueCommands.h"
 
 #include <QJsonArray>
@@ -33,6 +34,8 @@ const QList<OVCommandLine::Command> &OVCommandLine::commands() {
          OVQueueCommands::addSaveOptions, OVQueueCommands::save},
         {"fetch", "", "Ask a printer for its MAC address, shared folders, forms and more.",
          OVFetchCommand::addOptions, OVFetchCommand::run},
+        {"ppd", "FILE", "Show a PPD file as the utility's PPD reader reads it.",
+         OVPpdCommand::addOptions, OVPpdCommand::run},
     };
     return all;
 }
@@ -73,7 +76,8 @@ int OVCommandLine::runCommand(const Command &command, const QStringList &argumen
         command.addOptions(parser);
     const QStringList positional = QString(command.arguments).split(' ', Qt::SkipEmptyParts);
     for (const QString &argument : positional)
-        parser.addPositionalArgument(argument, "The print queue's name.");
+        parser.addPositionalArgument(argument, argument == "QUEUE" ? "The print queue's name."
+                                                                   : "The PPD file.");
     if (!parser.parse(arguments))
         return fail(Usage, parser.errorText());
     if (parser.isSet(helpOption)) {

@@ -162,3 +162,36 @@ TEST(CommandLineFetchTest, AgainstTheSimulatedPrinter) {
 }
 
 } // namespace
+
+// PPDs the reader shows, and the ones it refuses, which must not take the
+// command down with them.
+TEST(CommandLinePpdTest, ReadsOrRefusesPlainly) {
+    QTemporaryDir dir;
+    QFile source(CupsServer::testPpdPath());
+    ASSERT_TRUE(source.open(QIODevice::ReadOnly));
+    const QByteArray ppd = source.readAll();
+    const auto variant = [&](const char *name, const QByteArray &text) {
+        QFile file(dir.filePath(name));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(text) == text.size());
+        return file.fileName();
+    };
+    const QString translated = variant(
+        "de.ppd", ppd + "*de.Translation Duplex/Beidseitig: \"\"\n*de.Duplex None/Aus: \"\"\n");
+    const QString overflow =
+        variant("long.ppd", QByteArray(ppd).replace("Long Edge", QByteArray(90, 'L')));
+    const QString latin1 = variant("latin1.ppd", QByteArray(ppd).replace("Off", "Arr\xeat"));
+    const Step steps[] = {
+        {{"ppd", CupsServer::testPpdPath()}, {}, 0, "Duplex \"Two-Sided\" (default None)\n"},
+        {{"ppd", CupsServer::testPpdPath()}, {}, 0, "  *cupsFilter: text/plain 0 orvo-ppd-update"},
+        {{"ppd", "--json", CupsServer::testPpdPath()}, {}, 0, "\"keyword\": \"PageSize\""},
+        {{"ppd", "--lang", "de", translated},
+         {},
+         0,
+         "Duplex \"Beidseitig\" (default None)\n    None \"Aus\""},
+        {{"ppd", overflow}, {}, 1, "longer than the PPD reader's fixed fields allow"},
+        {{"ppd", latin1}, {}, 1, "is not UTF-8 text"},
+        {{"ppd", dir.filePath("none.ppd")}, {}, 1, "cannot read"},
+    };
+    for (const Step &step : steps)
+        check(step);
+}
