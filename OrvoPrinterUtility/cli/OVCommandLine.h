@@ -19,7 +19,7 @@ public:
         ServerUnreachable = 3,
         QueueUnknown = 4,
         PrinterSilent = 5,
-        DoesNotFit = 6, // refused before sending anything
+        Refused = 6, // the job could not reach the driver; nothing was sent
     };
 
     struct Command {

@@ -6,6 +6,7 @@
 #include "OVStoredSettings.h"
 #include "OVUpdateJob.h"
 #include "OrvoPPD_Interface.h"
+#include "OrvoSettingsKeywords.h"
 
 #include <QFile>
 #include <QJsonArray>
@@ -14,8 +15,6 @@
 #include <QThread>
 
 #include <cups/cups.h>
-
-#include <unistd.h>
 
 #include <chrono>
 
@@ -30,17 +29,18 @@ const QCommandLineOption settingsFileOption(
 const QCommandLineOption
     timeoutOption("timeout", "Wait at most this long for the job (default 60).", "seconds", "60");
 
-// Whether the queue's PPD runs the driver filter.
-bool usesDriver(http_t *http, const char *queue) {
-    const QByteArray fileName = r_cupsGetPPD2(http, queue);
-    if (fileName.isEmpty())
-        return false;
-    ppd_file_t *ppd = r_ppdOpenFile(fileName.constData());
+// Whether the PPD runs the driver filter, the only way settings reach it.
+bool runsDriver(ppd_file_t *ppd) {
+    for (int i = 0; i < ppd->num_filters; ++i) {
+        if (QByteArray(ppd->filters[i]).split(' ').last() == driverFilter)
+            return true;
+    }
+    return false;
+}
+
+bool usesDriver(const QString &queue) {
     bool found = false;
-    for (int i = 0; ppd && i < ppd->num_filters && !found; ++i)
-        found = QByteArray(ppd->filters[i]).split(' ').last() == driverFilter;
-    r_ppdClose(ppd);
-    unlink(fileName.constData());
+    OVStoredSettings::withQueuePPD(queue, [&](ppd_file_t *ppd) { found = runsDriver(ppd); });
     return found;
 }
 
@@ -75,14 +75,15 @@ ipp_jstate_t waitForJob(const QString &queue, int jobId, std::chrono::seconds li
     return state;
 }
 
-// The options whose values differ between what was sent and what was stored.
-QStringList differences(const OVSettingsSnapshot &sent, const OVSettingsSnapshot &stored) {
-    const OVUpdateJob::OptionList expected = OVUpdateJob::optionList(sent);
-    const OVUpdateJob::OptionList found = OVUpdateJob::optionList(stored);
+// The job's options that the PPD does not hold as attributes with the same
+// value (an empty value clears the attribute). The job marker is never stored.
+QStringList missingFrom(ppd_file_t *ppd, const OVUpdateJob::OptionList &sent) {
     QStringList names;
-    for (qsizetype i = 0; i < expected.size(); ++i) {
-        if (i >= found.size() || expected[i] != found[i])
-            names << QString::fromLatin1(expected[i].first);
+    for (const auto &[name, value] : sent) {
+        const ppd_attr_t *attribute = r_ppdFindAttr(ppd, name.constData(), nullptr);
+        const QByteArray held = attribute && attribute->value ? attribute->value : "";
+        if (name != OrvoSettingsKeywords::UpdatePPDOptions && held != value)
+            names << QString::fromLatin1(name);
     }
     return names;
 }
@@ -112,7 +113,7 @@ int OVQueueCommands::list(const QCommandLineParser &, bool json) {
     const int count = cupsGetDests2(connection.http(), &dests);
     QStringList queues;
     for (int i = 0; i < count; ++i) {
-        if (!dests[i].instance && usesDriver(connection.http(), dests[i].name))
+        if (!dests[i].instance && usesDriver(QString::fromUtf8(dests[i].name)))
             queues << QString::fromUtf8(dests[i].name);
     }
     cupsFreeDests(count, dests);
@@ -152,9 +153,18 @@ int OVQueueCommands::save(const QCommandLineParser &parser, bool json) {
             return OVCommandLine::fail(Exit::Usage, error);
     }
     OVSettingsSnapshot settings;
-    if (const auto status = OVStoredSettings::load(queue, settings);
+    bool driven = false;
+    if (const auto status = OVStoredSettings::withQueuePPD(queue,
+                                                           [&](ppd_file_t *ppd) {
+                                                               settings =
+                                                                   OVStoredSettings::read(ppd);
+                                                               driven = runsDriver(ppd);
+                                                           });
         status != OVStoredSettings::Status::Loaded)
         return loadFailure(status, queue);
+    if (!driven)
+        return OVCommandLine::fail(Exit::Refused, "the queue \"" + queue + "\" does not use the " +
+                                                      driverFilter + " filter; nothing was sent");
     settings.isPPDOptionsUpdated = true;
     QString error = OVSettingsFields::apply(given, settings);
     if (error.isEmpty())
@@ -162,10 +172,10 @@ int OVQueueCommands::save(const QCommandLineParser &parser, bool json) {
     if (!error.isEmpty())
         return OVCommandLine::fail(Exit::Usage, error);
     if (const QString problem = OVSettingsFields::fitProblem(settings); !problem.isEmpty())
-        return OVCommandLine::fail(Exit::DoesNotFit, problem + "; nothing was sent");
+        return OVCommandLine::fail(Exit::Refused, problem + "; nothing was sent");
     if (!OVUpdateJob::reachesFilter(settings))
         return OVCommandLine::fail(
-            Exit::DoesNotFit, "the settings are too large for one update job; nothing was sent");
+            Exit::Refused, "the settings are too large for one update job; nothing was sent");
     const int jobId = OVUpdateJob::saveOptionsToPPD(settings, queue);
     if (jobId == 0)
         return OVCommandLine::fail(Exit::Failed, "the update job was not accepted: " +
@@ -176,11 +186,14 @@ int OVQueueCommands::save(const QCommandLineParser &parser, bool json) {
                                    QStringLiteral("update job %1 did not complete (state %2)")
                                        .arg(jobId)
                                        .arg(ippEnumString("job-state", state)));
-    OVSettingsSnapshot stored;
-    if (const auto status = OVStoredSettings::load(queue, stored);
+    QStringList differing;
+    if (const auto status = OVStoredSettings::withQueuePPD(
+            queue,
+            [&](ppd_file_t *ppd) {
+                differing = missingFrom(ppd, OVUpdateJob::optionList(settings));
+            });
         status != OVStoredSettings::Status::Loaded)
         return loadFailure(status, queue);
-    const QStringList differing = differences(settings, stored);
     QJsonObject result{{"queue", queue},
                        {"job", jobId},
                        {"stored", differing.isEmpty()},

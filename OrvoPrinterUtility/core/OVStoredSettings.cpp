@@ -66,6 +66,12 @@ OVSettingsSnapshot OVStoredSettings::read(ppd_file_t *ppdFile) {
 OVStoredSettings::Status OVStoredSettings::load(const QString &printerID,
                                                 OVSettingsSnapshot &settings) {
     settings = defaults();
+    return withQueuePPD(printerID, [&](ppd_file_t *ppd) { settings = read(ppd); });
+}
+
+OVStoredSettings::Status
+OVStoredSettings::withQueuePPD(const QString &printerID,
+                               const std::function<void(ppd_file_t *)> &use) {
     const OVCupsConnection connection;
     if (!connection)
         return Status::ServerUnreachable;
@@ -76,7 +82,7 @@ OVStoredSettings::Status OVStoredSettings::load(const QString &printerID,
     fetched.ppd = r_ppdOpenFile(fetched.fileName.constData());
     if (!fetched.ppd)
         return Status::UnreadablePPD;
-    settings = read(fetched.ppd);
+    use(fetched.ppd);
     return Status::Loaded;
 }
 

@@ -5,6 +5,7 @@
 #include <QString>
 
 #include <array>
+#include <functional>
 
 #include <cups/ppd.h>
 
@@ -24,6 +25,10 @@ public:
     // Fetches the queue's PPD, reads it and removes the fetched copy. On any
     // failure settings holds defaults().
     static Status load(const QString &printerID, OVSettingsSnapshot &settings);
+    // Fetches the queue's PPD, hands it to use while open, then closes it and
+    // removes the fetched copy.
+    static Status withQueuePPD(const QString &printerID,
+                               const std::function<void(ppd_file_t *)> &use);
 
     // Splits a MAC text at ":" into the six fields; fewer than six pieces (or
     // a null text) change nothing and return false. Pieces beyond the sixth

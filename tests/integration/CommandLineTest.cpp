@@ -110,6 +110,7 @@ TEST_F(CommandLineTest, QueueCommands) {
         {{"save", "orvo", "--forms", QString(901, 'f')}, {}, 6, "longer than 900 bytes"},
         {{"save", "orvo", "--settings", "-"}, oversizedSettings(), 6, "too large"},
         {{"save", "nosuch", "--forms", "A"}, {}, 4, "no queue \"nosuch\""},
+        {{"save", "plain", "--forms", "A"}, {}, 6, "does not use the orvo-ppd-update filter"},
         // None of the refusals above sent a job.
         {{"show", "--json", "orvo"}, {}, 0, "\"optionsUpdated\": false"},
         {{"save", "orvo", "--customCommunity", "yes", "--community", "blue", "--forms", "A",
@@ -120,6 +121,14 @@ TEST_F(CommandLineTest, QueueCommands) {
         {{"show", "orvo"}, {}, 0, "customCommunity: yes\ncommunity: blue\n"},
         {{"show", "orvo"}, {}, 0, "forms: (2)\n  A\n  B\n"},
         {{"save", "orvo", "--json", "--wakeOnLan", "no"}, {}, 0, "\"stored\": true"},
+        // Stored as sent, read as the window reads it.
+        {{"save", "orvo", "--settings", "-"},
+         "{\"chosenFolders\":[],\"chosenFolderIndexes\":[]}",
+         0,
+         "the PPD holds the settings"},
+        {{"show", "orvo"}, {}, 0, "chosenFolders: (0)\nchosenFolderIndexes: (1)\n  0\n"},
+        {{"save", "orvo", "--adminLoginMode", "no", "--personalFolder", "yes"}, {}, 0, "holds"},
+        {{"show", "orvo"}, {}, 0, "personalFolder: no\nadminLoginMode: no\n"},
     };
     for (const Step &step : steps)
         check(step);
