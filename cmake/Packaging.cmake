@@ -15,16 +15,18 @@ set(CPACK_PACKAGE_NAME ${ORVO_PACKAGE_NAME})
 set(CPACK_PACKAGE_VERSION ${PROJECT_VERSION})
 set(CPACK_PACKAGE_CONTACT ${ORVO_MAINTAINER})
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "settings of Orvo printer queues: window, command line, CUPS filter")
+# The synopsis is the summary above; this is the extended description.
 set(CPACK_DEBIAN_PACKAGE_DESCRIPTION
-    "${CPACK_PACKAGE_DESCRIPTION_SUMMARY}
- Sets up the SNMP community, Wake-on-LAN, shared folders, forms, barcode
- area definitions and colour profiles of a CUPS queue of an Orvo printer,
- from a window or from the command line. The settings are kept in the
- queue's PPD; the package's CUPS filter stores them there.")
+    "Sets up the SNMP community, Wake-on-LAN, shared folders, forms, barcode
+area definitions and colour profiles of a CUPS queue of an Orvo printer,
+from a window or from the command line. The settings are kept in the
+queue's PPD; the package's CUPS filter stores them there.")
 set(CPACK_DEBIAN_PACKAGE_SECTION admin)
 set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
 set(CPACK_DEBIAN_PACKAGE_HOMEPAGE "https://orvo.example/printer-utility")
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+# Loaded at run time, so dpkg-shlibdeps cannot see it: the window's display plugins.
+set(CPACK_DEBIAN_PACKAGE_DEPENDS qt6-qpa-plugins)
 # The filter runs under cupsd; the programs also work against a remote server.
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS cups-daemon)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)

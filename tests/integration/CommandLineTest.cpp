@@ -1,7 +1,9 @@
 // The command line run as administrators run it: a separate process talking to
 // the private cupsd (queue commands) and to the simulated printer (fetch).
 #include "CupsServerEnvironment.h"
+#include "MagicPacketListener.h"
 #include "SimulatedPrinter.h"
+#include "TestNetworkNamespaces.h"
 
 #include <QFile>
 #include <QJsonArray>
@@ -20,9 +22,13 @@ struct Result {
     QByteArray err;
 };
 
-Result cli(const QStringList &arguments, const QByteArray &input = {}) {
+// netns: run in that network namespace (empty: this one).
+Result cli(const QStringList &arguments, const QByteArray &input = {}, const QString &netns = {}) {
     QProcess process;
-    process.start(ORVO_CLI, arguments);
+    if (netns.isEmpty())
+        process.start(ORVO_CLI, arguments);
+    else
+        process.start("ip", QStringList{"netns", "exec", netns, ORVO_CLI} + arguments);
     process.write(input);
     process.closeWriteChannel();
     process.waitForFinished(120000);
@@ -171,6 +177,38 @@ TEST(CommandLineFetchTest, AgainstTheSimulatedPrinter) {
 }
 
 } // namespace
+
+// A sleeping printer woken by its magic packets before the queries, all of it
+// between two test namespaces, in real time (about 15 s of the flow's waits).
+TEST(CommandLineFetchTest, WakesThePrinterFirst) {
+    TestNetworkNamespaces namespaces;
+    QString error;
+    ASSERT_TRUE(namespaces.create(&error)) << error.toStdString();
+    SimulatedPrinter::Options options;
+    options.netns = namespaces.printerName();
+    options.listen = "udp:161";
+    options.counterPeer = "udp:127.0.0.1:161";
+    options.source4 = "default";
+    SimulatedPrinter printer(options);
+    ASSERT_TRUE(printer.start()) << printer.errorText().toStdString();
+    printer.setDefaults();
+    constexpr long asleep = 4;
+    printer.setInteger(SimulatedPrinter::kSleepMode, asleep);
+    const std::array<quint8, 6> mac = {0x00, 0x11, 0x22, 0xaa, 0xbb, 0xcc};
+    MagicPacketListener listener(namespaces.printerName(), TestNetworkNamespaces::kPrinterInterface,
+                                 printer.directory(), mac, 200);
+    ASSERT_TRUE(listener.isListening()) << listener.errorText().toStdString();
+
+    const Result woken = cli({"fetch", "--address", TestNetworkNamespaces::kPrinterIPv4, "--wake",
+                              "--mac", "00:11:22:aa:bb:cc", "--over-router"},
+                             {}, namespaces.clientName());
+    EXPECT_EQ(woken.exit, 0) << woken.err.toStdString();
+    EXPECT_TRUE(woken.out.startsWith("macAddress: 00:11:22:aa:bb:cc\n"));
+    EXPECT_EQ(woken.err, ""); // no progress line off a terminal
+    const auto packets = listener.packets();
+    ASSERT_FALSE(packets.isEmpty());
+    EXPECT_EQ(packets.first().destination, TestNetworkNamespaces::kPrinterIPv4);
+}
 
 // PPDs the reader shows, and the ones it refuses, which must not take the
 // command down with them.
