@@ -1,0 +1,115 @@
+#include "OVCommandLine.h"
+
+#include "OVFetchCommand.h"
+#include "OVPpdCommand.h"
+#include "OVQueueCommands.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QTextStream>
+
+#include <cups/cups.h>
+
+#include <unistd.h>
+
+namespace {
+
+constexpr char programName[] = "orvo-printer-utility-cli";
+const QCommandLineOption helpOption("help", "Show this help.");
+const QCommandLineOption jsonOption("json", "Print machine-readable JSON.");
+const QCommandLineOption serverOption("h", "Use the CUPS server SERVER[:PORT].", "server");
+
+} // namespace
+
+const QList<OVCommandLine::Command> &OVCommandLine::commands() {
+    static const QList<Command> all = {
+        {"list",
+         "",
+         "List the server's queues that use the Orvo driver.",
+         {},
+         OVQueueCommands::list},
+        {"show", "QUEUE", "Show every setting stored for a queue.", {}, OVQueueCommands::show},
+        {"save", "QUEUE", "Save settings to a queue and check that its PPD holds them.",
+         OVQueueCommands::addSaveOptions, OVQueueCommands::save},
+        {"fetch", "", "Ask a printer for its MAC address, shared folders, forms and more.",
+         OVFetchCommand::addOptions, OVFetchCommand::run},
+        {"ppd", "FILE", "Show a PPD file as the utility's PPD reader reads it.",
+         OVPpdCommand::addOptions, OVPpdCommand::run},
+    };
+    return all;
+}
+
+QString OVCommandLine::overview() {
+    QString text = QStringLiteral("Usage: %1 COMMAND [options]\n\nCommands:\n").arg(programName);
+    for (const Command &command : commands())
+        text += QStringLiteral("  %1  %2\n")
+                    .arg(QString(command.name).leftJustified(6), command.summary);
+    return text + QStringLiteral("\nRun \"%1 COMMAND --help\" for a command's options.\n")
+                      .arg(programName);
+}
+
+int OVCommandLine::run(const QStringList &arguments) {
+    const QString name = arguments.value(1);
+    if (name == "--help" || name == "help") {
+        QTextStream(stdout) << overview();
+        return Success;
+    }
+    for (const Command &command : commands()) {
+        if (name == command.name)
+            return runCommand(command, arguments.mid(1));
+    }
+    QTextStream(stderr) << overview();
+    return fail(Usage, name.isEmpty() ? "no command given" : "unknown command \"" + name + "\"");
+}
+
+QString OVCommandLine::usage(const Command &command) {
+    return QStringLiteral("Usage: %1 %2 [options] %3")
+        .arg(programName, command.name, command.arguments);
+}
+
+int OVCommandLine::runCommand(const Command &command, const QStringList &arguments) {
+    QCommandLineParser parser;
+    parser.setApplicationDescription(command.summary);
+    parser.addOptions({helpOption, jsonOption, serverOption});
+    if (command.addOptions)
+        command.addOptions(parser);
+    const QStringList positional = QString(command.arguments).split(' ', Qt::SkipEmptyParts);
+    for (const QString &argument : positional)
+        parser.addPositionalArgument(argument, argument == "QUEUE" ? "The print queue's name."
+                                                                   : "The PPD file.");
+    if (!parser.parse(arguments))
+        return fail(Usage, parser.errorText());
+    if (parser.isSet(helpOption)) {
+        // Qt's first line names the binary's path; show the command instead.
+        const QString help = parser.helpText();
+        QTextStream(stdout) << usage(command) << help.mid(help.indexOf('\n'));
+        return Success;
+    }
+    if (parser.positionalArguments().size() != positional.size())
+        return fail(Usage, usage(command));
+    if (parser.isSet(serverOption))
+        cupsSetServer(parser.value(serverOption).toUtf8().constData());
+    return command.run(parser, parser.isSet(jsonOption));
+}
+
+void OVCommandLine::print(bool json, const QJsonValue &value, const QString &text) {
+    QTextStream out(stdout);
+    if (!json) {
+        out << text;
+        return;
+    }
+    const QJsonDocument document =
+        value.isArray() ? QJsonDocument(value.toArray()) : QJsonDocument(value.toObject());
+    out << document.toJson(QJsonDocument::Indented);
+}
+
+int OVCommandLine::fail(Exit code, const QString &message) {
+    QTextStream(stderr) << programName << ": " << message << "\n";
+    return code;
+}
+
+void OVCommandLine::progress(const QString &message) {
+    if (isatty(STDERR_FILENO))
+        QTextStream(stderr) << "\r\033[K" << message << Qt::flush;
+}

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QCommandLineParser>
+#include <QJsonValue>
+#include <QString>
+#include <QStringList>
+
+#include <functional>
+#include <optional>
+
+// The command line's frame: subcommand dispatch, the options every
+// subcommand has (--help, --json, -h SERVER[:PORT]), exit codes and output.
+class OVCommandLine {
+public:
+    enum Exit {
+        Success = 0,
+        Failed = 1, // the operation ran and did not succeed
+        Usage = 2,  // bad options, arguments or JSON
+        ServerUnreachable = 3,
+        QueueUnknown = 4,
+        PrinterSilent = 5,
+        Refused = 6, // the job could not reach the driver; nothing was sent
+    };
+
+    struct Command {
+        const char *name;
+        const char *arguments; // shown in the usage line
+        const char *summary;
+        std::function<void(QCommandLineParser &)> addOptions;
+        std::function<int(const QCommandLineParser &, bool json)> run;
+    };
+
+    static int run(const QStringList &arguments);
+
+    // Prints a result: JSON when asked for, else the text.
+    static void print(bool json, const QJsonValue &value, const QString &text);
+    static int fail(Exit code, const QString &message);
+    // A progress line on a terminal only (stderr), overwritten by the next.
+    static void progress(const QString &message);
+
+private:
+    static const QList<Command> &commands();
+    static QString overview();
+    static QString usage(const Command &command);
+    static int runCommand(const Command &command, const QStringList &arguments);
+};

@@ -1,0 +1,108 @@
+#include "OVFetchCommand.h"
+
+#include "OVCommandLine.h"
+#include "OVSNMPHelper.h"
+#include "OVSleep.h"
+#include "OVWakeOnLanHelper.h"
+#include "OrvoSettingsKeywords.h"
+
+#include <QJsonArray>
+#include <QJsonObject>
+
+#include <unistd.h>
+
+#include <optional>
+
+namespace {
+
+using Exit = OVCommandLine::Exit;
+const QCommandLineOption addressOption("address", "The printer's IPv4 or IPv6 address.", "addr");
+const QCommandLineOption communityOption("community", "SNMP community (default \"cobalt\").",
+                                         "name", OrvoSettingsKeywords::DefaultCommunity);
+const QCommandLineOption wakeOption("wake", "Wake the printer first (needs --mac).");
+const QCommandLineOption macOption("mac", "The printer's MAC address, for --wake.", "mac");
+const QCommandLineOption routerOption("over-router", "Wake the printer across a router.");
+
+int silent(const QString &address, const QString &what) {
+    return OVCommandLine::fail(
+        Exit::PrinterSilent,
+        QStringLiteral("the printer at %1 did not answer (%2)").arg(address, what));
+}
+
+QString listText(const char *title, const QStringList &items) {
+    QString text = QStringLiteral("%1: (%2)\n").arg(title).arg(items.size());
+    for (const QString &item : items)
+        text += "  " + item + "\n";
+    return text;
+}
+
+bool wake(const QString &address, const QString &community, const QCommandLineParser &parser) {
+    // The wake flow waits whole seconds between its tries; show that on a terminal.
+    OVSleep::setSleeper([](unsigned seconds) {
+        OVCommandLine::progress(
+            QStringLiteral("Waiting %1 s for the printer to wake up...").arg(seconds));
+        sleep(seconds);
+    });
+    const bool awake = OVWakeOnLanHelper::SnmpWakeUpOnLan(
+        address, parser.value(macOption), community, true, parser.isSet(routerOption));
+    OVCommandLine::progress(QString());
+    OVSleep::setSleeper({});
+    return awake;
+}
+
+} // namespace
+
+void OVFetchCommand::addOptions(QCommandLineParser &parser) {
+    parser.addOptions({addressOption, communityOption, wakeOption, macOption, routerOption});
+}
+
+int OVFetchCommand::run(const QCommandLineParser &parser, bool json) {
+    using H = OVSNMPHelper;
+    const QString address = parser.value(addressOption);
+    const QString community = parser.value(communityOption);
+    if (address.isEmpty())
+        return OVCommandLine::fail(Exit::Usage, "--address is required");
+    if (parser.isSet(wakeOption) && !parser.isSet(macOption))
+        return OVCommandLine::fail(Exit::Usage, "--wake needs --mac");
+    if (parser.isSet(wakeOption) && !wake(address, community, parser))
+        return silent(address, "it did not wake up");
+    const QByteArray peer = address.toUtf8();
+    const QString mac = H::getMacAddress(peer.constData(), community);
+    if (mac.isNull())
+        return silent(address, "MAC address");
+    const int boxCount = H::snmpGetSharedBoxEntryForIPAddress(peer.constData(), community);
+    const auto boxNames =
+        H::getValidatedSharedBoxNameArrayForIPAddress(peer.constData(), community, boxCount);
+    const auto boxStates =
+        H::getValidatedSharedBoxStateArrayForIPAddress(peer.constData(), community, boxCount);
+    if (!boxNames || !boxStates)
+        return silent(address, "shared folders");
+    const bool adminLogin = H::getAdminLoginModeEnabled(peer.constData(), community);
+    const auto forms = H::getValidatedFormNameArrayForIPAddress(peer.constData(), community);
+    const auto barcodes =
+        H::getValidatedBarcodeAreaNameArrayForIPAddress(peer.constData(), community);
+    const auto profiles = H::getValidatedColorProfileForIPAddress(peer.constData(), community);
+    if (!forms || !barcodes || !profiles)
+        return silent(address, "forms, barcode areas or colour profiles");
+
+    QJsonArray boxes;
+    QStringList boxLines;
+    for (qsizetype i = 0; i < boxNames->size(); ++i) {
+        const QString state = boxStates->value(i);
+        boxes.append(QJsonObject{{"name", boxNames->at(i)}, {"state", state}});
+        boxLines << QStringLiteral("%1 [%2]").arg(boxNames->at(i), state);
+    }
+    const QJsonObject result{{"address", address},
+                             {"macAddress", mac},
+                             {"sharedFolders", boxes},
+                             {"adminLoginMode", adminLogin},
+                             {"forms", QJsonArray::fromStringList(*forms)},
+                             {"barcodeAreas", QJsonArray::fromStringList(*barcodes)},
+                             {"colorProfiles", QJsonArray::fromStringList(*profiles)}};
+    const QString text =
+        QStringLiteral("macAddress: %1\nadminLoginMode: %2\n").arg(mac, adminLogin ? "yes" : "no") +
+        listText("sharedFolders", boxLines) + listText("forms", *forms) +
+        listText("barcodeAreas", *barcodes) + listText("colorProfiles", *profiles);
+    OVCommandLine::print(json, result, text);
+    return Exit::Success;
+}

@@ -1,0 +1,223 @@
+#include "OVSettingsFields.h"
+
+#include "OVStoredSettings.h"
+
+#include "OrvoSettingsKeywords.h"
+
+#include <QJsonArray>
+
+#include <optional>
+
+#include <variant>
+
+namespace {
+
+using Mac = std::array<QString, 6>;
+using Member = std::variant<bool OVSettingsSnapshot::*, QString OVSettingsSnapshot::*,
+                            QStringList OVSettingsSnapshot::*, QList<qint32> OVSettingsSnapshot::*,
+                            Mac OVSettingsSnapshot::*>;
+
+struct Field {
+    const char *key;
+    Member member;
+    const char *description;
+    int limit = 0; // entries a list field can store
+};
+
+namespace K = OrvoSettingsKeywords;
+// Bytes of one name the multi-part storage holds: its base64 is cut after
+// the last part.
+constexpr qsizetype nameByteLimit = K::partCount * K::partLength / 4 * 3;
+
+using S = OVSettingsSnapshot;
+const Field fields[] = {
+    {"optionsUpdated", &S::isPPDOptionsUpdated, "Settings were saved by the utility (true/false)."},
+    {"customCommunity", &S::snmpCommunityCheck, "Use the community below (true/false)."},
+    {"community", &S::snmpCommunityText, "SNMP community name."},
+    {"wakeOnLan", &S::wakeOnLANCheck, "Wake the printer before querying it (true/false)."},
+    {"macAddress", &S::macAddressFields, "Printer MAC address, six parts joined by \":\"."},
+    {"overRouter", &S::overstepTheRouter, "Wake the printer across a router (true/false)."},
+    {"ipAddress", &S::printerIPAddressText, "Printer address used to wake it across a router."},
+    {"sharedFolders", &S::allSharedBoxNames, "Shared folder names (repeat for each).",
+     K::listLimit},
+    {"chosenFolders", &S::selectedSharedBoxNames, "Shared folders chosen for this queue.",
+     K::listLimit},
+    {"chosenFolderIndexes", &S::selectedSharedBoxIndex, "Shared-folder row of each chosen folder.",
+     K::listLimit},
+    {"personalFolder", &S::folderPersonalFolderCheck, "Use the personal folder (true/false)."},
+    {"adminLoginMode", &S::bAdminLoginModeEnabled, "Printer has admin login mode (true/false)."},
+    {"forms", &S::formNames, "Form names (repeat for each).", K::listLimit},
+    {"barcodeAreas", &S::barcodeAreaDefinitionNames, "Barcode area definition names.",
+     K::listLimit},
+    {"colorProfiles", &S::colorProfileNames, "Colour profile names.", K::colorProfileLimit},
+};
+
+template <class... F> struct Overloaded : F... { using F::operator()...; };
+
+QJsonValue jsonOf(const S &settings, const Member &member) {
+    return std::visit(
+        Overloaded{
+            [&](bool S::*m) { return QJsonValue(settings.*m); },
+            [&](QString S::*m) { return QJsonValue(settings.*m); },
+            [&](QStringList S::*m) { return QJsonValue(QJsonArray::fromStringList(settings.*m)); },
+            [&](QList<qint32> S::*m) {
+                QJsonArray array;
+                for (qint32 index : settings.*m)
+                    array.append(index);
+                return QJsonValue(array);
+            },
+            [&](Mac S::*m) {
+                return QJsonValue(
+                    QStringList((settings.*m).begin(), (settings.*m).end()).join(':'));
+            },
+        },
+        member);
+}
+
+std::optional<bool> boolOf(const QString &text) {
+    if (text == "true" || text == "1" || text == "yes")
+        return true;
+    if (text == "false" || text == "0" || text == "no")
+        return false;
+    return std::nullopt;
+}
+
+// Sets one field from JSON; false when the value has the wrong shape.
+bool setFromJson(S &settings, const Member &member, const QJsonValue &value) {
+    return std::visit(
+        Overloaded{
+            [&](bool S::*m) { return value.isBool() && ((settings.*m = value.toBool()), true); },
+            [&](QString S::*m) {
+                return value.isString() && ((settings.*m = value.toString()), true);
+            },
+            [&](QStringList S::*m) {
+                QStringList list;
+                for (const QJsonValue &item : value.toArray()) {
+                    if (!item.isString())
+                        return false;
+                    list << item.toString();
+                }
+                return value.isArray() && ((settings.*m = list), true);
+            },
+            [&](QList<qint32> S::*m) {
+                QList<qint32> list;
+                for (const QJsonValue &item : value.toArray()) {
+                    if (!item.isDouble() || item.toDouble() != item.toInt())
+                        return false;
+                    list << item.toInt();
+                }
+                return value.isArray() && ((settings.*m = list), true);
+            },
+            [&](Mac S::*m) {
+                return value.isString() &&
+                       value.toString().split(':').size() == qsizetype((settings.*m).size()) &&
+                       OVStoredSettings::setMacAddressStr(settings.*m, value.toString());
+            },
+        },
+        member);
+}
+
+// The JSON value a field's option texts stand for; nullopt when they do not
+// parse.
+std::optional<QJsonValue> jsonOfOptionTexts(const Member &member, const QStringList &texts) {
+    return std::visit(Overloaded{
+                          [&](bool S::*) -> std::optional<QJsonValue> {
+                              const auto value = boolOf(texts.last());
+                              return value ? std::optional<QJsonValue>(*value) : std::nullopt;
+                          },
+                          [&](QStringList S::*) -> std::optional<QJsonValue> {
+                              return QJsonArray::fromStringList(texts);
+                          },
+                          [&](QList<qint32> S::*) -> std::optional<QJsonValue> {
+                              QJsonArray array;
+                              for (const QString &text : texts) {
+                                  bool ok = false;
+                                  array.append(text.toInt(&ok));
+                                  if (!ok)
+                                      return std::nullopt;
+                              }
+                              return array;
+                          },
+                          [&](auto) -> std::optional<QJsonValue> { return texts.last(); },
+                      },
+                      member);
+}
+
+QString invalidValue(const char *key) {
+    return QStringLiteral("invalid value for \"%1\"").arg(key);
+}
+
+} // namespace
+
+QJsonObject OVSettingsFields::toJson(const OVSettingsSnapshot &settings) {
+    QJsonObject json;
+    for (const Field &field : fields)
+        json.insert(field.key, jsonOf(settings, field.member));
+    return json;
+}
+
+QString OVSettingsFields::toText(const OVSettingsSnapshot &settings) {
+    QString text;
+    for (const Field &field : fields) {
+        const QJsonValue value = jsonOf(settings, field.member);
+        if (value.isBool())
+            text += QStringLiteral("%1: %2\n").arg(field.key, value.toBool() ? "yes" : "no");
+        else if (value.isString())
+            text += QStringLiteral("%1: %2\n").arg(field.key, value.toString());
+        else {
+            text += QStringLiteral("%1: (%2)\n").arg(field.key).arg(value.toArray().size());
+            for (const QJsonValue &item : value.toArray())
+                text += "  " + item.toVariant().toString() + "\n";
+        }
+    }
+    return text;
+}
+
+QList<QCommandLineOption> OVSettingsFields::options() {
+    QList<QCommandLineOption> options;
+    for (const Field &field : fields)
+        options.append({field.key, field.description, "value"});
+    return options;
+}
+
+QString OVSettingsFields::apply(const QJsonObject &json, OVSettingsSnapshot &settings) {
+    for (auto it = json.begin(); it != json.end(); ++it) {
+        const auto field = std::find_if(std::begin(fields), std::end(fields),
+                                        [&](const Field &f) { return it.key() == f.key; });
+        if (field == std::end(fields))
+            return QStringLiteral("unknown setting \"%1\"").arg(it.key());
+        if (!setFromJson(settings, field->member, it.value()))
+            return invalidValue(field->key);
+    }
+    return {};
+}
+
+QString OVSettingsFields::apply(const QCommandLineParser &parser, OVSettingsSnapshot &settings) {
+    QJsonObject json;
+    for (const Field &field : fields) {
+        if (!parser.isSet(field.key))
+            continue;
+        const auto value = jsonOfOptionTexts(field.member, parser.values(field.key));
+        if (!value)
+            return invalidValue(field.key);
+        json.insert(field.key, *value);
+    }
+    return apply(json, settings);
+}
+
+QString OVSettingsFields::fitProblem(const OVSettingsSnapshot &settings) {
+    for (const Field &field : fields) {
+        const QJsonValue value = jsonOf(settings, field.member);
+        if (field.limit && value.toArray().size() > field.limit)
+            return QStringLiteral("\"%1\" holds at most %2 entries")
+                .arg(field.key)
+                .arg(field.limit);
+        for (const QJsonValue &item : value.toArray()) {
+            if (item.toString().toUtf8().size() > nameByteLimit)
+                return QStringLiteral("a name in \"%1\" is longer than %2 bytes")
+                    .arg(field.key)
+                    .arg(nameByteLimit);
+        }
+    }
+    return {};
+}

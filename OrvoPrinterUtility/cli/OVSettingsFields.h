@@ -1,0 +1,28 @@
+#pragma once
+
+#include "OVSettingsSnapshot.h"
+
+#include <QCommandLineOption>
+#include <QCommandLineParser>
+#include <QJsonObject>
+#include <QList>
+#include <QString>
+
+// The stored settings under the names administrators use: the keys of
+// `show --json`, the lines of `show` and the options and JSON keys `save`
+// accepts are all this one table.
+class OVSettingsFields {
+public:
+    static QJsonObject toJson(const OVSettingsSnapshot &settings);
+    static QString toText(const OVSettingsSnapshot &settings);
+
+    // Every field as a `save` option (--KEY VALUE; list fields repeat).
+    static QList<QCommandLineOption> options();
+    // Applies the JSON object's keys, then the options given; an empty result
+    // on success, else what was wrong.
+    static QString apply(const QJsonObject &json, OVSettingsSnapshot &settings);
+    static QString apply(const QCommandLineParser &parser, OVSettingsSnapshot &settings);
+    // Why the PPD could not store these settings as they are (a list longer
+    // than its keywords, a name longer than its parts); empty when it can.
+    static QString fitProblem(const OVSettingsSnapshot &settings);
+};

@@ -1,0 +1,98 @@
+#include "OVStoredSettings.h"
+
+#include "OVCupsConnection.h"
+#include "OVPrinterUtilityHelper.h"
+#include "OrvoPPD_Interface.h"
+#include "OrvoSNMPHelper.h"
+#include "OrvoSettingsKeywords.h"
+
+#include <unistd.h>
+
+namespace {
+
+struct FetchedPPD {
+    ~FetchedPPD() {
+        if (ppd)
+            r_ppdClose(ppd);
+        if (!fileName.isEmpty())
+            unlink(fileName.constData());
+    }
+    QByteArray fileName;
+    ppd_file_t *ppd = nullptr;
+};
+
+} // namespace
+
+QString OVStoredSettings::defaultFolderName(int number) {
+    return OVPrinterUtilityHelper::getLocalizedStringFor(
+        QStringLiteral("Shared Folder %1").arg(number));
+}
+
+OVSettingsSnapshot OVStoredSettings::defaults() {
+    OVSettingsSnapshot settings;
+    settings.snmpCommunityText = OrvoSettingsKeywords::DefaultCommunity;
+    for (int number = 1; number <= defaultFolderCount; ++number)
+        settings.allSharedBoxNames << defaultFolderName(number);
+    settings.selectedSharedBoxNames = {defaultFolderName(1)};
+    settings.selectedSharedBoxIndex = {0};
+    return settings;
+}
+
+OVSettingsSnapshot OVStoredSettings::read(ppd_file_t *ppdFile) {
+    using H = OrvoSNMPHelper;
+    OVSettingsSnapshot settings = defaults();
+    settings.snmpCommunityCheck = H::isCustomSnmpCommunity(ppdFile);
+    settings.snmpCommunityText = H::snmpCommunityName(ppdFile);
+    settings.wakeOnLANCheck = H::isWakeOnLan(ppdFile);
+    setMacAddressStr(settings.macAddressFields, H::getPrinterMacAddress(ppdFile));
+    settings.overstepTheRouter = H::isOverTheRouter(ppdFile);
+    settings.printerIPAddressText = H::getPrinterIPAddress(ppdFile);
+    if (const QStringList all = H::getSharedBoxDetailsArray(ppdFile); !all.isEmpty())
+        settings.allSharedBoxNames = all;
+    settings.isPPDOptionsUpdated = H::isPPDOptionsUpdated(ppdFile);
+    if (settings.isPPDOptionsUpdated)
+        settings.selectedSharedBoxNames = H::getSelectedSharedBoxDetailsArray(ppdFile);
+    if (const QList<qint32> index = H::getSelectedSharedBoxIndexArray(ppdFile); !index.isEmpty())
+        settings.selectedSharedBoxIndex = index;
+    settings.bAdminLoginModeEnabled = H::isAdminLoginModeEnabled(ppdFile);
+    settings.folderPersonalFolderCheck =
+        settings.bAdminLoginModeEnabled && H::isPersonalFolderSelected(ppdFile);
+    settings.formNames = H::getFormDetailsArray(ppdFile);
+    settings.barcodeAreaDefinitionNames = H::getBarcodeAreaDefinitionDetailsArray(ppdFile);
+    settings.colorProfileNames = H::getColorProfileDetailsArray(ppdFile);
+    return settings;
+}
+
+OVStoredSettings::Status OVStoredSettings::load(const QString &printerID,
+                                                OVSettingsSnapshot &settings) {
+    settings = defaults();
+    return withQueuePPD(printerID, [&](ppd_file_t *ppd) { settings = read(ppd); });
+}
+
+OVStoredSettings::Status
+OVStoredSettings::withQueuePPD(const QString &printerID,
+                               const std::function<void(ppd_file_t *)> &use) {
+    const OVCupsConnection connection;
+    if (!connection)
+        return Status::ServerUnreachable;
+    FetchedPPD fetched;
+    fetched.fileName = r_cupsGetPPD2(connection.http(), printerID.toLatin1().constData());
+    if (fetched.fileName.isEmpty())
+        return Status::NoPPD;
+    fetched.ppd = r_ppdOpenFile(fetched.fileName.constData());
+    if (!fetched.ppd)
+        return Status::UnreadablePPD;
+    use(fetched.ppd);
+    return Status::Loaded;
+}
+
+bool OVStoredSettings::setMacAddressStr(std::array<QString, 6> &fields, const QString &mac) {
+    if (mac.isNull())
+        return false;
+    const QStringList pieces = mac.split(':');
+    if (pieces.size() < qsizetype(fields.size()))
+        return false;
+    for (size_t i = 0; i < fields.size(); ++i)
+        fields[i] = pieces[qsizetype(i)];
+    return true;
+}
