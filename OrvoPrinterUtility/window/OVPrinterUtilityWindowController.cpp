@@ -2,7 +2,6 @@
 
 #include "OVAlert.h"
 #include "OVBackgroundCall.h"
-#include "OVCupsConnection.h"
 #include "OVCustomRestrictedTextField.h"
 #include "OVLaunchEvent.h"
 #include "OVNotificationCenter.h"
@@ -11,11 +10,11 @@
 #include "OVSNMPHelper.h"
 #include "OVSaveSizeCheck.h"
 #include "OVSettingsSnapshot.h"
+#include "OVStoredSettings.h"
 #include "OVTableViewDataSource.h"
 #include "OVUpdateJob.h"
 #include "OVWakeOnLanHelper.h"
 #include "OVWindowTexts.h"
-#include "OrvoPPD_Interface.h"
 #include "OrvoSNMPHelper.h"
 #include "OrvoSettingsKeywords.h"
 #include "ui_MainUtilityWindiw.h"
@@ -279,8 +278,7 @@ void OVPrinterUtilityWindowController::constraintsWakeOnLanItems() {
     Ui::MainUtilityWindiw &c = *ui_;
     const bool wake = c.wakeOnLANCheck->isChecked();
     bool anyMacText = false;
-    for (QLineEdit *field : {c.macAddressText1, c.macAddressText2, c.macAddressText3,
-                             c.macAddressText4, c.macAddressText5, c.macAddressText6}) {
+    for (QLineEdit *field : macAddressFields()) {
         field->setEnabled(wake);
         anyMacText = anyMacText || !field->text().isEmpty();
     }
@@ -288,17 +286,22 @@ void OVPrinterUtilityWindowController::constraintsWakeOnLanItems() {
 }
 
 bool OVPrinterUtilityWindowController::setMacAddressStr(const QString &macAddress) {
-    if (macAddress.isNull())
-        return false;
-    const QStringList pieces = macAddress.split(':');
-    if (pieces.size() < macFieldCount)
-        return false;
-    Ui::MainUtilityWindiw &c = *ui_;
-    QLineEdit *fields[] = {c.macAddressText1, c.macAddressText2, c.macAddressText3,
-                           c.macAddressText4, c.macAddressText5, c.macAddressText6};
+    const auto fields = macAddressFields();
+    std::array<QString, macFieldCount> texts;
     for (int i = 0; i < macFieldCount; ++i)
-        fields[i]->setText(pieces[i]);
+        texts[i] = fields[i]->text();
+    if (!OVStoredSettings::setMacAddressStr(texts, macAddress))
+        return false;
+    for (int i = 0; i < macFieldCount; ++i)
+        fields[i]->setText(texts[i]);
     return true;
+}
+
+std::array<QLineEdit *, OVPrinterUtilityWindowController::macFieldCount>
+OVPrinterUtilityWindowController::macAddressFields() const {
+    Ui::MainUtilityWindiw &c = *ui_;
+    return {c.macAddressText1, c.macAddressText2, c.macAddressText3,
+            c.macAddressText4, c.macAddressText5, c.macAddressText6};
 }
 
 QByteArray OVPrinterUtilityWindowController::getSnmpCommunityFromUI() const {
@@ -333,8 +336,8 @@ void OVPrinterUtilityWindowController::setTabOrder() {
 
 void OVPrinterUtilityWindowController::loadDefaultFolderValues() {
     QStringList names;
-    for (int n = 1; n <= defaultSharedFolderCount; ++n)
-        names << OVPrinterUtilityHelper::getLocalizedStringFor(QString(SharedFolderFormat).arg(n));
+    for (int n = 1; n <= OVStoredSettings::defaultFolderCount; ++n)
+        names << OVStoredSettings::defaultFolderName(n);
     loadFolderValues();
     registerFolderTableViewDataSource_->setElementsArray(names);
     registerFolderTableViewDataSource_->selectFirstRow();
@@ -345,8 +348,8 @@ void OVPrinterUtilityWindowController::loadDefaultFolderValues() {
 
 void OVPrinterUtilityWindowController::loadDefaultSelectedFolderValues() {
     selectedSharedBoxIndex_ = {0};
-    selectedFolderTableViewDataSource_->setElementsArray(QStringList{
-        OVPrinterUtilityHelper::getLocalizedStringFor(QString(SharedFolderFormat).arg(1))});
+    selectedFolderTableViewDataSource_->setElementsArray(
+        QStringList{OVStoredSettings::defaultFolderName(1)});
     loadSelectedFolderValues();
     selectedFolderTableViewDataSource_->selectLastRow();
 }
@@ -381,19 +384,7 @@ void OVPrinterUtilityWindowController::loadColorProfileValues() {
 // A missing server, queue, PPD or attribute is never an error: the window
 // keeps its defaults.
 void OVPrinterUtilityWindowController::loadOptionsFromPPD() {
-    OVCupsConnection connection;
-    if (!connection.http())
-        return;
-    const char *fetched = r_cupsGetPPD2(connection.http(), printerID_.toLatin1().constData());
-    if (!fetched)
-        return;
-    const QByteArray path(fetched);
-    ppd_file_t *ppd = r_ppdOpenFile(path.constData());
-    if (ppd) {
-        readSettings(ppd);
-        r_ppdClose(ppd);
-    }
-    unlink(path.constData());
+    OVStoredSettings::withQueuePPD(printerID_, [this](ppd_file_t *ppd) { readSettings(ppd); });
 }
 
 void OVPrinterUtilityWindowController::readSettings(ppd_file_t *ppd) {
@@ -422,8 +413,7 @@ void OVPrinterUtilityWindowController::readFolderSettings(ppd_file_t *ppd) {
     isPPDOptionsUpdated_ = OrvoSNMPHelper::isPPDOptionsUpdated(ppd);
     const QStringList chosen = isPPDOptionsUpdated_
                                    ? OrvoSNMPHelper::getSelectedSharedBoxDetailsArray(ppd)
-                                   : QStringList{OVPrinterUtilityHelper::getLocalizedStringFor(
-                                         QString(SharedFolderFormat).arg(1))};
+                                   : QStringList{OVStoredSettings::defaultFolderName(1)};
     selectedFolderTableViewDataSource_->setElementsArray(chosen);
     loadSelectedFolderValues();
     selectedFolderTableViewDataSource_->selectLastRow();
@@ -498,10 +488,8 @@ OVSettingsSnapshot OVPrinterUtilityWindowController::settingsSnapshot() const {
     s.snmpCommunityCheck = c.snmpCommunityCheck->isChecked();
     s.snmpCommunityText = c.snmpCommunityText->text();
     s.wakeOnLANCheck = c.wakeOnLANCheck->isChecked();
-    QLineEdit *fields[] = {c.macAddressText1, c.macAddressText2, c.macAddressText3,
-                           c.macAddressText4, c.macAddressText5, c.macAddressText6};
     for (int i = 0; i < macFieldCount; ++i)
-        s.macAddressFields[i] = fields[i]->text();
+        s.macAddressFields[i] = macAddressFields()[i]->text();
     s.overstepTheRouter = c.overstepTheRouter->isChecked();
     s.printerIPAddressText = c.printerIPAddressText->text();
     s.allSharedBoxNames = allSharedBoxNames_;
@@ -616,11 +604,10 @@ bool OVPrinterUtilityWindowController::wakeOnLanWrapper() {
 }
 
 QString OVPrinterUtilityWindowController::macAddressFromFields() const {
-    Ui::MainUtilityWindiw &c = *ui_;
-    return QStringList{c.macAddressText1->text(), c.macAddressText2->text(),
-                       c.macAddressText3->text(), c.macAddressText4->text(),
-                       c.macAddressText5->text(), c.macAddressText6->text()}
-        .join(':');
+    QStringList texts;
+    for (const QLineEdit *field : macAddressFields())
+        texts << field->text();
+    return texts.join(':');
 }
 
 bool OVPrinterUtilityWindowController::passesFetchGuard() {

@@ -4,11 +4,13 @@
 #include <QStringList>
 #include <QVariantMap>
 
+#include <array>
 #include <memory>
 #include <optional>
 
 class OVTableViewDataSource;
 struct OVSettingsSnapshot;
+class QLineEdit;
 class QTableView;
 struct ppd_file_s;
 class QWidget;
@@ -136,6 +138,7 @@ private:
     void showTooLongMessage(const QStringList &listKeys);
     void failFolderFetch();
     QString macAddressFromFields() const;
+    std::array<QLineEdit *, macFieldCount> macAddressFields() const;
     QString localized(const char *key) const;
 
     std::unique_ptr<QWidget> window_;

@@ -29,6 +29,4 @@ inline constexpr char Clear[] = "Clear";
 inline constexpr char UsePersonalFolder[] = "Use Personal folder";
 inline constexpr char FailedToObtain[] = "Failed to obtain information.";
 inline constexpr char SettingsTooLong[] = "IDS_SETTINGS_TOO_LONG";
-inline constexpr char SharedFolderFormat[] = "Shared Folder %1";
-inline constexpr int defaultSharedFolderCount = 100;
 } // namespace OVWindowTexts
