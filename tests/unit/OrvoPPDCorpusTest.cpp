@@ -276,23 +276,23 @@ TEST(OrvoPPDScanEquivalence, IndexAnswersAsThePerKeywordExpressions) {
     }
 }
 
-// Where the rules and libcups read a file differently, the reason; empty when
-// unexplained.
-std::string missingChoiceReason(const QString &text, const QString &keyword,
-                                const QString &choice) {
-    if (choice == "Custom")
-        return "libcups adds Custom for a custom option";
-    auto hasLine = [&](QStringView pattern) {
-        return OrvoPPDRegex(OrvoPPDRegex::format(pattern, {keyword, choice}))
-            .findFirst(text, 0, text.size())
-            .has_value();
-    };
-    return hasLine(u"\\*%@[ ]+%@[:/]") && !hasLine(u"\\*%@[ ]+%@/.*:.*\".*\"")
-               ? "choice line without translation, or code not closed on its line"
-               : "";
+// What a reading holds, item by item: "option K", "default K=D", "choice K=C",
+// "attribute N".
+std::set<std::pair<std::string, QString>>
+itemsOf(const ppd_file_t *ppd, const std::vector<const ppd_option_t *> &options) {
+    std::set<std::pair<std::string, QString>> items;
+    for (const ppd_option_t *option : options) {
+        items.insert({"option", option->keyword});
+        items.insert({"default", QString(option->keyword) + "=" + option->defchoice});
+        for (int c = 0; c < option->num_choices; ++c)
+            items.insert({"choice", QString(option->keyword) + "=" + option->choices[c].choice});
+    }
+    for (int i = 0; i < ppd->num_attrs; ++i)
+        items.insert({"attribute", ppd->attrs[i]->name});
+    return items;
 }
 
-std::string extraAttributeReason(const QString &text, const QString &name) {
+std::string attributeOnlyHereReason(const QString &text, const QString &name) {
     static const QStringList structural = {
         "OpenUI",    "CloseUI",    "OpenGroup", "CloseGroup", "OpenSubGroup",   "CloseSubGroup",
         "JCLOpenUI", "JCLCloseUI", "End",       "Default",    "OrderDependency"};
@@ -313,54 +313,28 @@ std::string extraAttributeReason(const QString &text, const QString &name) {
     return text.first(at).count(u'"') % 2 ? "a line inside a quoted value over several lines" : "";
 }
 
-struct Reading {
-    std::map<QString, std::pair<QString, QStringList>> options; // keyword: default, choices
-    QSet<QString> attributes;
-};
-
-Reading readingOf(const ppd_file_t *ppd, const std::vector<const ppd_option_t *> &options) {
-    Reading reading;
-    for (const ppd_option_t *option : options) {
-        auto &[defchoice, choices] = reading.options[option->keyword];
-        defchoice = option->defchoice;
-        for (int c = 0; c < option->num_choices; ++c)
-            choices << option->choices[c].choice;
-    }
-    for (int i = 0; i < ppd->num_attrs; ++i)
-        reading.attributes << ppd->attrs[i]->name;
-    return reading;
-}
-
-std::map<std::string, std::string> differences(const QString &text, const Reading &ours,
-                                               const Reading &theirs) {
-    std::map<std::string, std::string> found; // what: reason
-    for (const auto &[keyword, option] : theirs.options) {
-        const std::string name = str(keyword);
-        const auto own = ours.options.find(keyword);
-        if (own == ours.options.end()) {
-            found["option " + name + " only in libcups"] = "";
-            continue;
-        }
-        if (own->second.first != option.first)
-            found["default of " + name] = "";
-        for (const QString &choice : option.second)
-            if (!own->second.second.contains(choice))
-                found["choice " + name + "=" + str(choice) + " only in libcups"] =
-                    missingChoiceReason(text, keyword, choice);
-        for (const QString &choice : own->second.second)
-            if (!option.second.contains(choice))
-                found["choice " + name + "=" + str(choice) + " only here"] =
-                    choice == "Custom" ? "Custom added by the rules" : "";
-    }
-    for (const auto &[keyword, option] : ours.options)
-        if (!theirs.options.count(keyword))
-            found["option " + str(keyword) + " only here"] = "";
-    for (const QString &name : ours.attributes - theirs.attributes)
-        found["attribute " + str(name) + " only here"] = extraAttributeReason(text, name);
-    for (const QString &name : theirs.attributes - ours.attributes)
-        found["attribute " + str(name) + " only in libcups"] =
-            "read with an option qualifier or translation (a blank before its colon)";
-    return found;
+// Why an item is in one reading of a file and not in the other; empty when
+// unexplained.
+std::string reasonFor(const QString &text, const std::pair<std::string, QString> &item,
+                      bool onlyHere) {
+    const auto &[kind, value] = item;
+    if (kind == "attribute")
+        return onlyHere ? attributeOnlyHereReason(text, value)
+                        : "read with an option qualifier or translation (a blank before its "
+                          "colon)";
+    if (kind != "choice")
+        return "";
+    const QString keyword = value.section(u'=', 0, 0), choice = value.section(u'=', 1);
+    if (choice == "Custom")
+        return onlyHere ? "Custom added by the rules" : "libcups adds Custom for a custom option";
+    auto hasLine = [&](QStringView pattern) {
+        return OrvoPPDRegex(OrvoPPDRegex::format(pattern, {keyword, choice}))
+            .findFirst(text, 0, text.size())
+            .has_value();
+    };
+    return !onlyHere && hasLine(u"\\*%@[ ]+%@[:/]") && !hasLine(u"\\*%@[ ]+%@/.*:.*\".*\"")
+               ? "choice line without translation, or code not closed on its line"
+               : "";
 }
 
 // Files where the rules and libcups should agree: nothing cut, every *OpenUI
@@ -396,11 +370,18 @@ TEST(OrvoPPDCorpus, AgreesWithLibcupsWhereTheRulesDo) {
                 ourOptions.push_back(&ours->groups[g].options[o]);
         for (ppd_option_t *option = ppdFirstOption(theirs); option; option = ppdNextOption(theirs))
             theirOptions.push_back(option);
+        const auto here = itemsOf(ours.get(), ourOptions), there = itemsOf(theirs, theirOptions);
         std::map<std::string, int> reasons;
-        for (const auto &[what, reason] : differences(text, readingOf(ours.get(), ourOptions),
-                                                      readingOf(theirs, theirOptions))) {
-            EXPECT_FALSE(reason.empty()) << what;
-            ++reasons[reason.empty() ? what : reason];
+        for (const bool onlyHere : {true, false}) {
+            for (const auto &item : onlyHere ? here : there) {
+                if ((onlyHere ? there : here).count(item))
+                    continue;
+                const std::string what = item.first + " " + str(item.second) +
+                                         (onlyHere ? " only here" : " only in libcups");
+                const std::string reason = reasonFor(text, item, onlyHere);
+                EXPECT_FALSE(reason.empty()) << what;
+                ++reasons[reason.empty() ? what : reason];
+            }
         }
         std::cout << (reasons.empty() ? "same as libcups: " : "differs from libcups: ") << name
                   << "\n";
