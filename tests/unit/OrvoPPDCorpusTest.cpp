@@ -12,6 +12,7 @@
 
 #include <cups/ppd.h>
 
+#include <array>
 #include <iostream>
 #include <map>
 #include <set>
@@ -27,7 +28,8 @@ std::string str(QStringView text) {
 struct ScannedOption {
     QString keyword, group, text, defchoice;
     OrvoPPDRange range;
-    QStringList keys, texts, codes, customCodes;
+    std::vector<std::array<QString, 3>> choices; // key, text, code
+    QStringList customCodes;
 };
 // What the scans find in a text, as lines to compare.
 struct Scan {
@@ -45,9 +47,8 @@ struct Scan {
         for (const ScannedOption &o : options) {
             lines.push_back("option " + str(o.keyword) + range(o.range) + " in " + str(o.group) +
                             " '" + str(o.text) + "' =" + str(o.defchoice));
-            for (qsizetype c = 0; c < o.keys.size(); ++c)
-                lines.push_back("  " + str(o.keys[c]) + "/" + str(o.texts[c]) + "/" +
-                                str(o.codes[c]));
+            for (const auto &[key, choiceText, code] : o.choices)
+                lines.push_back("  " + str(key) + "/" + str(choiceText) + "/" + str(code));
             for (const QString &code : o.customCodes)
                 lines.push_back("  custom " + str(code));
         }
@@ -90,11 +91,9 @@ Scan naiveScan(const QString &text) {
         o.defchoice = lastCapture(text, o.range, u"\\*Default%@:[ ]*(.*)", keyword);
         for (const auto &m :
              OrvoPPDRegex(OrvoPPDRegex::format(u"\\*%@[ ]+(.*?)/(.*?):.*\"(.*)\"", {keyword}))
-                 .findAll(text, o.range.location, o.range.end())) {
-            o.keys << m.capture(text, 1).toString();
-            o.texts << m.capture(text, 2).toString();
-            o.codes << m.capture(text, 3).toString();
-        }
+                 .findAll(text, o.range.location, o.range.end()))
+            o.choices.push_back({m.capture(text, 1).toString(), m.capture(text, 2).toString(),
+                                 m.capture(text, 3).toString()});
     }
     for (const auto &m : OrvoPPDRegex(QStringLiteral("\\*([^ ]*?):[ ]*(.*)")).findAll(text))
         scan.attributes.emplace_back(m.capture(text, 1).toString(),
@@ -120,8 +119,8 @@ Scan indexScan(const QString &text) {
         o.text = index.optionText(keyword, o.range).value_or(QStringView()).toString();
         o.defchoice = index.defaultChoice(keyword, o.range).value_or(QStringView()).toString();
         for (const OrvoPPDModel::Choice &choice : index.choices(keyword, o.range))
-            o.keys << choice.key.toString(), o.texts << choice.text.toString(),
-                o.codes << choice.code.toString();
+            o.choices.push_back(
+                {choice.key.toString(), choice.text.toString(), choice.code.toString()});
     }
     for (const OrvoPPDScanIndex::Attribute &attribute : index.attributes())
         scan.attributes.emplace_back(attribute.name.toString(),
@@ -166,17 +165,16 @@ Expected expectedOf(const QByteArray &bytes) {
         for (ScannedOption o : scan.options) {
             if (o.range.isNotFound() || o.group != scan.groups[g].first)
                 continue;
-            if (o.keys.isEmpty() && o.customCodes.isEmpty())
+            if (o.choices.empty() && o.customCodes.isEmpty())
                 return {Verdict::Null, "no choice for " + str(o.keyword), {}};
             for (const QString &code : o.customCodes)
-                o.keys << "Custom", o.texts << "Custom", o.codes << code;
+                o.choices.push_back({"Custom", "Custom", code});
             if (o.keyword == "PageRegion")
-                o.keys << "Custom", o.texts << "Custom", o.codes << "-";
+                o.choices.push_back({"Custom", "Custom", "-"});
             std::string line = std::to_string(g) + " " + check(o.keyword, 40) + " '" +
                                check(o.text, 80) + "' =" + check(o.defchoice, 40);
-            for (qsizetype c = 0; c < o.keys.size(); ++c)
-                line += " [" + check(o.keys[c], 40) + "/" + check(o.texts[c], 80) + "/" +
-                        str(o.codes[c]) + "]";
+            for (const auto &[key, choiceText, code] : o.choices)
+                line += " [" + check(key, 40) + "/" + check(choiceText, 80) + "/" + str(code) + "]";
             expected.structure.push_back(line);
         }
     }
