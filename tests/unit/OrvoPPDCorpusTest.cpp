@@ -199,10 +199,7 @@ void expectVerdict(const char *path, const Expected &expected) {
     } else {
         OpenedPPD ppd(OrvoPPD::ppdOpenFile(path));
         ASSERT_TRUE(ppd);
-        Lines structure = describeOptions(ppd.get());
-        for (const std::string &line : describeAttributes(ppd.get()))
-            structure.push_back(line);
-        EXPECT_EQ(structure, expected.structure);
+        EXPECT_EQ(describe(ppd.get(), true), expected.structure);
     }
 }
 
@@ -439,8 +436,7 @@ TEST(OrvoPPDBadInput, FiftyMegabytes) {
         content += "*% a comment line that no expression takes for anything at all\n";
     const OpenedPPD read = TempPPD(content).open(), expected = TempPPD(smallPPD).open();
     ASSERT_TRUE(read && expected);
-    EXPECT_EQ(describeOptions(read.get()), describeOptions(expected.get()));
-    EXPECT_EQ(describeAttributes(read.get()), describeAttributes(expected.get()));
+    EXPECT_EQ(describe(read.get(), true), describe(expected.get(), true));
 }
 
 } // namespace

@@ -58,15 +58,15 @@ TEST(OrvoPPDOpen, ReadsOptionsAsTheRulesSay) {
     for (const OpenCase &c : cases) {
         SCOPED_TRACE(c.ppd);
         const OpenedPPD ppd = TempPPD(c.ppd).open();
-        EXPECT_EQ(ppd ? describeOptions(ppd.get()) : Lines(), c.options);
+        EXPECT_EQ(ppd ? describe(ppd.get()) : Lines(), c.options);
     }
     // Attributes are not anchored to the line start: "*B/B:" inside the
     // OpenUI line is one.
     const OpenedPPD ppd = TempPPD(cases[7].ppd).open();
     ASSERT_TRUE(ppd);
-    EXPECT_EQ(describeAttributes(ppd.get()),
-              Lines({"OpenGroup: G/Group", "A/A: PickOne", "CloseUI: *A", "CloseGroup: G",
-                     "B/B: PickOne", "CloseUI: *B"}));
+    EXPECT_EQ(describe(ppd.get(), true),
+              Lines({"0 B 'B' = [y/Y/2]", "1 A 'A' = [x/X/1]", "OpenGroup: G/Group", "A/A: PickOne",
+                     "CloseUI: *A", "CloseGroup: G", "B/B: PickOne", "CloseUI: *B"}));
 }
 
 TEST(OrvoPPDScan, OptionRangeFollowsLastMatchAndOptionalLastCharacter) {
@@ -118,7 +118,7 @@ TEST(OrvoPPDOverflow, StopsTheProgramAfterItsLogLine) {
                 text + ": \"c\"\n*CloseUI: *" + keyword + "\n")
             .open();
     ASSERT_TRUE(ppd);
-    EXPECT_EQ(describeOptions(ppd.get()),
+    EXPECT_EQ(describe(ppd.get()),
               Lines({("0 " + keyword + " '" + text + "' = [" + choice + "/" + text + "/c]")
                          .toStdString()}));
 }
@@ -200,7 +200,7 @@ TEST(OrvoPPDLocalize, RewritesTranslatedTexts) {
         const OpenedPPD ppd = file.open();
         ASSERT_TRUE(ppd);
         EXPECT_EQ(OrvoPPD::ppdLocalize(ppd.get(), file.filePath()), 0);
-        EXPECT_EQ(describeOptions(ppd.get()), options) << language;
+        EXPECT_EQ(describe(ppd.get()), options) << language;
     }
 }
 

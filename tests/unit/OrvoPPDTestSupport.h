@@ -36,8 +36,9 @@ struct TempPPD {
 };
 
 // One line per option, "<group index><group name and text> keyword 'text'
-// =default" and its choices as [key/text/code], "-" for no code.
-inline Lines describeOptions(const ppd_file_t *ppd) {
+// =default" and its choices as [key/text/code], "-" for no code; then, when
+// asked, one "name: value" line per attribute.
+inline Lines describe(const ppd_file_t *ppd, bool withAttributes = false) {
     Lines lines;
     for (int g = 0; g < ppd->num_groups; ++g) {
         const ppd_group_t &group = ppd->groups[g];
@@ -50,12 +51,7 @@ inline Lines describeOptions(const ppd_file_t *ppd) {
             lines.push_back(line);
         }
     }
-    return lines;
-}
-
-inline Lines describeAttributes(const ppd_file_t *ppd) {
-    Lines lines;
-    for (int i = 0; i < ppd->num_attrs; ++i)
+    for (int i = 0; withAttributes && i < ppd->num_attrs; ++i)
         lines.push_back(std::string(ppd->attrs[i]->name) + ": " + ppd->attrs[i]->value);
     return lines;
 }
