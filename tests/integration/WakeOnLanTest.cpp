@@ -18,19 +18,24 @@
 
 #include <syslog.h>
 
-#include <algorithm>
 #include <memory>
 #include <mutex>
 
 namespace {
 
 using Net = TestNetworkNamespaces;
-constexpr const char *kPrinterMac = "00:11:22:aa:bb:cc";
-constexpr std::array<quint8, 6> kPrinterMacBytes = {0x00, 0x11, 0x22, 0xaa, 0xbb, 0xcc};
+constexpr const char *kMac = "00:11:22:aa:bb:cc";
 constexpr const char *kOtherMac = "02:00:00:00:00:01";
-constexpr int kWakeDelayMs = 200;
-constexpr unsigned kSeamSleepMs = 50;
+constexpr const char *kV4 = Net::kPrinterIPv4;
+constexpr const char *kV6 = Net::kPrinterULA;
 constexpr long kAsleep = 4;
+constexpr long kGoingToSleep = 2;
+const QString kBroadcast = "255.255.255.255";
+const QString kAllRouters = "ff02::2";
+
+QByteArray macBytes(const char *mac) {
+    return QByteArray::fromHex(QByteArray(mac).replace(':', ""));
+}
 
 class WakeOnLanTest : public ::testing::Test {
 protected:
@@ -42,8 +47,7 @@ protected:
         options.netns = namespaces->printerName();
         options.listen = "udp:161,udp6:161";
         options.counterPeer = "udp:127.0.0.1:161";
-        options.source4 = "default";
-        options.source6 = "default";
+        options.source4 = options.source6 = "default";
         printer = std::make_unique<SimulatedPrinter>(options);
         if (!printer->start())
             setupError = printer->errorText();
@@ -55,11 +59,9 @@ protected:
 
     void SetUp() override {
         ASSERT_TRUE(setupError.isEmpty()) << setupError.toStdString();
-        QFile::remove(QDir(printer->directory()).filePath("awake-at"));
-        printer->setDefaults();
         OVSleep::setSleeper([this](unsigned seconds) {
             sleptSeconds += seconds;
-            QThread::msleep(kSeamSleepMs);
+            QThread::msleep(50);
         });
         OVSystemLog::setSink([this](int priority, const QString &line) {
             std::lock_guard lock(logMutex);
@@ -71,27 +73,10 @@ protected:
         OVSystemLog::setSink({});
     }
 
-    std::unique_ptr<MagicPacketListener> listen() {
-        auto listener = std::make_unique<MagicPacketListener>(
-            namespaces->printerName(), Net::kPrinterInterface, printer->directory(),
-            kPrinterMacBytes, kWakeDelayMs);
-        EXPECT_TRUE(listener->isListening()) << listener->errorText().toStdString();
-        return listener;
-    }
-
-    // Runs the wake flow in the client namespace.
-    bool wake(const QString &address, const QString &mac, bool isWakeOnLan, bool isOverRouter) {
-        bool result = false;
+    // Runs work in the client namespace.
+    void inClient(const std::function<void()> &work) {
         QString error;
-        EXPECT_TRUE(Net::runIn(
-            namespaces->clientName(),
-            [&] {
-                result =
-                    OVWakeOnLanHelper::SnmpWakeUpOnLan(address, mac, "", isWakeOnLan, isOverRouter);
-            },
-            &error))
-            << error.toStdString();
-        return result;
+        EXPECT_TRUE(Net::runIn(namespaces->clientName(), work, &error)) << error.toStdString();
     }
 
     static inline std::unique_ptr<Net> namespaces;
@@ -102,18 +87,6 @@ protected:
     QStringList log;
 };
 
-QStringList destinations(const QList<MagicPacketListener::Packet> &packets,
-                         const QByteArray &bytes) {
-    QStringList result;
-    for (const auto &packet : packets) {
-        EXPECT_EQ(packet.bytes.toHex(), bytes.toHex());
-        EXPECT_EQ(packet.interfaceName, Net::kPrinterInterface);
-        result.append(packet.destination);
-    }
-    result.sort();
-    return result;
-}
-
 struct WakeCase {
     const char *label;
     const char *address;
@@ -123,163 +96,94 @@ struct WakeCase {
     long sleepMode;
     bool result;
     QStringList destinations; // sorted
-    int requests;             // GETs the printer receives; -1: not counted
-    const char *logged;       // a line the flow logs, or nullptr for none
+    int requests = -1;        // GETs the printer receives; -1: not counted
+    int sleptSeconds = -1;    // -1: not checked
+    const char *logged = nullptr;
 };
 
-void PrintTo(const WakeCase &c, std::ostream *os) {
-    *os << c.label;
-}
-
-class WakeFlowTest : public WakeOnLanTest, public ::testing::WithParamInterface<WakeCase> {};
-
-TEST_P(WakeFlowTest, WakesAndAnswers) {
-    const WakeCase &c = GetParam();
-    printer->setInteger(SimulatedPrinter::kSleepMode, c.sleepMode);
-    const auto listener = listen();
-    const int before = printer->requestCount();
-
-    EXPECT_EQ(wake(c.address, c.mac, c.isWakeOnLan, c.isOverRouter), c.result);
-
-    QThread::msleep(100); // packets still in flight to the listener
-    const auto packets = listener->packets();
-    std::array<quint8, 6> macBytes{};
-    if (c.mac && QByteArray(c.mac) == kOtherMac)
-        macBytes = {0x02, 0, 0, 0, 0, 0x01};
-    else
-        macBytes = kPrinterMacBytes;
-    EXPECT_EQ(destinations(packets, MagicPacketListener::expectedPacket(macBytes)), c.destinations);
-    if (c.requests >= 0) {
-        EXPECT_EQ(printer->requestCount() - before, c.requests);
-    }
-    std::lock_guard lock(logMutex);
-    if (c.logged) {
-        ASSERT_FALSE(log.isEmpty());
-        EXPECT_TRUE(log.first().startsWith(QString::number(LOG_ERR) + " " + c.logged))
-            << log.first().toStdString();
-    } else {
-        EXPECT_EQ(log, QStringList());
-    }
-}
-
-const QString kBroadcast = "255.255.255.255";
-const QString kAllRouters = "ff02::2";
-
-INSTANTIATE_TEST_SUITE_P(
-    Flows, WakeFlowTest,
-    ::testing::Values(
-        WakeCase{"ipv4Broadcast",
-                 "10.200.0.2",
-                 kPrinterMac,
-                 true,
-                 false,
-                 kAsleep,
-                 true,
-                 {kBroadcast, kBroadcast},
-                 -1,
-                 nullptr},
-        WakeCase{"ipv6Group",
-                 "fd99::2",
-                 kPrinterMac,
-                 true,
-                 false,
-                 kAsleep,
-                 true,
-                 {kAllRouters, kAllRouters},
-                 -1,
-                 nullptr},
-        WakeCase{"ipv4OverRouter",
-                 "10.200.0.2",
-                 kPrinterMac,
-                 true,
-                 true,
-                 kAsleep,
-                 true,
-                 {"10.200.0.2", "10.200.0.2"},
-                 -1,
-                 nullptr},
-        WakeCase{"ipv6OverRouter",
-                 "fd99::2",
-                 kPrinterMac,
-                 true,
-                 true,
-                 kAsleep,
-                 true,
-                 {"fd99::2", "fd99::2"},
-                 -1,
-                 nullptr},
-        WakeCase{"emptyAddress",
-                 "",
-                 kPrinterMac,
-                 true,
-                 false,
-                 kAsleep,
-                 false,
-                 {kBroadcast, kAllRouters},
-                 0,
-                 nullptr},
-        WakeCase{
-            "emptyAddressOverRouter", "", kPrinterMac, true, true, kAsleep, false, {}, 0, nullptr},
-        WakeCase{"alreadyReady", "10.200.0.2", kPrinterMac, true, false, 1, true, {}, 1, nullptr},
-        WakeCase{
-            "wakeOnLanOff", "10.200.0.2", kPrinterMac, false, false, kAsleep, true, {}, 0, nullptr},
-        WakeCase{"zeroMac",
-                 "10.200.0.2",
-                 "00:00:00:00:00:00",
-                 true,
-                 false,
-                 kAsleep,
-                 true,
-                 {},
-                 0,
-                 nullptr},
-        WakeCase{"emptyMac", "10.200.0.2", "", true, false, kAsleep, false, {}, 0, nullptr},
-        // Mode 2: 36 more checks, two packets nobody answers, 15 polls.
-        WakeCase{"staysGoingToSleep",
-                 "10.200.0.2",
-                 kOtherMac,
-                 true,
-                 false,
-                 2,
-                 false,
-                 {kBroadcast, kBroadcast},
-                 1 + 36 + 15,
-                 nullptr},
+TEST_F(WakeOnLanTest, WakesAndAnswers) {
+    const WakeCase cases[] = {
+        {"ipv4Broadcast", kV4, kMac, true, false, kAsleep, true, {kBroadcast, kBroadcast}},
+        {"ipv6Group", kV6, kMac, true, false, kAsleep, true, {kAllRouters, kAllRouters}},
+        {"ipv4OverRouter", kV4, kMac, true, true, kAsleep, true, {kV4, kV4}},
+        {"ipv6OverRouter", kV6, kMac, true, true, kAsleep, true, {kV6, kV6}},
+        {"emptyAddress", "", kMac, true, false, kAsleep, false, {kBroadcast, kAllRouters}, 0},
+        {"emptyAddressOverRouter", "", kMac, true, true, kAsleep, false, {}, 0},
+        {"alreadyReady", kV4, kMac, true, false, 1, true, {}, 1},
+        {"wakeOnLanOff", kV4, kMac, false, false, kAsleep, true, {}, 0},
+        {"zeroMac", kV4, "00:00:00:00:00:00", true, false, kAsleep, true, {}, 0},
+        {"emptyMac", kV4, "", true, false, kAsleep, false, {}, 0},
+        // 36 more checks 5 s apart, two packets nobody answers, 15 polls.
+        {"staysGoingToSleep",
+         kV4,
+         kOtherMac,
+         true,
+         false,
+         kGoingToSleep,
+         false,
+         {kBroadcast, kBroadcast},
+         1 + 36 + 15,
+         36 * 5 + 5 + 10 + 15},
         // A link-local address is asked with its zone, but the packet to it
         // cannot be addressed: logged, and the printer sleeps on.
-        WakeCase{"linkLocalOverRouter",
-                 "fe80::2%en0",
-                 kPrinterMac,
-                 true,
-                 true,
-                 kAsleep,
-                 false,
-                 {},
-                 1 + 15,
-                 "ERROR: convert ip address text to byte ["}),
-    [](const auto &info) { return std::string(info.param.label); });
-
-TEST_F(WakeOnLanTest, WaitsOutGoingToSleepInWholeSeconds) {
-    printer->setInteger(SimulatedPrinter::kSleepMode, 2);
-    EXPECT_FALSE(wake("10.200.0.2", kOtherMac, true, false));
-    EXPECT_EQ(sleptSeconds, 36u * 5 + 5 + 10 + 15 * 1);
+        {"linkLocalOverRouter",
+         "fe80::2%en0",
+         kMac,
+         true,
+         true,
+         kAsleep,
+         false,
+         {},
+         1 + 15,
+         -1,
+         "ERROR: convert ip address text to byte ["},
+    };
+    for (const WakeCase &c : cases) {
+        SCOPED_TRACE(c.label);
+        QFile::remove(QDir(printer->directory()).filePath("awake-at"));
+        printer->setDefaults();
+        printer->setInteger(SimulatedPrinter::kSleepMode, c.sleepMode);
+        sleptSeconds = 0;
+        log.clear();
+        MagicPacketListener listener(namespaces->printerName(), Net::kPrinterInterface,
+                                     printer->directory(), macBytes(kMac), 200);
+        ASSERT_TRUE(listener.isListening()) << listener.errorText().toStdString();
+        const int before = printer->requestCount();
+        inClient([&] {
+            EXPECT_EQ(OVWakeOnLanHelper::SnmpWakeUpOnLan(c.address, c.mac, "", c.isWakeOnLan,
+                                                         c.isOverRouter),
+                      c.result);
+        });
+        QThread::msleep(100); // packets still in flight to the listener
+        QStringList destinations;
+        for (const auto &packet : listener.packets()) {
+            EXPECT_EQ(packet.bytes.toHex(),
+                      MagicPacketListener::expectedPacket(macBytes(c.mac)).toHex());
+            EXPECT_EQ(packet.interfaceName, Net::kPrinterInterface);
+            destinations.append(packet.destination);
+        }
+        destinations.sort();
+        EXPECT_EQ(destinations, c.destinations);
+        if (c.requests >= 0) {
+            EXPECT_EQ(printer->requestCount() - before, c.requests);
+        }
+        if (c.sleptSeconds >= 0) {
+            EXPECT_EQ(sleptSeconds, unsigned(c.sleptSeconds));
+        }
+        std::lock_guard lock(logMutex);
+        const QString logged = c.logged ? QString::number(LOG_ERR) + " " + c.logged : QString();
+        EXPECT_EQ(c.logged ? log.value(0).left(logged.size()) : log.value(0), logged)
+            << log.join('\n').toStdString();
+    }
 }
 
 // Queries reach the printer's own address on port 161 in every form.
-class PrinterAddressTest : public WakeOnLanTest,
-                           public ::testing::WithParamInterface<const char *> {};
-
-TEST_P(PrinterAddressTest, ReachesPrinter) {
-    QString mac;
-    QString error;
-    ASSERT_TRUE(Net::runIn(
-        namespaces->clientName(), [&] { mac = OVSNMPHelper::getMacAddress(GetParam(), "cobalt"); },
-        &error))
-        << error.toStdString();
-    EXPECT_EQ(mac, kPrinterMac);
+TEST_F(WakeOnLanTest, QueriesReachPrinterAtEachAddress) {
+    for (const char *address : {kV4, kV6, "fe80::2%en0"}) {
+        QString mac;
+        inClient([&] { mac = OVSNMPHelper::getMacAddress(address, "cobalt"); });
+        EXPECT_EQ(mac, kMac) << address;
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(Addresses, PrinterAddressTest,
-                         ::testing::Values("10.200.0.2", "fd99::2", "fe80::2%en0"));
 
 } // namespace
