@@ -4,18 +4,20 @@
 
 #include <gtest/gtest.h>
 
-#include <optional>
-
 namespace {
 
 using Options = OVUpdateJob::OptionList;
 
-std::optional<QByteArray> valueOf(const Options &options, const QByteArray &name) {
-    for (const auto &[optionName, value] : options) {
-        if (optionName == name)
-            return value;
+// Each "name=value" of `expected` is sent; "name=-" is not sent at all.
+void expectSent(const OVSettingsSnapshot &snapshot, const QByteArray &expected) {
+    const Options options = OVUpdateJob::optionList(snapshot);
+    for (const QByteArray &pair : expected.split(' ')) {
+        const QByteArray name = pair.left(pair.indexOf('='));
+        QByteArray value = "-";
+        for (const auto &option : options)
+            value = option.first == name ? option.second : value;
+        EXPECT_EQ(value, pair.mid(name.size() + 1)) << name.data();
     }
-    return std::nullopt;
 }
 
 QList<QByteArray> expectedOrder(bool community, bool address) {
@@ -65,7 +67,7 @@ TEST(OVUpdateJob, EverySlotInOrder) {
 }
 
 TEST(OVUpdateJob, SendsSettingValues) {
-    OVSettingsSnapshot defaults, set;
+    OVSettingsSnapshot set;
     set.snmpCommunityCheck = set.isPPDOptionsUpdated = set.folderPersonalFolderCheck = true;
     set.snmpCommunityText = "public";
     set.macAddressFields = {"AA", "BB", "CC", "DD", "EE", "FF"};
@@ -75,34 +77,16 @@ TEST(OVUpdateJob, SendsSettingValues) {
     set.bAdminLoginModeEnabled = false;
     for (int i = 1; i <= 31; ++i)
         set.colorProfileNames << QString("profile %1").arg(i);
-    OVSettingsSnapshot wakeOff = set;
-    wakeOff.wakeOnLANCheck = false;
-    const std::tuple<const OVSettingsSnapshot *, QByteArray, std::optional<QByteArray>> cases[] = {
-        {&defaults, "UpdatePPDOptions", "True"},
-        {&defaults, "PPDOptionsUpdated", "0"},
-        {&defaults, "IsCustomSnmpCommunity", "0"},
-        {&defaults, "SnmpCommunityName", std::nullopt},
-        {&defaults, "AdminLoginModeEnabled", "1"},
-        {&set, "IsCustomSnmpCommunity", "1"},
-        {&set, "SnmpCommunityName", "cHVibGlj"},
-        {&set, "PPDOptionsUpdated", "1"},
-        {&set, "IsWakeOnLan", "1"},
-        {&set, "PrinterMacAddress", QByteArray("AA:BB:CC:DD:EE:FF").toBase64()},
-        {&set, "IsOverTheRouter", "1"},
-        {&set, "SelSharedBoxIndex1", "0"},
-        {&set, "SelSharedBoxIndex2", ""},
-        {&set, "SelSharedBoxName0_Part1", QString("共有").toUtf8().toBase64()},
-        {&set, "SelSharedBoxName1_Part1", ""},
-        {&set, "UsePersonalFolder", "1"},
-        {&set, "AdminLoginModeEnabled", "0"},
-        {&set, "ColorProfileName29_Part1", QByteArray("profile 30").toBase64()},
-        {&set, "ColorProfileName30_Part1", std::nullopt},
-        // Wake-on-LAN off sends a plain empty address and never over the router.
-        {&wakeOff, "IsWakeOnLan", "0"},
-        {&wakeOff, "PrinterMacAddress", ""},
-        {&wakeOff, "IsOverTheRouter", "0"}};
-    for (const auto &[snapshot, name, value] : cases)
-        EXPECT_EQ(valueOf(OVUpdateJob::optionList(*snapshot), name), value) << name.constData();
+    expectSent({}, "UpdatePPDOptions=True PPDOptionsUpdated=0 IsCustomSnmpCommunity=0 "
+                   "SnmpCommunityName=- AdminLoginModeEnabled=1");
+    expectSent(set, "IsCustomSnmpCommunity=1 SnmpCommunityName=cHVibGlj PPDOptionsUpdated=1 "
+                    "IsWakeOnLan=1 PrinterMacAddress=QUE6QkI6Q0M6REQ6RUU6RkY= IsOverTheRouter=1 "
+                    "SelSharedBoxIndex1=0 SelSharedBoxIndex2= SelSharedBoxName0_Part1=5YWx5pyJ "
+                    "SelSharedBoxName1_Part1= UsePersonalFolder=1 AdminLoginModeEnabled=0 "
+                    "ColorProfileName29_Part1=cHJvZmlsZSAzMA== ColorProfileName30_Part1=-");
+    // Wake-on-LAN off sends a plain empty address and never over the router.
+    set.wakeOnLANCheck = false;
+    expectSent(set, "IsWakeOnLan=0 PrinterMacAddress= IsOverTheRouter=0");
 }
 
 TEST(OVUpdateJob, MultiPartValueCutAfterSixParts) {
