@@ -15,13 +15,10 @@ TEST(OrvoHelperTest, filteringKeepsOnlyMembersOfTheSet) {
     const struct {
         QString string, characters, expected;
     } cases[] = {
-        {"a-b-c", community, "abc"},
-        {"ab c", community, "abc"},
+        {"a-b c", community, "abc"},
         {yenZwsp + "Z", community, yenZwsp + "Z"},
         // Full-width Y and the no-break space look alike but are other units.
         {QString(QChar(0xFF39)) + QChar(0x00A0) + "y", community, "y"},
-        {"aAbB", "ab", "ab"},
-        {"--a--b!!", "ab", "ab"},
         {"x", QStringLiteral(""), QStringLiteral("")},
         {"x", QString(), "x"},
         {QStringLiteral("a\U0001F600"), QString(QChar(0xD83D)) + "a", "a" + QString(QChar(0xD83D))},
@@ -36,66 +33,47 @@ TEST(OrvoHelperTest, filteringKeepsOnlyMembersOfTheSet) {
         EXPECT_EQ(filtered.isNull(), c.expected.isNull());
         EXPECT_EQ(OrvoHelper::isValidString(c.string, c.characters), c.string == c.expected);
     }
-    EXPECT_EQ(community.size(), 76);
-    EXPECT_EQ(ControlSets::communityInvalid().size(), 21);
-    EXPECT_EQ(OrvoHelper::stringByRemovingInvalidCharacters(QString(), "ab"), QStringLiteral(""));
     EXPECT_FALSE(OrvoHelper::stringByRemovingInvalidCharacters(QString(), "ab").isNull());
 }
 
 TEST(OrvoHelperTest, numberTexts) {
-    const struct {
-        QString string;
-        bool multipleSeparators, validFloat;
-    } cases[] = {{"1.2.3", true, false}, {"1.2", false, true},    {"1,2,3", false, false},
-                 {"2,0", false, true},   {"1.", false, false},    {"1,2.3", false, true},
-                 {"12", false, true},    {QString(), false, true}};
-    for (const auto &c : cases) {
-        EXPECT_EQ(OrvoHelper::hasMultipleDecimalSeperator(c.string), c.multipleSeparators)
-            << c.string.toStdString();
-        EXPECT_EQ(OrvoHelper::isValidFloatFormat(c.string), c.validFloat) << c.string.toStdString();
+    const std::tuple<QString, bool, bool> cases[] = {{"1.2.3", true, false},
+                                                     {"2,0", false, true},
+                                                     {"1.", false, false},
+                                                     {"1,2.3", false, true},
+                                                     {"1,2,3", false, false}};
+    for (const auto &[string, multipleSeparators, validFloat] : cases) {
+        EXPECT_EQ(OrvoHelper::hasMultipleDecimalSeperator(string), multipleSeparators);
+        EXPECT_EQ(OrvoHelper::isValidFloatFormat(string), validFloat) << string.toStdString();
     }
-    const std::pair<QString, int> ints[] = {{"120", 120},
-                                            {"  -7x", -7},
-                                            {"abc", 0},
-                                            {"99999999999", INT_MAX},
-                                            {"-99999999999", INT_MIN},
-                                            {"-2147483648", INT_MIN}};
-    for (const auto &[string, value] : ints) {
+    const std::pair<QString, int> ints[] = {
+        {"  -7x", -7}, {"abc", 0}, {"99999999999", INT_MAX}, {"-99999999999", INT_MIN}};
+    for (const auto &[string, value] : ints)
         EXPECT_EQ(OrvoHelper::intValue(string), value) << string.toStdString();
-    }
 }
 
+// Numeric partial edits snap into 90–340; a non-digit is refused as is.
 TEST(OVRestrictedStringFormatterTest, partialEdits) {
     const struct {
         bool numeric;
         QString partial;
         bool accepted;
         QString replacement;
-    } cases[] = {{true, "500", false, "340"},         {true, "12", false, "90"},
-                 {true, "120", true, QString()},      {true, "340", true, QString()},
-                 {true, "99999999999", false, "340"}, {true, "120a", false, QString()},
-                 {true, "", true, QString()},         {true, "abc", false, "90"},
-                 {false, "12", true, QString()},      {false, "1a", false, QString()}};
+    } cases[] = {{true, "500", false, "340"},      {true, "12", false, "90"},
+                 {true, "340", true, QString()},   {true, "99999999999", false, "340"},
+                 {true, "120a", false, QString()}, {true, "", true, QString()},
+                 {true, "abc", false, "90"},       {false, "12", true, QString()},
+                 {false, "1a", false, QString()}};
     for (const auto &c : cases) {
         SCOPED_TRACE(c.partial.toStdString());
         auto formatter = OVRestrictedStringFormatter::initWithValidCharacters("0123456789");
-        if (c.numeric) {
+        if (c.numeric)
             formatter->setNumeric();
-        }
         QString replacement = "untouched";
         EXPECT_EQ(formatter->isPartialStringValid(c.partial, &replacement, nullptr), c.accepted);
         EXPECT_EQ(replacement, c.replacement);
         EXPECT_EQ(replacement.isNull(), c.replacement.isNull());
     }
-    auto invalidOnly = OVRestrictedStringFormatter::initWithInvalidCharacters("-");
-    EXPECT_TRUE(invalidOnly->isPartialStringValid("a-b", nullptr, nullptr));
-}
-
-TEST(OVRestrictedStringFormatterTest, objectValues) {
-    EXPECT_EQ(OVRestrictedStringFormatter::stringForObjectValue(42), "42");
-    EXPECT_EQ(OVRestrictedStringFormatter::stringForObjectValue(1.5), "1.5");
-    EXPECT_TRUE(OVRestrictedStringFormatter::stringForObjectValue(QStringLiteral("4")).isNull());
-
     auto formatter = OVRestrictedStringFormatter::initWithValidCharacters("0123456789");
     QVariant value = QStringLiteral("unset");
     formatter->getObjectValue(&value, "123", nullptr);
@@ -105,8 +83,6 @@ TEST(OVRestrictedStringFormatterTest, objectValues) {
     EXPECT_EQ(value, QVariant(123));
     formatter->getObjectValue(&value, "12a", nullptr);
     EXPECT_EQ(value, QVariant(QStringLiteral("12a")));
-    EXPECT_TRUE(formatter->getObjectValue(&value, QString(), nullptr));
-    EXPECT_EQ(value, QVariant(QStringLiteral("")));
 }
 
 } // namespace

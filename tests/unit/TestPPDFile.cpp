@@ -6,25 +6,15 @@
 
 #include <gtest/gtest.h>
 
-namespace {
-const char header[] = "*PPD-Adobe: \"4.3\"\n"
-                      "*FormatVersion: \"4.3\"\n"
-                      "*LanguageVersion: English\n"
-                      "*LanguageEncoding: ISOLatin1\n"
-                      "*ModelName: \"Settings Test\"\n"
-                      "*NickName: \"Settings Test\"\n";
-}
-
 TestPPDFile::TestPPDFile(const Attributes &attributes) {
-    QByteArray text = header;
+    QByteArray text = "*PPD-Adobe: \"4.3\"\n*FormatVersion: \"4.3\"\n*LanguageVersion: English\n"
+                      "*LanguageEncoding: ISOLatin1\n*ModelName: \"T\"\n*NickName: \"T\"\n";
     for (const auto &[keyword, value] : attributes)
         text += "*" + keyword + ": \"" + value + "\"\n";
-    const QString path = m_dir.filePath("settings.ppd");
-    QFile file(path);
-    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(text);
+    QFile file(m_dir.filePath("settings.ppd"));
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(text) == text.size());
     file.close();
-    m_ppd = r_ppdOpenFile(QFile::encodeName(path).constData());
+    m_ppd = r_ppdOpenFile(QFile::encodeName(file.fileName()).constData());
     EXPECT_NE(m_ppd, nullptr) << "libcups refused the test PPD";
 }
 

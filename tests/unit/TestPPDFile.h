@@ -8,9 +8,8 @@
 
 #include <utility>
 
-// A PPD written to a temporary folder with the given main keywords and quoted
-// values after a minimal header, opened through the program's libcups wrapper
-// and closed again when the object goes.
+// A minimal PPD with the given main keywords and quoted values, opened through
+// the program's libcups wrapper while the object lives.
 class TestPPDFile {
 public:
     using Attributes = QList<std::pair<QByteArray, QByteArray>>;

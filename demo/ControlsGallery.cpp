@@ -3,7 +3,7 @@
 // screen once everything is drawn and quits. The picture in the docs comes from
 // a real X server:
 //   export LSAN_OPTIONS=suppressions=tests/lsan.supp QT_QPA_PLATFORM=xcb
-//   xvfb-run -a -s "-screen 0 1280x600x24" build-asan/tests/widgets/controls_gallery
+//   xvfb-run -a -s "-screen 0 1280x600x24" build-asan/demo/controls_gallery
 //       --screenshot docs/controls-gallery.png
 #include "CharacterSets.h"
 #include "NSKeyValueTextField.h"
