@@ -194,7 +194,7 @@ TEST(CommandLineFetchTest, WakesThePrinterFirst) {
     printer.setDefaults();
     constexpr long asleep = 4;
     printer.setInteger(SimulatedPrinter::kSleepMode, asleep);
-    const std::array<quint8, 6> mac = {0x00, 0x11, 0x22, 0xaa, 0xbb, 0xcc};
+    const QByteArray mac = QByteArray::fromHex("001122aabbcc");
     MagicPacketListener listener(namespaces.printerName(), TestNetworkNamespaces::kPrinterInterface,
                                  printer.directory(), mac, 200);
     ASSERT_TRUE(listener.isListening()) << listener.errorText().toStdString();
