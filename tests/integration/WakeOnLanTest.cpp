@@ -30,8 +30,9 @@ constexpr const char *kV4 = Net::kPrinterIPv4;
 constexpr const char *kV6 = Net::kPrinterULA;
 constexpr long kAsleep = 4;
 constexpr long kGoingToSleep = 2;
-const QString kBroadcast = "255.255.255.255";
-const QString kAllRouters = "ff02::2";
+// Destinations seen only inside the network namespaces this test creates.
+const QString kBroadcast = "255.255.255.255"; // namespace-only
+const QString kAllRouters = "ff02::2";        // namespace-only
 
 QByteArray macBytes(const char *mac) {
     return QByteArray::fromHex(QByteArray(mac).replace(':', ""));
