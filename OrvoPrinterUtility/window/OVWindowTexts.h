@@ -29,4 +29,34 @@ inline constexpr char Clear[] = "Clear";
 inline constexpr char UsePersonalFolder[] = "Use Personal folder";
 inline constexpr char FailedToObtain[] = "Failed to obtain information.";
 inline constexpr char SettingsTooLong[] = "IDS_SETTINGS_TOO_LONG";
+
+// Every key the window looks up (the model-name key names an entry of the
+// bundle's information dictionary, not a text).
+inline constexpr const char *localizedKeys[] = {
+    UtilitySuffix,
+    DefaultTitle,
+    OK,
+    Close,
+    IntroText,
+    SnmpCommunityName,
+    ProhibitCharacter,
+    WakeOnLan,
+    MacAddressLabel,
+    OverTheRouter,
+    IPAddressLabel,
+    GetPrinterInfo,
+    GettingInformation,
+    FolderTab,
+    FormTab,
+    BarcodeTab,
+    ColorProfileTab,
+    SharedFolderInPrinter,
+    RegisterFolder,
+    Add,
+    Delete,
+    Clear,
+    UsePersonalFolder,
+    FailedToObtain,
+    SettingsTooLong,
+};
 } // namespace OVWindowTexts
