@@ -3,11 +3,11 @@
 #include "OVPreferredLanguages.h"
 #include "OVSystemLog.h"
 #include "OVSystemVersion.h"
-#include "OrvoPPD_Interface.h"
 #include "OrvoPPDReader.h"
 #include "OrvoPPDRegex.h"
 #include "OrvoPPDScanIndex.h"
 #include "OrvoPPDStructure.h"
+#include "OrvoPPD_Interface.h"
 
 #include <QFile>
 #include <QStringDecoder>
