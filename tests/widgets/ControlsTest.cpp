@@ -1,0 +1,281 @@
+// The input controls, the alert, the notification centre and the string list
+// model, driven through real widgets with key events and pastes.
+#include "CharacterSets.h"
+#include "NSKeyValueTextField.h"
+#include "OVAlert.h"
+#include "OVCustomRestrictedTextField.h"
+#include "OVNotificationCenter.h"
+#include "OVRestrictedTextField.h"
+#include "OVTableViewDataSource.h"
+#include "OrvoHelper.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QPushButton>
+#include <QSpinBox>
+#include <QTableView>
+#include <QTest>
+#include <QTimer>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+// One key event per character, a surrogate pair as one, as a keyboard or an
+// input method delivers them.
+void typeText(QWidget *widget, const QString &text) {
+    for (qsizetype i = 0, n = 1; i < text.size(); i += n) {
+        n = text.at(i).isHighSurrogate() && i + 1 < text.size() ? 2 : 1;
+        QTest::sendKeyEvent(QTest::Click, widget, Qt::Key_unknown, text.mid(i, n), Qt::NoModifier);
+    }
+}
+
+void paste(QWidget *widget, const QString &text) {
+    QApplication::clipboard()->setText(text);
+    QTest::keySequence(widget, QKeySequence::Paste);
+}
+
+struct EventRecorder {
+    explicit EventRecorder(const char *name)
+        : token(OVNotificationCenter::defaultCenter().addObserver(
+              name, [this](const OVNotification &event) { events.append(event); })) {}
+    ~EventRecorder() { OVNotificationCenter::defaultCenter().removeObserver(token); }
+    QList<OVNotification> events;
+    OVNotificationCenter::Token token;
+};
+
+// Answers every alert with one button and records its texts and buttons.
+struct AlertRecorder {
+    explicit AlertRecorder(int answer = 0) {
+        OVAlert::setResponder([this, answer](const OVAlert &alert) {
+            shown.append(QStringList{alert.text(), alert.informativeText()} + alert.buttonTitles());
+            return answer;
+        });
+    }
+    ~AlertRecorder() { OVAlert::setResponder({}); }
+    QList<QStringList> shown;
+};
+
+void makeCommunityField(OVRestrictedTextField &field, bool showMessage) {
+    field.setValidCharacters(ControlSets::community());
+    field.setInvalidCharacters(ControlSets::communityInvalid());
+    field.setMaxLength(ControlSets::communityMaxLength);
+    field.showMessageIfInvalid(showMessage);
+}
+
+TEST(ControlsTest, communityField) {
+    const QString limit(32, u'a'), yenZwsp = QString(QChar(0x00A5)) + QChar(0x200B);
+    const struct {
+        bool showMessage;
+        QString typed, expected;
+        int alerts, events;
+    } cases[] = {
+        {true, "Ab9_" + yenZwsp, "Ab9_" + yenZwsp, 0, 6},
+        // The alert cleans the text, then the edit counts as a valid one.
+        {true, "ab-", "ab", 1, 3},
+        // Without the alert the valid set refuses it: no event for that key.
+        {false, "ab#", "ab", 0, 2},
+        // Full-width Y and the no-break space only look like members.
+        {true, "a" + QString(QChar(0xFF39)) + QChar(0x00A0) + "b", "ab", 0, 2},
+        {false, limit + "b", limit, 0, 33},
+    };
+    for (const auto &c : cases) {
+        SCOPED_TRACE(c.typed.toStdString());
+        AlertRecorder alerts;
+        OVRestrictedTextField field;
+        makeCommunityField(field, c.showMessage);
+        field.setNotifyEditing(true);
+        field.setInvalidMessageString("Letters and digits only", "Invalid community name");
+        EventRecorder edits(OVRestrictedTextField::DidEditingNotification);
+        typeText(&field, c.typed);
+        EXPECT_EQ(field.text(), c.expected);
+        EXPECT_EQ(edits.events.size(), c.events);
+        EXPECT_TRUE(edits.events.isEmpty() || edits.events[0].sender() == &field);
+        EXPECT_EQ(alerts.shown, QList<QStringList>(c.alerts, {"Invalid community name",
+                                                              "Letters and digits only", "OK"}));
+    }
+}
+
+// Clamped when editing ends, the linked stepper following; while typing,
+// entries snap into 90–340 and a non-digit is refused.
+TEST(ControlsTest, numericField) {
+    const std::pair<QString, int> clamped[] = {{"25", 10}, {"0", 1}};
+    for (const auto &[text, value] : clamped) {
+        QSpinBox stepper;
+        stepper.setRange(-100, 100);
+        OVRestrictedTextField field;
+        field.setNumeric();
+        field.restrictMinValue(1);
+        field.restrictMaxValue(10);
+        field.syncWithStepper(&stepper);
+        field.setText(text);
+        QTest::keyClick(&field, Qt::Key_Return);
+        EXPECT_EQ(field.text(), QString::number(value));
+        EXPECT_EQ(stepper.value(), value);
+    }
+    const std::tuple<QString, QString, QString> typed[] = {
+        {"", "5", "90"}, {"50", "0", "340"}, {"120", "a", "120"}};
+    for (const auto &[initial, keys, expected] : typed) {
+        OVRestrictedTextField field;
+        field.setNumeric();
+        field.setText(initial);
+        typeText(&field, keys);
+        EXPECT_EQ(field.text(), expected) << initial.toStdString() << "+" << keys.toStdString();
+    }
+}
+
+// A refused key restores the text before it and posts nothing; with auto
+// trim a paste keeps its valid part.
+TEST(ControlsTest, macAddressFieldAndAutoTrim) {
+    const std::tuple<QString, bool, QString, qsizetype> cases[] = {
+        {"A1F", false, "A1", 2}, {"G", false, "", 0}, {"a-b", true, "ab", 1}};
+    for (const auto &[input, pasted, expected, changes] : cases) {
+        OVCustomRestrictedTextField field;
+        field.setValidCharacters(pasted ? QString("ab") : ControlSets::hexadecimal());
+        field.setMaxEditableTextLength(2);
+        field.setSendNotification(true);
+        if (pasted)
+            field.setAllowAutoTrim();
+        EventRecorder events(OVCustomRestrictedTextField::Notification);
+        pasted ? paste(&field, input) : typeText(&field, input);
+        EXPECT_EQ(field.text(), expected) << input.toStdString();
+        QStringList methods;
+        for (const OVNotification &event : events.events)
+            methods << event.userInfo.value(OVCustomRestrictedTextField::MethodNameKey).toString();
+        EXPECT_EQ(methods, QStringList(changes, "textDidChange"));
+        EXPECT_TRUE(events.events.isEmpty() || events.events[0].sender() == &field);
+    }
+}
+
+// Mixed scripts, emoji, NUL and a lone surrogate, typed and then pasted a
+// megabyte at a time: a field may refuse them but must obey its own rules.
+TEST(ControlsTest, hostileInputKeepsEachFieldsRules) {
+    const QString unit =
+        QStringLiteral("ab-12 Ωж中文ا\U0001F600") + QChar(0) + QChar(0x200B) + QChar(0xD83D);
+    AlertRecorder alerts;
+    OVRestrictedTextField community, numeric;
+    makeCommunityField(community, true);
+    numeric.setNumeric();
+    numeric.restrictMaxValue(999);
+    OVCustomRestrictedTextField trimmed;
+    trimmed.setValidCharacters(ControlSets::hexadecimal());
+    trimmed.setAllowAutoTrim();
+    const std::tuple<QLineEdit *, QString, int> fields[] = {
+        {&community, ControlSets::community(), 32},
+        {&numeric, "0123456789", 3},
+        {&trimmed, ControlSets::hexadecimal(), 1 << 20}};
+    for (const auto &[field, valid, maxLength] : fields) {
+        typeText(field, "12" + unit);
+        paste(field, unit.repeated(1024 * 1024 / unit.size()));
+        QTest::keyClick(field, Qt::Key_Return);
+        EXPECT_TRUE(OrvoHelper::isValidString(field->text(), valid))
+            << field->text().left(40).toStdString();
+        EXPECT_LE(field->text().size(), maxLength);
+    }
+}
+
+// A repeated key takes its last value; a negative value, a key without a
+// value and an unknown key select 0.
+TEST(ControlsTest, keyValueField) {
+    NSKeyValueTextField field;
+    field.setKeyArray({"A", "B", "A", "C"}, {3, -2, 7});
+    const std::pair<QString, int> cases[] = {{"A", 7}, {"B", 0}, {"C", 0}, {"X", 0}};
+    for (const auto &[key, value] : cases) {
+        field.setSelectedStringValue(key);
+        EXPECT_EQ(field.getSelectedValue(), value) << key.toStdString();
+    }
+}
+
+// Real dialogs answered from a timer: the first button sits rightmost, a
+// missing title leaves no gap, each button answers its own result.
+TEST(ControlsTest, alertDialog) {
+    const std::tuple<QStringList, QStringList, int, int> cases[] = {
+        {{QString(), QString(), QString()}, {"OK"}, 0, OVAlert::DefaultReturn},
+        {{"Save", "Cancel", "Discard"}, {"Save", "Discard", "Cancel"}, 2, OVAlert::AlternateReturn},
+        {{"Save", QString(), "Discard"}, {"Save", "Discard"}, 1, OVAlert::OtherReturn}};
+    for (const auto &[titles, panelOrder, pressed, result] : cases) {
+        const auto alert = OVAlert::alertWithMessageText("Failed", titles[0], titles[1], titles[2],
+                                                         "%@ of %@ at 100%% %@", {"3", "5"});
+        EXPECT_EQ(alert->informativeText(), "3 of 5 at 100% ");
+        QMap<int, QString> rightToLeft;
+        QTimer timer;
+        QObject::connect(&timer, &QTimer::timeout, [&, pressed = pressed] {
+            auto *shown = qobject_cast<OVAlert *>(QApplication::activeModalWidget());
+            if (shown == nullptr || !shown->isVisible())
+                return;
+            timer.stop();
+            for (QPushButton *button : shown->panelButtons())
+                rightToLeft[-button->mapTo(shown, QPoint(0, 0)).x()] = button->text();
+            shown->panelButtons().at(pressed)->click();
+        });
+        timer.start(20);
+        EXPECT_EQ(alert->runModal(), result);
+        EXPECT_EQ(rightToLeft.values(), panelOrder);
+    }
+}
+
+// An observer removed during delivery is not called, one added then waits
+// for the next event, one whose context is gone is never called again, and a
+// context may outlive its centre.
+TEST(ControlsTest, notificationCentre) {
+    QObject survivor;
+    OVNotificationCenter center;
+    auto context = std::make_unique<QObject>();
+    QStringList calls;
+    const auto record = [&calls](const char *tag) {
+        return [&calls, tag](const OVNotification &) { calls << tag; };
+    };
+    center.addObserver("A", record("context"), context.get());
+    center.addObserver("B", record("B"));
+    OVNotificationCenter::Token removed = 0;
+    center.addObserver("A", [&](const OVNotification &) {
+        center.removeObserver(removed);
+        center.addObserver("A", record("late"));
+    });
+    removed = center.addObserver("A", record("removed"));
+    center.addObserver("A", record("survivor"), &survivor);
+    center.postNotification("A", QVariant());
+    context.reset();
+    center.postNotification("A", QVariant());
+    EXPECT_EQ(calls, (QStringList{"context", "survivor", "survivor", "late"}));
+}
+
+// Selection reaches the model only through the table's own path; a reload
+// keeps the selected row while it exists; removing the selected row selects
+// its successor without an event; only the displayed text is localized.
+TEST(ControlsTest, stringListModel) {
+    QTableView view;
+    OVTableViewDataSource source;
+    source.setTableView(&view);
+    source.setElementsArray(QStringList{"Form A", "Form B", "Form C"});
+    source.setLocalizer([](const QString &key) { return "<" + key + ">"; });
+    source.setLocalizeStrings(true);
+    EXPECT_EQ(source.data(source.index(0, 0), Qt::DisplayRole), "<Form A>");
+    EventRecorder events(OVTableViewDataSource::SelectionChangedNotification);
+    const auto expectSelected = [&](int row, const QString &value) {
+        const QModelIndexList rows = view.selectionModel()->selectedRows();
+        EXPECT_EQ(rows.isEmpty() ? -1 : rows.first().row(), row);
+        EXPECT_EQ(source.getSelectedRow(), row);
+        EXPECT_EQ(source.getSelectedRowValue(), value);
+    };
+    source.selectLastRow();
+    expectSelected(2, "Form C");
+    source.unselectAllRow();
+    expectSelected(-1, QString());
+    source.selectFirstRow();
+    expectSelected(0, "Form A");
+    QTest::mouseClick(view.viewport(), Qt::LeftButton, {},
+                      view.visualRect(source.index(1, 0)).center());
+    expectSelected(1, "Form B");
+    ASSERT_EQ(events.events.size(), 4);
+    EXPECT_EQ(events.events[0].object, QVariant(QStringLiteral("SelctionChanged")));
+    source.removeSelectedRow();
+    expectSelected(1, "Form C");
+    EXPECT_EQ(events.events.size(), 4);
+    source.setElementsArray(QStringList{"X", "Y", "Z"});
+    expectSelected(1, "Y");
+    source.setElementsArray(QStringList{"only"});
+    expectSelected(-1, QString());
+}
+
+} // namespace
