@@ -11,7 +11,6 @@ struct ControlSets {
                QStringLiteral("opqrstuvwxyzABCDEFGHIJKLMN") + QChar(0x200B) +
                QStringLiteral("OPQRSTUVWXYZ");
     }
-    // Refused with an alert.
     static QString communityInvalid() { return QStringLiteral("!\"#%%&'()*+-<=>?`{|}~"); }
     static QString hexadecimal() { return QStringLiteral("0123456789ABCDEFabcdef"); }
     static constexpr int communityMaxLength = 32;
