@@ -52,7 +52,11 @@ void OVCustomRestrictedTextField::textDidEndEditing(const OVNotification &) {
     sendEndEditingNotification();
 }
 
-void OVCustomRestrictedTextField::userDidEdit(const QString &) {
+void OVCustomRestrictedTextField::userDidEdit(const QString &previousText) {
+    // The window fills these fields in code, which no edit sees: the text shown
+    // before this key is what a refused key puts back, so a stray key never
+    // empties a MAC byte or an address loaded from the PPD or the printer.
+    m_oldString = previousText;
     textDidChange(OVNotification{});
 }
 

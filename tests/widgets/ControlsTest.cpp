@@ -101,16 +101,20 @@ TEST(ControlsTest, numericField) {
     }
 }
 
-// A refused key restores the text before it and posts nothing; with auto
-// trim a paste keeps its valid part.
+// A refused key restores the text before it, also one the program put in, and
+// posts nothing; with auto trim a paste keeps its valid part.
 TEST(ControlsTest, macAddressFieldAndAutoTrim) {
-    const std::tuple<QString, bool, QString, qsizetype> cases[] = {
-        {"A1F", false, "A1", 2}, {"G", false, "", 0}, {"a-b", true, "ab", 1}};
-    for (const auto &[input, pasted, expected, changes] : cases) {
+    const std::tuple<QString, QString, bool, QString, qsizetype> cases[] = {
+        {"", "A1F", false, "A1", 2},
+        {"", "G", false, "", 0},
+        {"A4", "G", false, "A4", 0},
+        {"", "a-b", true, "ab", 1}};
+    for (const auto &[initial, input, pasted, expected, changes] : cases) {
         OVCustomRestrictedTextField field;
         field.setValidCharacters(pasted ? QString("ab") : ControlSets::hexadecimal());
         field.setMaxEditableTextLength(2);
         field.setSendNotification(true);
+        field.setText(initial);
         if (pasted)
             field.setAllowAutoTrim();
         EventRecorder events(OVCustomRestrictedTextField::Notification);
