@@ -14,17 +14,13 @@ struct HostileJob {
     bool updateJob = true;
 };
 
-QByteArray tenThousandOptions() {
-    QByteArray text;
-    for (int i = 0; i < 10000; ++i)
-        text += " J" + QByteArray::number(i) + "=1";
-    return text;
-}
-
 TEST(UpdateJobSecurity, OnlyWellFormedSettingsReachThePPD) {
     constexpr char queue[] = "OrvoSecurity";
     CupsServer &cups = CupsServerEnvironment::server();
     ASSERT_TRUE(cups.addQueue(queue));
+    QByteArray tenThousandOptions;
+    for (int i = 0; i < 10000; ++i)
+        tenThousandOptions += " J" + QByteArray::number(i) + "=1";
     // cupsd hands line ends in values to the filter unescaped, where they may
     // split one value into several options.
     const HostileJob jobs[] = {
@@ -39,7 +35,7 @@ TEST(UpdateJobSecurity, OnlyWellFormedSettingsReachThePPD) {
         {"WrongShapes", "IsOverTheRouter=yes SelSharedBoxIndex5=12abc PSFormName0_Part1=QUJ "
                         "SnmpCommunityName=Y29i!WF0 PSFormName2_Part1=" +
                             QByteArray(204, 'Q') + " PrinterIPAddress=" + QByteArray(240, 'Q')},
-        {"TenThousandOptions", tenThousandOptions()},
+        {"TenThousandOptions", tenThousandOptions},
         {"NotAnUpdateJob", "IsWakeOnLan=0", false},
     };
     // Each job also carries a well-formed setting of its own, which arrives
