@@ -3,9 +3,6 @@
 #include "OrvoSettingsKeywords.h"
 
 #include <QRegularExpression>
-#include <QTemporaryFile>
-
-#include <cups/ppd.h>
 
 #include <algorithm>
 
@@ -15,65 +12,38 @@ StoredSettings::Values StoredSettings::completeSet(int save) {
     Values values;
     for (const K::Keyword &keyword : K::all) {
         for (int i = 0; i < std::max(keyword.indexCount, 1); ++i) {
-            const std::string base = keyword.name + (keyword.indexCount ? std::to_string(i) : "");
-            const std::string tag = base64(std::to_string(save) + ":" + base);
-            switch (keyword.encoding) {
-            case K::Encoding::JobMarker:
-                break;
-            case K::Encoding::Flag:
-                values[base] = save % 2 ? "1" : "0";
-                break;
-            case K::Encoding::Decimal:
-                values[base] = std::to_string(save * 1000 + i);
-                break;
-            case K::Encoding::Base64:
-                values[base] = tag;
-                break;
-            case K::Encoding::MultiPart:
-                for (int part = 1; part <= K::partCount; ++part)
-                    values[base + "_Part" + std::to_string(part)] = part == 1 ? tag : "";
-                break;
-            }
+            const QByteArray name =
+                keyword.name + (keyword.indexCount ? QByteArray::number(i) : QByteArray());
+            const QByteArray tag = (QByteArray::number(save) + ":" + name).toBase64();
+            if (keyword.encoding == K::Encoding::Flag)
+                values[name] = QByteArray::number(save % 2);
+            else if (keyword.encoding == K::Encoding::Decimal)
+                values[name] = QByteArray::number(save * 1000 + i);
+            else if (keyword.encoding == K::Encoding::Base64)
+                values[name] = tag;
+            for (int part = 1; keyword.encoding == K::Encoding::MultiPart && part <= K::partCount;
+                 ++part)
+                values[name + "_Part" + QByteArray::number(part)] = part == 1 ? tag : "";
         }
     }
     return values;
 }
 
+QByteArray StoredSettings::jobOptions(const Values &values) {
+    QByteArray text = K::UpdatePPDOptions;
+    for (const auto &[name, value] : values)
+        text += " " + name + "=" + value;
+    return text;
+}
+
 StoredSettings::Values StoredSettings::in(const QByteArray &ppd) {
-    static const QRegularExpression attribute(QStringLiteral("^\\*(\\w+): \"([^\"]*)\"$"));
     static const Values known = completeSet(0);
-    Values values;
-    for (const QByteArray &line : lines(ppd)) {
-        const QRegularExpressionMatch match = attribute.match(QString::fromLatin1(line));
-        const std::string name = match.captured(1).toStdString();
-        if (match.hasMatch() && known.contains(name))
-            values[name] = match.captured(2).toStdString();
+    static const QRegularExpression line(QStringLiteral("^\\*(\\w+): \"([^\"]*)\"$"),
+                                         QRegularExpression::MultilineOption);
+    Values found;
+    for (const QRegularExpressionMatch &match : line.globalMatch(QString::fromLatin1(ppd))) {
+        if (known.contains(match.captured(1).toLatin1()))
+            found[match.captured(1).toLatin1()] = match.captured(2).toLatin1();
     }
-    return values;
-}
-
-bool StoredSettings::isSettingLine(const QByteArray &line) {
-    return !in(line).empty();
-}
-
-QList<QByteArray> StoredSettings::lines(const QByteArray &ppd) {
-    QList<QByteArray> lines = ppd.split('\n');
-    if (!lines.isEmpty() && lines.last().isEmpty())
-        lines.removeLast();
-    return lines;
-}
-
-bool StoredSettings::opensWithLibcups(const QByteArray &ppd) {
-    QTemporaryFile file;
-    if (!file.open() || file.write(ppd) != ppd.size() || !file.flush())
-        return false;
-    ppd_file_t *opened = ppdOpenFile(file.fileName().toUtf8().constData());
-    ppdClose(opened);
-    return opened != nullptr;
-}
-
-std::string StoredSettings::base64(const std::string &text) {
-    char encoded[4096] = {};
-    httpEncode64_2(encoded, sizeof encoded, text.data(), int(text.size()));
-    return encoded;
+    return found;
 }
