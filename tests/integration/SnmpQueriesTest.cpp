@@ -3,8 +3,6 @@
 #include "OVSNMPHelper.h"
 #include "SimulatedPrinter.h"
 
-#include <QCoreApplication>
-
 #include <gtest/gtest.h>
 
 #include <arpa/inet.h>
@@ -30,26 +28,25 @@ QStringList numbered(const char *prefix, int count, int step) {
 
 // What a query gives, as text a table row can state.
 enum Query { Forms, AdminMode, Mac, SleepMode };
-QString ask(Query query, const char *ip) {
+std::string ask(Query query, const char *ip) {
     int mode = 5;
-    const QString mac = query == Mac ? H::getMacAddress(ip, kCommunity) : QString();
-    switch (query) {
-    case AdminMode:
-        return H::snmpGetAdminLoginModeEnabled(ip, kCommunity) ? "on" : "off";
-    case Mac:
-        return mac.isNull() ? "null" : mac;
-    case SleepMode:
-        return QString("status %1 mode %2").arg(H::getSleepMode(ip, kCommunity, mode)).arg(mode);
-    case Forms:
-        break;
+    if (query == SleepMode) {
+        const int status = H::getSleepMode(ip, kCommunity, mode);
+        return "status " + std::to_string(status) + " mode " + std::to_string(mode);
     }
+    const QString mac = query == Mac ? H::getMacAddress(ip, kCommunity) : QString();
+    if (query == Mac)
+        return mac.isNull() ? "null" : mac.toStdString();
+    if (query == AdminMode)
+        return H::snmpGetAdminLoginModeEnabled(ip, kCommunity) ? "on" : "off";
     const auto names = H::getValidatedFormNameArrayForIPAddress(ip, kCommunity);
     // After a failed query each list holds all its entries or none.
     for (const QStringList *array : {&H::formStateArray(), &H::formNameArray()}) {
         if (!names && !array->isEmpty() && array->size() != 100)
             return "partial";
     }
-    return names ? names->value(0) + " +" + QString::number(names->size() - 1) : "failed";
+    return names ? names->value(0).toStdString() + " +" + std::to_string(names->size() - 1)
+                 : "failed";
 }
 
 class SnmpQueriesTest : public ::testing::Test {
@@ -92,11 +89,11 @@ TEST_F(SnmpQueriesTest, HostileAnswersGivePlainResults) {
         QByteArray oid;
         P::Value value;
         Query query;
-        QString expected;
+        std::string expected;
     } cases[] = {
         {"japaneseName", form1, QByteArray("請求書フォーム"), Forms, "請求書フォーム +49"},
         {"emptyName", form1, QByteArray(""), Forms, " +49"},
-        {"longestName", form1, QByteArray(4095, 'n'), Forms, QString(4095, 'n') + " +49"},
+        {"longestName", form1, QByteArray(4095, 'n'), Forms, std::string(4095, 'n') + " +49"},
         {"tooLongName", form1, QByteArray(4096, 'n'), Forms, "failed"},
         {"notUtf8", form1, QByteArray("\xe8\xab"), Forms, "failed"},
         {"missingName", P::nameOid(Table::Form, 50), {}, Forms, "failed"},
@@ -193,9 +190,7 @@ QByteArray truncatedResponse(const QByteArray &r, int kept) {
 
 // Each query here sends one request, answered by a thread of the test.
 TEST(SnmpShortAnswers, GivePlainResults) {
-    const qint64 pid = QCoreApplication::applicationPid();
-    const QByteArray ip =
-        QString("127.254.%1.%2").arg((pid >> 8) & 0xFF).arg(pid % 250 + 2).toLatin1();
+    const QByteArray ip = "127.254." + P::loopbackAddress().section('.', 2).toLatin1();
     sockaddr_in at{};
     at.sin_family = AF_INET;
     at.sin_port = htons(161);

@@ -11,7 +11,7 @@
 #include "SimulatedPrinter.h"
 #include "TestNetworkNamespaces.h"
 
-#include <QDir>
+#include <QFile>
 #include <QThread>
 
 #include <gtest/gtest.h>
@@ -73,11 +73,8 @@ TEST(WakeOnLan, ReachesAndWakesThePrinter) {
         log << QString("%1 %2").arg(priority).arg(line);
     });
     const struct {
-        const char *label;
-        const char *address;
-        const char *mac;
-        bool isWakeOnLan;
-        bool isOverRouter;
+        const char *label, *address, *mac;
+        bool isWakeOnLan, isOverRouter;
         long sleepMode;
         bool result;
         QStringList destinations; // sorted
@@ -102,7 +99,7 @@ TEST(WakeOnLan, ReachesAndWakesThePrinter) {
     };
     for (const auto &c : cases) {
         SCOPED_TRACE(c.label);
-        QFile::remove(QDir(printer.directory()).filePath("awake-at"));
+        QFile::remove(printer.directory() + "/awake-at");
         printer.setDefaults();
         printer.setInteger(SimulatedPrinter::kSleepMode, c.sleepMode);
         sleptSeconds = 0;
