@@ -1,8 +1,6 @@
-// The wake flow end to end, in real time, between two network namespaces
-// that the test creates: the client (interface en0) runs the flow, the printer
-// namespace holds the simulated printer and its magic-packet listener.
-// Nothing here runs the flow, or sends anything, in the machine's own
-// namespace.
+// The wake flow end to end, in real time, between two network namespaces the
+// test creates (the client's interface is en0); nothing here runs the flow, or
+// sends anything, in the machine's own namespace.
 #include "MagicPacketListener.h"
 #include "OVSNMPHelper.h"
 #include "OVSleep.h"
@@ -46,7 +44,7 @@ TEST(WakeOnLan, ReachesAndWakesThePrinter) {
     options.netns = namespaces.printerName();
     options.listen = "udp:161,udp6:161";
     options.counterPeer = "udp:127.0.0.1:161";
-    options.source4 = options.source6 = "default";
+    options.source4 = "default";
     SimulatedPrinter printer(options);
     ASSERT_TRUE(printer.start()) << printer.errorText().toStdString();
     printer.setDefaults();
