@@ -85,9 +85,7 @@ TEST(WakeOnLan, ReachesAndWakesThePrinter) {
         {"ipv4OverRouter", kV4, kMac, true, true, kAsleep, true, {kV4, kV4}},
         {"ipv6OverRouter", kV6, kMac, true, true, kAsleep, true, {kV6, kV6}},
         {"emptyAddress", "", kMac, true, false, kAsleep, false, {kBroadcast, kAllRouters}, 0},
-        {"alreadyReady", kV4, kMac, true, false, 1, true, {}, 1},
         {"wakeOnLanOff", kV4, kMac, false, false, kAsleep, true, {}, 0},
-        {"emptyMac", kV4, "", true, false, kAsleep, false, {}, 0},
         // Going to sleep (2) throughout: 1 + 36 checks 5 s apart, two packets
         // nobody answers (5 s and 10 s after them), 15 polls 1 s apart.
         {"drowsy", kV4, kOtherMac, true, false, 2, false, {kBroadcast, kBroadcast}, 52, 210},

@@ -15,8 +15,6 @@ TEST(SnmpAddressing, ConvertedAddressFormsPeerName) {
         bool fits;
         std::string peerName;
     } cases[] = {{"192.168.0.10", true, "192.168.0.10"},
-                 {"fe80::1%en0", true, "udp6:[fe80::1%en0]:161"},
-                 {"", false, ""},
                  {std::string(255, 'a'), true, std::string(255, 'a')},
                  {std::string(256, 'a'), false, ""},
                  {"::" + std::string(250, 'f'), false, ""}};
