@@ -32,8 +32,8 @@ protected:
         printer = new SimulatedPrinter(options);
         ASSERT_TRUE(printer->start()) << printer->errorText().toStdString();
         printer->setDefaults();
-        printer->setString(SimulatedPrinter::nameOid(SimulatedPrinter::Table::SharedBox, 1),
-                           "営業部 🎨");
+        printer->set(SimulatedPrinter::nameOid(SimulatedPrinter::Table::SharedBox, 1),
+                     QByteArray("営業部 🎨"));
         folders = QStringList{"営業部 🎨"};
         for (int i = 3; i < 30; i += 2)
             folders << "Box" + QString::number(i);
