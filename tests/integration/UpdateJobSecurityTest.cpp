@@ -25,7 +25,7 @@ TEST(UpdateJobSecurity, OnlyWellFormedSettingsReachThePPD) {
     // split one value into several options.
     const HostileJob jobs[] = {
         {"ForeignKeywords", "cupsFilter2='text/plain 0 /bin/sh' *cupsFilter2=x OpenUI=*Evil "
-                            "isWakeOnLan=1 IsWakeOnLanX=1 SharedBoxName=QUJD"},
+                            "isWakeOnLan=1 IsWakeOnLanX=1 SharedBoxName=QUJD Forged\"Name=1"},
         {"IndicesOutOfRange", "SharedBoxName100_Part1=QUJD ColorProfileName30_Part1=QUJD "
                               "SelSharedBoxIndex-1=1 SelSharedBoxIndex01=1 PSFormName9_Part7=QUJD"},
         {"QuotesLineEndsBackslashes", "SnmpCommunityName='QUJD\"\n*cupsFilter2: \"text/plain 0 "
@@ -58,6 +58,12 @@ TEST(UpdateJobSecurity, OnlyWellFormedSettingsReachThePPD) {
         EXPECT_EQ(others(after), others(before));
         EXPECT_EQ(after.contains("\n*PSFormName7_Part1: \"" + marker + "\"\n"), jobs[i].updateJob);
     }
+    // The filter's log names refused options, but no name may close the quotes
+    // around it, and ten thousand refusals are counted, not listed.
+    const QByteArray log = cups.errorLog();
+    EXPECT_TRUE(log.contains("Forged?Name"));
+    EXPECT_TRUE(log.contains("more refused options are not listed"));
+    EXPECT_LT(log.count("option \\\"J"), 100); // cupsd logs a quote as \"
 }
 
 } // namespace
