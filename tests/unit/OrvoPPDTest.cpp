@@ -1,8 +1,5 @@
 #include "OrvoPPDTestSupport.h"
 
-#include "OVPreferredLanguages.h"
-#include "OVSystemVersion.h"
-
 #include <gtest/gtest.h>
 
 using namespace OrvoPPDTestSupport;
@@ -82,35 +79,16 @@ TEST(OrvoPPDOverflow, StopsTheProgramAfterItsLogLineOnlyPastTheLimit) {
                          .toStdString()}));
 }
 
-// Points the system version at a file holding the version (none for "") and
-// sets the preferred languages.
-struct Platform {
-    Platform(const char *version, const QStringList &languages) {
-        QFile plist(dir.filePath("SystemVersion.plist"));
-        if (*version && plist.open(QIODevice::WriteOnly))
-            plist.write(QByteArray("<plist><dict><key>ProductVersion</key><string>") + version +
-                        "</string></dict></plist>");
-        OVSystemVersion::setPlistPath(plist.fileName());
-        OVPreferredLanguages::setOverride(languages);
-    }
-    ~Platform() {
-        OVSystemVersion::setPlistPath(QString());
-        OVPreferredLanguages::setOverride(std::nullopt);
-    }
-    QTemporaryDir dir;
-};
-
 TEST(OrvoPPDLanguage, FollowsTheSystemVersion) {
     const std::tuple<const char *, QStringList, bool, const char *, const char *> cases[] = {
-        {"", {"en-US"}, false, "en-US", "en-US"},
-        {"10.14", {"en-US"}, true, "en-US", "en"},
+        {nullptr, {"en-US"}, false, "en-US", "en-US"},
         {"10.11", {"zh-HK"}, false, "zh-Hant-HK", "zh_HK"},
         {"10.12", {"zh-Hans-CN"}, false, "zh-Hans", "zh_CN"},
         {"11.0", {"fr-FR", "de-DE"}, true, "de-DE", "de"},
         {"12.1", {"zh-Hans-CN", "en"}, false, "zh-Hans-CN", "zh-Hans-CN"}};
     for (const auto &[version, preferred, fullName, language, ppdLanguage] : cases) {
         SCOPED_TRACE(version);
-        const Platform platform(version, preferred);
+        const Platform platform(Platform::version(version), preferred);
         EXPECT_EQ(OrvoPPD::getSystemLanguage(fullName), language);
         EXPECT_EQ(OrvoPPD::ppdGetLanguage(), ppdLanguage);
     }
@@ -136,31 +114,13 @@ TEST(OrvoPPDLocalize, RewritesTranslatedTexts) {
          {"0 PageSize 'Media Size' = [A4/A4/a4] [Letter/Letter/lt]",
           "0 Duplex 'Duplex' = [None/Off/n]"}}};
     for (const auto &[language, options] : cases) {
-        const Platform platform("10.14", {language});
+        const Platform platform(Platform::version("10.14"), {language});
         const OpenedPPD ppd = file.open();
         ASSERT_TRUE(ppd);
         EXPECT_EQ(OrvoPPD::ppdLocalize(ppd.get(), file.filePath()), 0);
         EXPECT_EQ(describe(ppd.get()), options) << language;
     }
     EXPECT_EQ(OrvoPPD::ppdLocalGetLocalize("*fr.Translation A/T: \"\"", "fr", QString(), {}), "");
-}
-
-TEST(OrvoPPDQueries, FindAndMarkByExactNames) {
-    const OpenedPPD ppd = TempPPD("*OpenUI *PageSize/Size: PickOne\n*DefaultPageSize: A4\n"
-                                  "*PageSize A4/A4: \"a\"\n*PageSize Letter/Letter: \"l\"\n"
-                                  "*CloseUI: *PageSize\n")
-                              .open();
-    ASSERT_TRUE(ppd);
-    EXPECT_EQ(OrvoPPD::ppdFindAttr(ppd.get(), "defaultpagesize", nullptr), nullptr);
-    EXPECT_EQ(OrvoPPD::ppdFindOption(ppd.get(), "pagesize"), nullptr);
-    EXPECT_EQ(OrvoPPD::ppdFindChoice(OrvoPPD::ppdFindOption(ppd.get(), "PageSize"), "a4"), nullptr);
-    EXPECT_EQ(OrvoPPD::ppdMarkOption(ppd.get(), "PageSize", "Tabloid"), 1);
-    EXPECT_EQ(OrvoPPD::ppdMarkOption(ppd.get(), "PageSize", "Letter"), 1);
-    // The libcups option lookup ignores case.
-    EXPECT_STREQ(OrvoPPD::ppdFindMarkedChoice(ppd.get(), "pagesize")->choice, "Letter");
-    OrvoPPD::ppdMarkDefaults(ppd.get());
-    EXPECT_STREQ(OrvoPPD::ppdFindMarkedChoice(ppd.get(), "PageSize")->choice, "A4");
-    EXPECT_EQ(OrvoPPD::ppdFindOption(nullptr, "A"), nullptr);
 }
 
 } // namespace

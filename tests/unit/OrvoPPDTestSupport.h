@@ -1,18 +1,17 @@
 #pragma once
 
+#include "OVPreferredLanguages.h"
 #include "OVSystemLog.h"
+#include "OVSystemVersion.h"
 #include "OrvoPPD.h"
 
 #include <QFile>
 #include <QTemporaryDir>
 
-#include <cstdio>
 #include <memory>
 #include <span>
-#include <string>
-#include <vector>
 
-// Helpers shared by the PPD reader's tests.
+// Helpers shared by the PPD reader's and the platform seams' tests.
 namespace OrvoPPDTestSupport {
 
 using Lines = std::vector<std::string>;
@@ -61,5 +60,27 @@ inline void logToStandardError() {
     OVSystemLog::setSink(
         [](int, const QString &line) { fprintf(stderr, "%s\n", line.toUtf8().constData()); });
 }
+
+// The system version from a plist with the given dict entries (no file for a
+// null dict) and the preferred languages, while the object lives.
+struct Platform {
+    Platform(const QByteArray &dict, const QStringList &languages = {}) {
+        QFile file(dir.filePath("SystemVersion.plist"));
+        if (!dict.isNull() && file.open(QIODevice::WriteOnly))
+            file.write("<?xml version=\"1.0\"?>\n<plist><dict>" + dict + "</dict></plist>\n");
+        OVSystemVersion::setPlistPath(file.fileName());
+        OVPreferredLanguages::setOverride(languages);
+    }
+    ~Platform() {
+        OVSystemVersion::setPlistPath(QString());
+        OVPreferredLanguages::setOverride(std::nullopt);
+    }
+    static QByteArray version(const char *productVersion) {
+        return productVersion
+                   ? QByteArray("<key>ProductVersion</key><string>") + productVersion + "</string>"
+                   : QByteArray();
+    }
+    QTemporaryDir dir;
+};
 
 } // namespace OrvoPPDTestSupport
