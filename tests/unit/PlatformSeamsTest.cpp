@@ -12,30 +12,15 @@ using OrvoPPDTestSupport::Platform;
 
 namespace {
 
-TEST(SystemVersion, ReadsTheProductVersionFromThePlist) {
-    const std::tuple<QByteArray, const char *, int, int, int> cases[] = {
-        {"<key>ProductName</key><string>X</string>" + Platform::version("10.13"), "10.13", 10, 13,
-         0},
-        {"<key>ProductVersion</key><integer>10</integer>", "", 0, 0, 0},
-        {QByteArray(), "", 0, 0, 0}};
-    for (const auto &[dict, productVersion, major, middle, minor] : cases) {
-        const Platform platform(dict);
-        int parts[3] = {-1, -1, -1};
-        OVSystemVersion::components(parts[0], parts[1], parts[2]);
-        EXPECT_EQ(OVSystemVersion::productVersion(), productVersion);
-        EXPECT_EQ(std::tuple(parts[0], parts[1], parts[2]), std::tuple(major, middle, minor));
-    }
-}
-
 TEST(Localization, SystemLanguageAndFolderFollowTheSystemVersion) {
-    const std::tuple<const char *, const char *, bool, const char *> languages[] = {
-        {"10.13", "en", false, ""}, // deliberately empty, not the language itself
-        {"10.12.6", "zh-Hans-CN", false, "zh-Hans"},
-        {"10.11", "en-US", false, "en-US"},
-        {nullptr, "ja-JP", false, "ja-JP"}};
-    for (const auto &[productVersion, language, fullName, expected] : languages) {
+    const std::tuple<const char *, const char *, const char *> languages[] = {
+        {"10.13", "en", ""}, // deliberately empty, not the language itself
+        {"10.12.6", "zh-Hans-CN", "zh-Hans"},
+        {"10.11", "en-US", "en-US"},
+        {nullptr, "ja-JP", "ja-JP"}};
+    for (const auto &[productVersion, language, expected] : languages) {
         const Platform platform(Platform::version(productVersion), {language});
-        EXPECT_EQ(OVPrinterUtilityHelper::getSystemLanguage(fullName), expected);
+        EXPECT_EQ(OVPrinterUtilityHelper::getSystemLanguage(false), expected);
     }
     // Without a folder of the full or short name, the first preferred language
     // some folder serves answers, else English; an unknown key is its own text.
