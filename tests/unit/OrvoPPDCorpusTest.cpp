@@ -148,6 +148,30 @@ TEST(OrvoPPDCorpus, EveryFileGetsItsListedVerdict) {
     }
 }
 
+// Each paragraph of the file a PPD, its lines after "> " what the reader makes
+// of it, none when it gives null.
+TEST(OrvoPPDOpen, ReadsTheListedCases) {
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
+    for (const QString &paragraph :
+         QString(readAll(ORVO_PPD_CORPUS "/reader-cases.txt")).split("\n\n")) {
+        QByteArray content;
+        Lines expected;
+        for (const QString &line : paragraph.split(u'\n'))
+            if (line.startsWith("> "))
+                expected.push_back(line.mid(2).toStdString());
+            else
+                content += line.toUtf8() + "\n";
+        SCOPED_TRACE(content.constData());
+        const TempPPD file(content);
+        if (!expected.empty() && expected[0].starts_with("stops: "))
+            expectVerdict(file.filePath(), expected[0]);
+        else if (const OpenedPPD ppd = file.open(); ppd)
+            EXPECT_EQ(describe(ppd.get(), true), expected);
+        else
+            EXPECT_EQ(expected, Lines());
+    }
+}
+
 // Edge cases of the one-pass index, each with every line terminator the
 // expressions know, then the corpus.
 TEST(OrvoPPDScanEquivalence, IndexAnswersAsThePerKeywordExpressions) {

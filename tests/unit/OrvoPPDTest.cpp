@@ -6,60 +6,6 @@ using namespace OrvoPPDTestSupport;
 
 namespace {
 
-// Each paragraph of the file a PPD, its lines after "> " what the reader makes
-// of it; none when it gives null.
-TEST(OrvoPPDOpen, ReadsTheListedCases) {
-    QFile file(ORVO_PPD_CORPUS "/reader-cases.txt");
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    for (const QString &paragraph : QString(file.readAll()).split("\n\n")) {
-        QByteArray content;
-        Lines expected;
-        for (const QString &line : paragraph.split(u'\n'))
-            if (line.startsWith("> "))
-                expected.push_back(line.mid(2).toStdString());
-            else
-                content += line.toUtf8() + "\n";
-        SCOPED_TRACE(content.constData());
-        const OpenedPPD ppd = TempPPD(content).open();
-        EXPECT_EQ(ppd ? describe(ppd.get(), true) : Lines(), expected);
-    }
-}
-
-TEST(OrvoPPDOverflow, StopsTheProgramAfterItsLogLineOnlyPastTheLimit) {
-    GTEST_FLAG_SET(death_test_style, "threadsafe");
-    auto option = [](const QByteArray &keyword, const QByteArray &text, const QByteArray &choice,
-                     const QByteArray &choiceText, const QByteArray &more = "") {
-        return "*OpenUI *" + keyword + "/" + text + ": PickOne\n" + more + "*" + keyword + " " +
-               choice + "/" + choiceText + ": \"c\"\n*CloseUI: *" + keyword + "\n";
-    };
-    const std::tuple<QByteArray, const char *, int> cases[] = {
-        {option("A", QByteArray(81, 't'), "c", "C"), "option text", 81},
-        {option(QByteArray(41, 'K'), "T", "c", "C"), "option keyword", 41},
-        {option("A", "T", "c", "C", "*DefaultA: " + QByteArray(41, 'c') + "\n"), "default choice",
-         41},
-        {option("A", "T", "c", QByteArray(79, 't') + "\xc3\xa9"), "choice text", 81},
-        {option("A", "T", "c", "C", "*" + QByteArray(41, 'n') + ": v\n"), "attribute name", 41}};
-    for (const auto &[content, field, bytes] : cases) {
-        const TempPPD file(content);
-        EXPECT_EXIT(
-            {
-                logToStandardError();
-                OrvoPPD::ppdOpenFile(file.filePath());
-            },
-            ::testing::KilledBySignal(SIGABRT),
-            "\\[Driver\\] PPD field overflow: " + std::to_string(bytes) + " bytes do not fit in " +
-                field);
-    }
-    // A blank in the text, or the attribute scan would read too long a name.
-    const QByteArray keyword(40, 'K'), choice(40, 'c'),
-        text = QByteArray(39, 't') + " " + QByteArray(38, 't') + "\xc3\xa9";
-    const OpenedPPD ppd = TempPPD(option(keyword, text, choice, text)).open();
-    ASSERT_TRUE(ppd);
-    EXPECT_EQ(describe(ppd.get()),
-              Lines({("0 " + keyword + " '" + text + "' = [" + choice + "/" + text + "/c]")
-                         .toStdString()}));
-}
-
 TEST(OrvoPPDLanguage, FollowsTheSystemVersion) {
     const std::tuple<const char *, QStringList, bool, const char *, const char *> cases[] = {
         {nullptr, {"en-US"}, false, "en-US", "en-US"},
@@ -69,7 +15,7 @@ TEST(OrvoPPDLanguage, FollowsTheSystemVersion) {
         {"12.1", {"zh-Hans-CN", "en"}, false, "zh-Hans-CN", "zh-Hans-CN"}};
     for (const auto &[version, preferred, fullName, language, ppdLanguage] : cases) {
         SCOPED_TRACE(version);
-        const Platform platform(Platform::version(version), preferred);
+        const Platform platform(version, preferred);
         EXPECT_EQ(OrvoPPD::getSystemLanguage(fullName), language);
         EXPECT_EQ(OrvoPPD::ppdGetLanguage(), ppdLanguage);
     }
@@ -95,7 +41,7 @@ TEST(OrvoPPDLocalize, RewritesTranslatedTexts) {
          {"0 PageSize 'Media Size' = [A4/A4/a4] [Letter/Letter/lt]",
           "0 Duplex 'Duplex' = [None/Off/n]"}}};
     for (const auto &[language, options] : cases) {
-        const Platform platform(Platform::version("10.14"), {language});
+        const Platform platform("10.14", {language});
         const OpenedPPD ppd = file.open();
         ASSERT_TRUE(ppd);
         EXPECT_EQ(OrvoPPD::ppdLocalize(ppd.get(), file.filePath()), 0);

@@ -61,24 +61,20 @@ inline void logToStandardError() {
         [](int, const QString &line) { fprintf(stderr, "%s\n", line.toUtf8().constData()); });
 }
 
-// The system version from a plist with the given dict entries (no file for a
-// null dict) and the preferred languages, while the object lives.
+// The system version (no plist for none) and the preferred languages while
+// the object lives.
 struct Platform {
-    Platform(const QByteArray &dict, const QStringList &languages = {}) {
+    Platform(const char *version, const QStringList &languages) {
         QFile file(dir.filePath("SystemVersion.plist"));
-        if (!dict.isNull() && file.open(QIODevice::WriteOnly))
-            file.write("<?xml version=\"1.0\"?>\n<plist><dict>" + dict + "</dict></plist>\n");
+        if (version && file.open(QIODevice::WriteOnly))
+            file.write(QByteArray("<plist><dict><key>ProductVersion</key><string>") + version +
+                       "</string></dict></plist>");
         OVSystemVersion::setPlistPath(file.fileName());
         OVPreferredLanguages::setOverride(languages);
     }
     ~Platform() {
         OVSystemVersion::setPlistPath(QString());
         OVPreferredLanguages::setOverride(std::nullopt);
-    }
-    static QByteArray version(const char *productVersion) {
-        return productVersion
-                   ? QByteArray("<key>ProductVersion</key><string>") + productVersion + "</string>"
-                   : QByteArray();
     }
     QTemporaryDir dir;
 };

@@ -19,7 +19,7 @@ TEST(Localization, SystemLanguageAndFolderFollowTheSystemVersion) {
         {"10.11", "en-US", "en-US"},
         {nullptr, "ja-JP", "ja-JP"}};
     for (const auto &[productVersion, language, expected] : languages) {
-        const Platform platform(Platform::version(productVersion), {language});
+        const Platform platform(productVersion, {language});
         EXPECT_EQ(OVPrinterUtilityHelper::getSystemLanguage(false), expected);
     }
     // Without a folder of the full or short name, the first preferred language
@@ -32,7 +32,7 @@ TEST(Localization, SystemLanguageAndFolderFollowTheSystemVersion) {
         {nullptr, {"de-DE"}, "Shared Folder 100", "Freigegebener Ordner 100"},
         {nullptr, {"zh-TW"}, "No such key", "No such key"}};
     for (const auto &[productVersion, preferred, key, expected] : lookups) {
-        const Platform platform(Platform::version(productVersion), preferred);
+        const Platform platform(productVersion, preferred);
         EXPECT_EQ(OVPrinterUtilityHelper::getLocalizedStringFor(key), QString::fromUtf8(expected));
     }
 }
