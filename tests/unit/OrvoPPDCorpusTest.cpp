@@ -149,26 +149,35 @@ TEST(OrvoPPDCorpus, EveryFileGetsItsListedVerdict) {
 }
 
 // Each paragraph of the file a PPD, its lines after "> " what the reader makes
-// of it, none when it gives null.
+// of it (none when it gives null), localized for the language after "@ ".
 TEST(OrvoPPDOpen, ReadsTheListedCases) {
     GTEST_FLAG_SET(death_test_style, "threadsafe");
     for (const QString &paragraph :
          QString(readAll(ORVO_PPD_CORPUS "/reader-cases.txt")).split("\n\n")) {
         QByteArray content;
         Lines expected;
+        QString language;
         for (const QString &line : paragraph.split(u'\n'))
             if (line.startsWith("> "))
                 expected.push_back(line.mid(2).toStdString());
+            else if (line.startsWith("@ "))
+                language = line.mid(2);
             else
                 content += line.toUtf8() + "\n";
         SCOPED_TRACE(content.constData());
         const TempPPD file(content);
-        if (!expected.empty() && expected[0].starts_with("stops: "))
+        const Platform platform("10.14", {language});
+        if (!expected.empty() && expected[0].starts_with("stops: ")) {
             expectVerdict(file.filePath(), expected[0]);
-        else if (const OpenedPPD ppd = file.open(); ppd)
-            EXPECT_EQ(describe(ppd.get(), true), expected);
-        else
+        } else if (const OpenedPPD ppd = file.open(); ppd) {
+            EXPECT_EQ(language.isEmpty() ? 0 : OrvoPPD::ppdLocalize(ppd.get(), file.filePath()), 0);
+            Lines lines = describe(ppd.get(), true);
+            for (std::string &line : lines) // as read from the file: a cut character is U+FFFD
+                line = QString::fromStdString(line).toStdString();
+            EXPECT_EQ(lines, expected);
+        } else {
             EXPECT_EQ(expected, Lines());
+        }
     }
 }
 
