@@ -23,8 +23,7 @@ TEST(OrvoSNMPHelper, FlagsDefaultsAndAsymmetries) {
         {{{K::UsePersonalFolder, "01"}}, OrvoSNMPHelper::isPersonalFolderSelected, false}};
     for (const auto &[attributes, read, expected] : cases) {
         const TestPPDFile file(attributes);
-        EXPECT_EQ(read(file.ppd()), expected)
-            << (attributes.isEmpty() ? "" : attributes[0].second.constData());
+        EXPECT_EQ(read(file.ppd()), expected) << attributes.value(0).second.constData();
     }
 }
 

@@ -29,7 +29,6 @@ TEST(Localization, SystemLanguageAndFolderFollowTheSystemVersion) {
         {nullptr, {"ko-KR", "fr-FR"}, "Close", "Fermer"},
         {nullptr, {"ko-KR"}, "Close", "Close"},
         {"10.13", {"zh-Hans-CN"}, "Close", "关闭"},
-        {nullptr, {"de-DE"}, "Shared Folder 100", "Freigegebener Ordner 100"},
         {nullptr, {"zh-TW"}, "No such key", "No such key"}};
     for (const auto &[productVersion, preferred, key, expected] : lookups) {
         const Platform platform(productVersion, preferred);
