@@ -237,27 +237,24 @@ TEST(OrvoPPDCorpus, EveryFileReadsAsListed) {
     }
 }
 
-const QByteArray smallPPD = "*PPD-Adobe: \"4.3\"\n*OpenUI *PageSize/Media Size: PickOne\n"
-                            "*DefaultPageSize: A4\n*PageSize A4/A4: \"<</PageSize[595 842]>>\"\n"
-                            "*CloseUI: *PageSize\n*OpenUI *Duplex/Duplex: PickOne\n"
-                            "*Duplex None/Off: \"n\"\n*CloseUI: *Duplex\n";
-
 TEST(OrvoPPDBadInput, GivesNullAStopOrAStructure) {
     GTEST_FLAG_SET(death_test_style, "threadsafe");
-    const std::string small = verdictOf(TempPPD(smallPPD).filePath());
+    const QByteArray small =
+        readAll(ORVO_PPD_CORPUS "/fs__usr_share_ppd_hplip_HP_HP-Fax3-hpcups.ppd");
+    const std::string read = verdictOf(TempPPD(small).filePath());
     const std::tuple<const char *, QByteArray, std::string> inputs[] = {
         {"empty", "", "null"},
         {"binary", readAll(QCoreApplication::applicationFilePath()), "null"},
-        {"no newline", QByteArray(smallPPD).replace('\n', ' '),
-         "stops: 137 bytes do not fit in default choice"},
-        {"carriage returns only", QByteArray(smallPPD).replace('\n', '\r'), "null"},
-        {"truncated character", smallPPD + "*A: \xc3", "null"},
-        {"NUL bytes", QByteArray(smallPPD).replace(' ', '\0'), "null"},
-        {"byte order mark", "\xef\xbb\xbf" + smallPPD, small},
+        {"no newline", QByteArray(small).replace('\n', ' '),
+         "stops: 1801 bytes do not fit in default choice"},
+        {"carriage returns only", QByteArray(small).replace('\n', '\r'), "null"},
+        {"truncated character", small + "*A: \xc3", "null"},
+        {"NUL bytes", QByteArray(small).replace(' ', '\0'), "null"},
+        {"byte order mark", "\xef\xbb\xbf" + small, read},
         {"50 MB",
-         smallPPD +
+         small +
              QByteArray("*% a comment that no expression reads as anything\n").repeated(1 << 20),
-         small}};
+         read}};
     for (const auto &[name, content, verdict] : inputs) {
         SCOPED_TRACE(name);
         expectVerdict(TempPPD(content).filePath(), verdict);
