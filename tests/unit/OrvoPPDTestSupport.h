@@ -1,18 +1,17 @@
 #pragma once
 
+#include "OVPreferredLanguages.h"
 #include "OVSystemLog.h"
+#include "OVSystemVersion.h"
 #include "OrvoPPD.h"
 
 #include <QFile>
 #include <QTemporaryDir>
 
-#include <cstdio>
 #include <memory>
 #include <span>
-#include <string>
-#include <vector>
 
-// Helpers shared by the PPD reader's tests.
+// Helpers shared by the PPD reader's and the platform seams' tests.
 namespace OrvoPPDTestSupport {
 
 using Lines = std::vector<std::string>;
@@ -61,5 +60,23 @@ inline void logToStandardError() {
     OVSystemLog::setSink(
         [](int, const QString &line) { fprintf(stderr, "%s\n", line.toUtf8().constData()); });
 }
+
+// The system version (no plist for none) and the preferred languages while
+// the object lives.
+struct Platform {
+    Platform(const char *version, const QStringList &languages) {
+        QFile file(dir.filePath("SystemVersion.plist"));
+        if (version && file.open(QIODevice::WriteOnly))
+            file.write(QByteArray("<plist><dict><key>ProductVersion</key><string>") + version +
+                       "</string></dict></plist>");
+        OVSystemVersion::setPlistPath(file.fileName());
+        OVPreferredLanguages::setOverride(languages);
+    }
+    ~Platform() {
+        OVSystemVersion::setPlistPath(QString());
+        OVPreferredLanguages::setOverride(std::nullopt);
+    }
+    QTemporaryDir dir;
+};
 
 } // namespace OrvoPPDTestSupport

@@ -1,59 +1,74 @@
-#include "OVSystemVersion.h"
+#include "OVLaunchEvent.h"
+#include "OVPrinterUtilityHelper.h"
+#include "OVStoredSettings.h"
+#include "OVWindowTexts.h"
+#include "OrvoPPDTestSupport.h"
 
-#include <QTemporaryDir>
+#include <QTranslator>
 
 #include <gtest/gtest.h>
 
+using OrvoPPDTestSupport::Platform;
+
 namespace {
 
-QString writePlist(const QTemporaryDir &dir, const QByteArray &dict) {
-    const QString path = dir.filePath("SystemVersion.plist");
-    QFile file(path);
-    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<plist version=\"1.0\"><dict>" + dict +
-               "</dict></plist>\n");
-    return path;
+TEST(Localization, SystemLanguageAndFolderFollowTheSystemVersion) {
+    const std::tuple<const char *, const char *, const char *> languages[] = {
+        {"10.13", "en", ""}, // deliberately empty, not the language itself
+        {"10.12.6", "zh-Hans-CN", "zh-Hans"},
+        {"10.11", "en-US", "en-US"},
+        {nullptr, "ja-JP", "ja-JP"}};
+    for (const auto &[productVersion, language, expected] : languages) {
+        const Platform platform(productVersion, {language});
+        EXPECT_EQ(OVPrinterUtilityHelper::getSystemLanguage(false), expected);
+    }
+    // Without a folder of the full or short name, the first preferred language
+    // some folder serves answers, else English; an unknown key is its own text.
+    const std::tuple<const char *, QStringList, const char *, const char *> lookups[] = {
+        {nullptr, {"ja-JP"}, "Close", "閉じる"},
+        {nullptr, {"ko-KR", "fr-FR"}, "Close", "Fermer"},
+        {nullptr, {"ko-KR"}, "Close", "Close"},
+        {"10.13", {"zh-Hans-CN"}, "Close", "关闭"},
+        {nullptr, {"zh-TW"}, "No such key", "No such key"}};
+    for (const auto &[productVersion, preferred, key, expected] : lookups) {
+        const Platform platform(productVersion, preferred);
+        EXPECT_EQ(OVPrinterUtilityHelper::getLocalizedStringFor(key), QString::fromUtf8(expected));
+    }
 }
 
-struct VersionCase {
-    const char *dict;
-    const char *productVersion;
-    int major, middle, minor;
-};
-
-class SystemVersionTest : public ::testing::TestWithParam<VersionCase> {
-protected:
-    void TearDown() override { OVSystemVersion::setPlistPath(QString()); }
-};
-
-TEST_P(SystemVersionTest, ReadsProductVersionFromPlist) {
-    QTemporaryDir dir;
-    OVSystemVersion::setPlistPath(writePlist(dir, GetParam().dict));
-    EXPECT_EQ(OVSystemVersion::productVersion(), GetParam().productVersion);
-    int major = -1, middle = -1, minor = -1;
-    OVSystemVersion::components(major, middle, minor);
-    EXPECT_EQ(major, GetParam().major);
-    EXPECT_EQ(middle, GetParam().middle);
-    EXPECT_EQ(minor, GetParam().minor);
+// Every text the window shows, the 100 default folder names included, has a
+// translation in every shipped language.
+TEST(Localization, EveryLanguageHasEveryWindowKey) {
+    QStringList keys;
+    for (const char *key : OVWindowTexts::localizedKeys)
+        keys << key;
+    for (int n = 1; n <= OVStoredSettings::defaultFolderCount; ++n)
+        keys << QString("Shared Folder %1").arg(n);
+    const QStringList folders = OVPrinterUtilityHelper::shippedLocalizations();
+    EXPECT_EQ(folders, (QStringList{"de.lproj", "en.lproj", "fr.lproj", "ja.lproj", "zh-Hans.lproj",
+                                    "zh-Hant.lproj"}));
+    for (const QString &folder : folders) {
+        QTranslator table;
+        ASSERT_TRUE(table.load(":/" + folder + "/Localizable.qm"));
+        for (const QString &key : keys)
+            EXPECT_FALSE(table.translate("Localizable", key.toUtf8().constData()).isEmpty())
+                << folder.toStdString() << " lacks " << key.toStdString();
+    }
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Plists, SystemVersionTest,
-    ::testing::Values(
-        VersionCase{"<key>ProductName</key><string>Mac OS X</string>"
-                    "<key>ProductVersion</key><string>10.13.6</string>",
-                    "10.13.6", 10, 13, 6},
-        VersionCase{"<key>ProductVersion</key><string>11.0</string>", "11.0", 11, 0, 0},
-        VersionCase{"<key>ProductBuildVersion</key><string>17G65</string>", "", 0, 0, 0},
-        VersionCase{"<key>ProductVersion</key><integer>10</integer>", "", 0, 0, 0}));
-
-TEST(SystemVersion, MissingFileReadsAsZero) {
-    OVSystemVersion::setPlistPath("/nonexistent/SystemVersion.plist");
-    int major = -1, middle = -1, minor = -1;
-    OVSystemVersion::components(major, middle, minor);
-    EXPECT_EQ(major + middle + minor, 0);
-    EXPECT_EQ(OVSystemVersion::productVersion(), "");
-    OVSystemVersion::setPlistPath(QString());
+TEST(LaunchEvent, PrinterIDAndLogFollowTheArguments) {
+    const std::tuple<QStringList, const char *, const char *> cases[] = {
+        {{}, "", ""},
+        {QStringList{"--printer"}, "Default-TestID", ""},
+        {{"-x", "-p", "Lab"}, "Lab", "Printer ID|Lab"},
+        {QStringList{"--printer=Q 2"}, "Q 2", "Printer ID|Q 2"}};
+    for (const auto &[arguments, printerID, logged] : cases) {
+        QStringList lines;
+        OVSystemLog::setSink([&](int, const QString &line) { lines << line; });
+        EXPECT_EQ(OVLaunchEvent::printerIDFromArguments(arguments), printerID);
+        OVSystemLog::setSink({});
+        EXPECT_EQ(lines.join('|'), logged);
+    }
 }
 
 } // namespace

@@ -19,6 +19,5 @@ TestPPDFile::TestPPDFile(const Attributes &attributes) {
 }
 
 TestPPDFile::~TestPPDFile() {
-    if (m_ppd)
-        r_ppdClose(m_ppd);
+    r_ppdClose(m_ppd);
 }

@@ -1,12 +1,9 @@
 #pragma once
 
-#include <QByteArray>
 #include <QList>
 #include <QTemporaryDir>
 
 #include <cups/ppd.h>
-
-#include <utility>
 
 // A minimal PPD with the given main keywords and quoted values, opened through
 // the program's libcups wrapper while the object lives.
