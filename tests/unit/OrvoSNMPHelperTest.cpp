@@ -1,13 +1,33 @@
 #include "OrvoSNMPHelper.h"
+#include "OrvoPPD_Interface.h"
 #include "OrvoSettingsKeywords.h"
-#include "TestPPDFile.h"
+
+#include <QTemporaryFile>
 
 #include <gtest/gtest.h>
 
+#include <memory>
+
 namespace K = OrvoSettingsKeywords;
-using Attributes = TestPPDFile::Attributes;
 
 namespace {
+
+using Attributes = QList<std::pair<QByteArray, QByteArray>>;
+using OpenedPPD = std::unique_ptr<ppd_file_t, decltype(&r_ppdClose)>;
+
+// A minimal PPD with the given main keywords and quoted values, opened through
+// the program's libcups wrapper.
+OpenedPPD settingsPPD(const Attributes &attributes) {
+    QByteArray text = "*PPD-Adobe: \"4.3\"\n*FormatVersion: \"4.3\"\n*LanguageVersion: English\n"
+                      "*LanguageEncoding: ISOLatin1\n*ModelName: \"T\"\n*NickName: \"T\"\n";
+    for (const auto &[keyword, value] : attributes)
+        text += "*" + keyword + ": \"" + value + "\"\n";
+    QTemporaryFile file;
+    EXPECT_TRUE(file.open() && file.write(text) == text.size() && file.flush());
+    OpenedPPD ppd(r_ppdOpenFile(QFile::encodeName(file.fileName()).constData()), &r_ppdClose);
+    EXPECT_TRUE(ppd) << "libcups refused the test PPD";
+    return ppd;
+}
 
 // Wake-on-LAN is on unless set otherwise, administrator login mode is on
 // unless exactly "0", every other flag only when exactly "1".
@@ -22,8 +42,8 @@ TEST(OrvoSNMPHelper, FlagsDefaultsAndAsymmetries) {
         {{{K::PPDOptionsUpdated, "true"}}, OrvoSNMPHelper::isPPDOptionsUpdated, false},
         {{{K::UsePersonalFolder, "01"}}, OrvoSNMPHelper::isPersonalFolderSelected, false}};
     for (const auto &[attributes, read, expected] : cases) {
-        const TestPPDFile file(attributes);
-        EXPECT_EQ(read(file.ppd()), expected) << attributes.value(0).second.constData();
+        EXPECT_EQ(read(settingsPPD(attributes).get()), expected)
+            << attributes.value(0).second.constData();
     }
 }
 
@@ -37,12 +57,13 @@ TEST(OrvoSNMPHelper, DecodesSingleValues) {
         {QByteArray("ab\xe3\x81").toBase64(), "cobalt", ""},
         {QByteArray("ab\0cd", 5).toBase64(), "ab", "ab"}};
     for (const auto &[stored, community, address] : cases) {
-        const TestPPDFile file(stored.isNull() ? Attributes{}
-                                               : Attributes{{K::SnmpCommunityName, stored},
-                                                            {K::PrinterIPAddress, stored}});
-        EXPECT_EQ(OrvoSNMPHelper::snmpCommunityName(file.ppd()), community);
-        EXPECT_FALSE(OrvoSNMPHelper::getPrinterIPAddress(file.ppd()).isNull());
-        EXPECT_EQ(OrvoSNMPHelper::getPrinterIPAddress(file.ppd()), address);
+        const OpenedPPD ppd =
+            settingsPPD(stored.isNull() ? Attributes{}
+                                        : Attributes{{K::SnmpCommunityName, stored},
+                                                     {K::PrinterIPAddress, stored}});
+        EXPECT_EQ(OrvoSNMPHelper::snmpCommunityName(ppd.get()), community);
+        EXPECT_FALSE(OrvoSNMPHelper::getPrinterIPAddress(ppd.get()).isNull());
+        EXPECT_EQ(OrvoSNMPHelper::getPrinterIPAddress(ppd.get()), address);
     }
 }
 
@@ -76,10 +97,9 @@ TEST(OrvoSNMPHelper, JoinsPartsIntoA4096ByteBuffer) {
         // The 900-byte limit can cut a character: only the cut one is dropped.
         {{QByteArray("ab\xf0\x9f\x98").toBase64()}, "ab"}};
     for (const auto &[stored, expected] : cases) {
-        const TestPPDFile file(parts("PSFormName0", stored));
-        EXPECT_EQ(
-            OrvoSNMPHelper::getDecodedPPDAttributeMaltiPartValueForName("PSFormName0", file.ppd()),
-            expected);
+        EXPECT_EQ(OrvoSNMPHelper::getDecodedPPDAttributeMaltiPartValueForName(
+                      "PSFormName0", settingsPPD(parts("PSFormName0", stored)).get()),
+                  expected);
     }
 }
 
@@ -94,10 +114,10 @@ TEST(OrvoSNMPHelper, ArraysSkipEmptyEntriesAndStopAtTheirLimit) {
                    {"SelSharedBoxIndex2", ""},
                    {"SelSharedBoxIndex3", "99999999999"},
                    {"SelSharedBoxIndex100", "5"}};
-    const TestPPDFile file(attributes);
-    EXPECT_EQ(OrvoSNMPHelper::getSharedBoxDetailsArray(file.ppd()), QStringList({"1", "99"}));
-    EXPECT_EQ(OrvoSNMPHelper::getColorProfileDetailsArray(file.ppd()), QStringList({"30th"}));
-    EXPECT_EQ(OrvoSNMPHelper::getSelectedSharedBoxIndexArray(file.ppd()),
+    const OpenedPPD ppd = settingsPPD(attributes);
+    EXPECT_EQ(OrvoSNMPHelper::getSharedBoxDetailsArray(ppd.get()), QStringList({"1", "99"}));
+    EXPECT_EQ(OrvoSNMPHelper::getColorProfileDetailsArray(ppd.get()), QStringList({"30th"}));
+    EXPECT_EQ(OrvoSNMPHelper::getSelectedSharedBoxIndexArray(ppd.get()),
               QList<qint32>({12, 0, 2147483647}));
 }
 

@@ -1,14 +1,13 @@
 #include "OVLaunchEvent.h"
 #include "OVPrinterUtilityHelper.h"
 #include "OVStoredSettings.h"
+#include "OVSystemLog.h"
 #include "OVWindowTexts.h"
 #include "OrvoPPDTestSupport.h"
 
 #include <QTranslator>
 
 #include <gtest/gtest.h>
-
-using OrvoPPDTestSupport::Platform;
 
 namespace {
 
