@@ -9,7 +9,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <functional>
 #include <latch>
 #include <map>
 #include <thread>
@@ -24,7 +23,7 @@ using Settings = std::map<QByteArray, QByteArray>;
 // Every setting in its index and part forms, each value naming its save.
 Settings completeSet(int save) {
     Settings values;
-    for (const K::Keyword &keyword : K::all) {
+    for (const K::Keyword &keyword : K::all)
         for (int i = 0; i < std::max(keyword.indexCount, 1); ++i) {
             const QByteArray name =
                 keyword.name + (keyword.indexCount ? QByteArray::number(i) : QByteArray());
@@ -39,7 +38,6 @@ Settings completeSet(int save) {
                  ++part)
                 values[name + "_Part" + QByteArray::number(part)] = part == 1 ? tag : "";
         }
-    }
     return values;
 }
 
@@ -70,7 +68,7 @@ Settings settingsIn(const QByteArray &ppd) {
 TEST(SaveRoundTrip, EverySaveReadsBackAsStored) {
     constexpr char queue[] = "OrvoRoundTrip";
     ASSERT_TRUE(CupsServerEnvironment::server().addQueue(queue));
-    const auto readBack = [&](const std::function<void(ppd_file_t *)> &expect) {
+    const auto readBack = [&](const auto &expect) {
         EXPECT_EQ(OVStoredSettings::withQueuePPD(queue, expect), OVStoredSettings::Status::Loaded);
     };
     const auto save = [&](const OVSettingsSnapshot &snapshot) {
@@ -222,18 +220,17 @@ TEST(UpdateJobSecurity, OnlyWellFormedSettingsReachThePPD) {
     const auto others = [](const QByteArray &ppd) {
         return QString::fromLatin1(ppd).remove(markerLine).toStdString();
     };
-    for (int i = 0; i < int(std::size(jobs)); ++i) {
-        SCOPED_TRACE(jobs[i].what);
-        const QByteArray marker = ("job " + QByteArray::number(i)).toBase64();
+    for (const auto &[what, options, updateJob] : jobs) {
+        SCOPED_TRACE(what);
+        const QByteArray marker = QByteArray(what).toBase64();
         const QByteArray before = cups.queuePpd(queue);
-        const int job =
-            cups.printJob(queue, (jobs[i].updateJob ? "UpdatePPDOptions " : "") +
-                                     ("PSFormName7_Part1=" + marker + " ") + jobs[i].options);
+        const int job = cups.printJob(queue, (updateJob ? "UpdatePPDOptions " : "") +
+                                                 ("PSFormName7_Part1=" + marker + " ") + options);
         ASSERT_GT(job, 0) << cupsLastErrorString();
         EXPECT_EQ(cups.waitForJob(job), IPP_JSTATE_COMPLETED);
         const QByteArray after = cups.queuePpd(queue);
         EXPECT_EQ(others(after), others(before));
-        EXPECT_EQ(after.contains("\n*PSFormName7_Part1: \"" + marker + "\"\n"), jobs[i].updateJob);
+        EXPECT_EQ(after.contains("\n*PSFormName7_Part1: \"" + marker + "\"\n"), updateJob);
     }
     // The filter's log names refused options, but no name may close the quotes
     // around it, and ten thousand refusals are counted, not listed.
@@ -253,13 +250,12 @@ TEST(UpdateJobConcurrency, SimultaneousSavesLeaveOneCompleteSettingsSet) {
     std::vector<int> jobIds(saves);
     std::latch start(saves);
     std::vector<std::thread> senders;
-    for (int save = 0; save < saves; ++save) {
+    for (int save = 0; save < saves; ++save)
         senders.emplace_back([&, save] {
             const QByteArray options = jobOptions(save);
             start.arrive_and_wait();
             jobIds[save] = cups.printJob(queue, options);
         });
-    }
     for (std::thread &sender : senders)
         sender.join();
     for (int jobId : jobIds)

@@ -4,19 +4,17 @@
 
 namespace {
 
-QList<QByteArray> slotNames(const QByteArray &keyword, int count, int parts) {
-    QList<QByteArray> names;
-    for (int i = 0; i < count; ++i) {
-        for (int part = 1; part <= parts; ++part)
-            names << keyword + QByteArray::number(i) +
-                         (parts > 1 ? "_Part" + QByteArray::number(part) : "");
-    }
-    return names;
-}
-
 // The community name goes only with a custom community; the address whenever
 // its field yields a string, even an empty one.
 TEST(OVUpdateJob, EverySlotInOrder) {
+    const auto slotNames = [](const QByteArray &keyword, int count, int parts) {
+        QList<QByteArray> names;
+        for (int i = 0; i < count; ++i)
+            for (int part = 1; part <= parts; ++part)
+                names << keyword + QByteArray::number(i) +
+                             (parts > 1 ? "_Part" + QByteArray::number(part) : "");
+        return names;
+    };
     const std::tuple<bool, QString, qsizetype> cases[] = {
         {true, "10.0.0.5", 2690}, {false, "", 2689}, {false, QString(), 2688}};
     for (const auto &[community, address, count] : cases) {
@@ -24,9 +22,7 @@ TEST(OVUpdateJob, EverySlotInOrder) {
                                    "IsCustomSnmpCommunity"};
         if (community)
             expected << "SnmpCommunityName";
-        expected << "IsWakeOnLan"
-                 << "PrinterMacAddress"
-                 << "IsOverTheRouter";
+        expected += {"IsWakeOnLan", "PrinterMacAddress", "IsOverTheRouter"};
         if (!address.isNull())
             expected << "PrinterIPAddress";
         expected << slotNames("SharedBoxName", 100, 6) << slotNames("SelSharedBoxName", 100, 6)

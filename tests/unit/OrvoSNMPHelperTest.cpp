@@ -15,13 +15,14 @@ namespace {
 using Attributes = QList<std::pair<QByteArray, QByteArray>>;
 using OpenedPPD = std::unique_ptr<ppd_file_t, decltype(&r_ppdClose)>;
 
-// A minimal PPD with the given main keywords and quoted values, opened through
-// the program's libcups wrapper.
+// A minimal PPD with the given main keywords and quoted values, a null value
+// left out, opened through the program's libcups wrapper.
 OpenedPPD settingsPPD(const Attributes &attributes) {
     QByteArray text = "*PPD-Adobe: \"4.3\"\n*FormatVersion: \"4.3\"\n*LanguageVersion: English\n"
                       "*LanguageEncoding: ISOLatin1\n*ModelName: \"T\"\n*NickName: \"T\"\n";
     for (const auto &[keyword, value] : attributes)
-        text += "*" + keyword + ": \"" + value + "\"\n";
+        if (!value.isNull())
+            text += "*" + keyword + ": \"" + value + "\"\n";
     QTemporaryFile file;
     EXPECT_TRUE(file.open() && file.write(text) == text.size() && file.flush());
     OpenedPPD ppd(r_ppdOpenFile(QFile::encodeName(file.fileName()).constData()), &r_ppdClose);
@@ -41,10 +42,9 @@ TEST(OrvoSNMPHelper, FlagsDefaultsAndAsymmetries) {
         {{{K::IsCustomSnmpCommunity, "1"}}, OrvoSNMPHelper::isCustomSnmpCommunity, true},
         {{{K::PPDOptionsUpdated, "true"}}, OrvoSNMPHelper::isPPDOptionsUpdated, false},
         {{{K::UsePersonalFolder, "01"}}, OrvoSNMPHelper::isPersonalFolderSelected, false}};
-    for (const auto &[attributes, read, expected] : cases) {
+    for (const auto &[attributes, read, expected] : cases)
         EXPECT_EQ(read(settingsPPD(attributes).get()), expected)
             << attributes.value(0).second.constData();
-    }
 }
 
 // Invalid UTF-8 counts as a failed decoding: the community falls back to its
@@ -58,21 +58,18 @@ TEST(OrvoSNMPHelper, DecodesSingleValues) {
         {QByteArray("ab\0cd", 5).toBase64(), "ab", "ab"}};
     for (const auto &[stored, community, address] : cases) {
         const OpenedPPD ppd =
-            settingsPPD(stored.isNull() ? Attributes{}
-                                        : Attributes{{K::SnmpCommunityName, stored},
-                                                     {K::PrinterIPAddress, stored}});
+            settingsPPD({{K::SnmpCommunityName, stored}, {K::PrinterIPAddress, stored}});
         EXPECT_EQ(OrvoSNMPHelper::snmpCommunityName(ppd.get()), community);
         EXPECT_FALSE(OrvoSNMPHelper::getPrinterIPAddress(ppd.get()).isNull());
         EXPECT_EQ(OrvoSNMPHelper::getPrinterIPAddress(ppd.get()), address);
     }
 }
 
-// The parts of a multi-part value; a null part is left out of the PPD.
+// The parts of a multi-part value.
 Attributes parts(const QByteArray &keyword, const QList<QByteArray> &values) {
     Attributes attributes;
     for (int i = 0; i < values.size(); ++i)
-        if (!values[i].isNull())
-            attributes.append({keyword + "_Part" + QByteArray::number(i + 1), values[i]});
+        attributes.append({keyword + "_Part" + QByteArray::number(i + 1), values[i]});
     return attributes;
 }
 
@@ -96,11 +93,10 @@ TEST(OrvoSNMPHelper, JoinsPartsIntoA4096ByteBuffer) {
         {{full, QByteArray(60, 'b').toBase64(), "Qw"}, QString(3000, 'a') + "C"},
         // The 900-byte limit can cut a character: only the cut one is dropped.
         {{QByteArray("ab\xf0\x9f\x98").toBase64()}, "ab"}};
-    for (const auto &[stored, expected] : cases) {
+    for (const auto &[stored, expected] : cases)
         EXPECT_EQ(OrvoSNMPHelper::getDecodedPPDAttributeMaltiPartValueForName(
                       "PSFormName0", settingsPPD(parts("PSFormName0", stored)).get()),
                   expected);
-    }
 }
 
 TEST(OrvoSNMPHelper, ArraysSkipEmptyEntriesAndStopAtTheirLimit) {
