@@ -8,7 +8,6 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <latch>
 #include <map>
 #include <thread>
@@ -24,7 +23,7 @@ using Settings = std::map<QByteArray, QByteArray>;
 Settings completeSet(int save) {
     Settings values;
     for (const K::Keyword &keyword : K::all)
-        for (int i = 0; i < std::max(keyword.indexCount, 1); ++i) {
+        for (int i = 0; i < qMax(keyword.indexCount, 1); ++i) {
             const QByteArray name =
                 keyword.name + (keyword.indexCount ? QByteArray::number(i) : QByteArray());
             const QByteArray tag = (QByteArray::number(save) + ":" + name).toBase64();
@@ -41,7 +40,6 @@ Settings completeSet(int save) {
     return values;
 }
 
-// The options text of an update job carrying save's complete set.
 QByteArray jobOptions(int save) {
     QByteArray text = K::UpdatePPDOptions;
     for (const auto &[name, value] : completeSet(save))
@@ -249,15 +247,14 @@ TEST(UpdateJobConcurrency, SimultaneousSavesLeaveOneCompleteSettingsSet) {
     ASSERT_TRUE(cups.addQueue(queue));
     std::vector<int> jobIds(saves);
     std::latch start(saves);
-    std::vector<std::thread> senders;
+    std::vector<std::jthread> senders;
     for (int save = 0; save < saves; ++save)
         senders.emplace_back([&, save] {
             const QByteArray options = jobOptions(save);
             start.arrive_and_wait();
             jobIds[save] = cups.printJob(queue, options);
         });
-    for (std::thread &sender : senders)
-        sender.join();
+    senders.clear(); // joins
     for (int jobId : jobIds)
         EXPECT_EQ(cups.waitForJob(jobId), IPP_JSTATE_COMPLETED) << jobId;
 

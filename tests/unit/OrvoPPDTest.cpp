@@ -11,8 +11,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cups/ppd.h>
-
 #include <memory>
 #include <set>
 #include <span>
@@ -23,13 +21,11 @@ using Lines = std::vector<std::string>;
 using OpenedPPD =
     std::unique_ptr<ppd_file_t, decltype([](ppd_file_t *ppd) { OrvoPPD::ppdClose(ppd); })>;
 
-// A file in a directory that lives as long as the object.
 struct TempPPD {
     explicit TempPPD(const QByteArray &content) {
         QFile file(QString::fromUtf8(path));
         EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
     }
-    const char *filePath() const { return path.constData(); }
 
     QTemporaryDir dir;
     QByteArray path = dir.filePath("test.ppd").toUtf8();
@@ -164,20 +160,19 @@ std::string verdictOf(const char *path) {
            digest.result().toHex().left(12).toStdString();
 }
 
-// A stop runs in a child process, which must end on the abort after its log
-// line; death tests see standard error only.
+// Death tests see standard error only; the reader's log line goes there.
+void openLoggingToStandardError(const char *path) {
+    OVSystemLog::setSink(
+        [](int, const QString &line) { fprintf(stderr, "%s\n", line.toUtf8().constData()); });
+    OrvoPPD::ppdOpenFile(path);
+}
+
+// A stop runs in a child process, which must end on the abort after its log line.
 void expectVerdict(const char *path, const std::string &verdict) {
     GTEST_FLAG_SET(death_test_style, "threadsafe");
     if (verdict.starts_with("stops: "))
-        EXPECT_EXIT(
-            {
-                OVSystemLog::setSink([](int, const QString &line) {
-                    fprintf(stderr, "%s\n", line.toUtf8().constData());
-                });
-                OrvoPPD::ppdOpenFile(path);
-            },
-            ::testing::KilledBySignal(SIGABRT),
-            "\\[Driver\\] PPD field overflow: " + verdict.substr(7));
+        EXPECT_EXIT(openLoggingToStandardError(path), ::testing::KilledBySignal(SIGABRT),
+                    "\\[Driver\\] PPD field overflow: " + verdict.substr(7));
     else
         EXPECT_EQ(verdictOf(path), verdict.substr(0, verdict.find(':')));
 }
@@ -205,7 +200,7 @@ TEST(OrvoPPDQueries, FindAndMark) {
                 "*PageSize A4/A4: \"a\"\n*PageSize Letter/Letter: \"l\"\n*CloseUI: *PageSize\n"
                 "*OpenUI *Duplex/Duplex: PickOne\n*DefaultDuplex: Simplex\n"
                 "*Duplex None/Off: \"n\"\n*CloseUI: *Duplex\n")
-            .filePath()));
+            .path.constData()));
     ASSERT_TRUE(ppd);
     ppd_option_t *pageSize = OrvoPPD::ppdFindOption(ppd.get(), "PageSize");
     ASSERT_TRUE(pageSize);
@@ -248,9 +243,10 @@ TEST(OrvoPPDOpen, ReadsTheListedCases) {
         const TempPPD file(content);
         const Platform platform("10.14", {language});
         if (!expected.empty() && expected[0].starts_with("stops: ")) {
-            expectVerdict(file.filePath(), expected[0]);
-        } else if (const OpenedPPD ppd(OrvoPPD::ppdOpenFile(file.filePath())); ppd) {
-            EXPECT_EQ(language.isEmpty() ? 0 : OrvoPPD::ppdLocalize(ppd.get(), file.filePath()), 0);
+            expectVerdict(file.path.constData(), expected[0]);
+        } else if (const OpenedPPD ppd(OrvoPPD::ppdOpenFile(file.path.constData())); ppd) {
+            EXPECT_EQ(
+                language.isEmpty() ? 0 : OrvoPPD::ppdLocalize(ppd.get(), file.path.constData()), 0);
             Lines lines = describe(ppd.get());
             for (std::string &line : lines) // as read from the file: a cut character is U+FFFD
                 line = QString::fromStdString(line).toStdString();
@@ -324,10 +320,11 @@ TEST(OrvoPPDCorpus, EveryFileReadsAsListed) {
     }
 }
 
+// A missing file is logged as well.
 TEST(OrvoPPDBadInput, GivesNullAStopOrAStructure) {
     const QByteArray small =
         readAll(ORVO_PPD_CORPUS "/fs__usr_share_ppd_hplip_HP_HP-Fax3-hpcups.ppd");
-    const std::string read = verdictOf(TempPPD(small).filePath());
+    const std::string read = verdictOf(TempPPD(small).path.constData());
     const std::tuple<const char *, QByteArray, std::string> inputs[] = {
         {"empty", "", "null"},
         {"binary", readAll(QCoreApplication::applicationFilePath()), "null"},
@@ -343,11 +340,8 @@ TEST(OrvoPPDBadInput, GivesNullAStopOrAStructure) {
          read}};
     for (const auto &[name, content, verdict] : inputs) {
         SCOPED_TRACE(name);
-        expectVerdict(TempPPD(content).filePath(), verdict);
+        expectVerdict(TempPPD(content).path.constData(), verdict);
     }
-}
-
-TEST(OrvoPPDBadInput, MissingFileIsNullAndLogged) {
     QStringList lines;
     OVSystemLog::setSink([&](int, const QString &line) { lines << line; });
     EXPECT_EQ(OrvoPPD::ppdOpenFile("/nonexistent/x.ppd"), nullptr);
