@@ -201,8 +201,7 @@ TEST(OrvoPPDQueries, FindAndMark) {
                 "*OpenUI *Duplex/Duplex: PickOne\n*DefaultDuplex: Simplex\n"
                 "*Duplex None/Off: \"n\"\n*CloseUI: *Duplex\n")
             .path.constData()));
-    ASSERT_TRUE(ppd);
-    ppd_option_t *pageSize = OrvoPPD::ppdFindOption(ppd.get(), "PageSize");
+    ppd_option_t *pageSize = ppd ? OrvoPPD::ppdFindOption(ppd.get(), "PageSize") : nullptr;
     ASSERT_TRUE(pageSize);
     EXPECT_EQ(OrvoPPD::ppdFindAttr(ppd.get(), "DefaultPageSize", ""), ppd->attrs[0]);
     EXPECT_EQ(OrvoPPD::ppdFindAttr(ppd.get(), "DefaultPageSize", "A4"), nullptr);

@@ -105,11 +105,9 @@ TEST(OrvoSNMPHelper, ArraysSkipEmptyEntriesAndStopAtTheirLimit) {
         attributes += parts(QByteArray("SharedBoxName") + index, {QByteArray(index).toBase64()});
     attributes += parts("ColorProfileName29", {QByteArray("30th").toBase64()});
     attributes += parts("ColorProfileName30", {QByteArray("31st").toBase64()});
-    attributes += {{"SelSharedBoxIndex0", "12abc"},
-                   {"SelSharedBoxIndex1", "abc"},
-                   {"SelSharedBoxIndex2", ""},
-                   {"SelSharedBoxIndex3", "99999999999"},
-                   {"SelSharedBoxIndex100", "5"}};
+    for (int i = 0; const char *value : {"12abc", "abc", "", "99999999999"})
+        attributes.append({"SelSharedBoxIndex" + QByteArray::number(i++), value});
+    attributes += {{"SelSharedBoxIndex100", "5"}};
     const OpenedPPD ppd = settingsPPD(attributes);
     EXPECT_EQ(OrvoSNMPHelper::getSharedBoxDetailsArray(ppd.get()), QStringList({"1", "99"}));
     EXPECT_EQ(OrvoSNMPHelper::getColorProfileDetailsArray(ppd.get()), QStringList({"30th"}));
