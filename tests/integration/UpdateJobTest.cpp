@@ -65,13 +65,10 @@ Settings settingsIn(const QByteArray &ppd) {
 // the same queue does.
 TEST(SaveRoundTrip, EverySaveReadsBackAsStored) {
     constexpr char queue[] = "OrvoRoundTrip";
-    ASSERT_TRUE(CupsServerEnvironment::server().addQueue(queue));
+    CupsServer &cups = CupsServerEnvironment::server();
+    ASSERT_TRUE(cups.addQueue(queue));
     const auto readBack = [&](const auto &expect) {
         EXPECT_EQ(OVStoredSettings::withQueuePPD(queue, expect), OVStoredSettings::Status::Loaded);
-    };
-    const auto save = [&](const OVSettingsSnapshot &snapshot) {
-        const int job = OVUpdateJob::saveOptionsToPPD(snapshot, queue);
-        EXPECT_EQ(CupsServerEnvironment::server().waitForJob(job), IPP_JSTATE_COMPLETED);
     };
     readBack([](ppd_file_t *ppd) { // never written: the defaults
         EXPECT_EQ(H::snmpCommunityName(ppd), "cobalt");
@@ -91,7 +88,7 @@ TEST(SaveRoundTrip, EverySaveReadsBackAsStored) {
     s.formNames = {"A4 invoice", "Label"};
     for (int i = 0; i < 31; ++i)
         s.colorProfileNames << QString("Profile %1").arg(i);
-    save(s);
+    EXPECT_EQ(cups.waitForJob(OVUpdateJob::saveOptionsToPPD(s, queue)), IPP_JSTATE_COMPLETED);
     readBack([&](ppd_file_t *ppd) {
         EXPECT_EQ(H::snmpCommunityName(ppd), "public");
         EXPECT_EQ(H::getPrinterMacAddress(ppd), "0a:1b:2c:3d:4e:5f");
@@ -106,7 +103,7 @@ TEST(SaveRoundTrip, EverySaveReadsBackAsStored) {
     s.snmpCommunityCheck = s.wakeOnLANCheck = false;
     s.snmpCommunityText = "ignored";
     s.formNames = {"Label"};
-    save(s);
+    EXPECT_EQ(cups.waitForJob(OVUpdateJob::saveOptionsToPPD(s, queue)), IPP_JSTATE_COMPLETED);
     readBack([](ppd_file_t *ppd) {
         EXPECT_FALSE(H::isCustomSnmpCommunity(ppd));
         EXPECT_EQ(H::snmpCommunityName(ppd), "public");
