@@ -1,6 +1,7 @@
 #include "OVLaunchEvent.h"
 #include "OVPrinterUtilityHelper.h"
 #include "OVStoredSettings.h"
+#include "OVSystemLog.h"
 #include "OVWindowTexts.h"
 #include "OrvoPPDTestSupport.h"
 
@@ -8,31 +9,25 @@
 
 #include <gtest/gtest.h>
 
-using OrvoPPDTestSupport::Platform;
-
 namespace {
 
+// Without a folder of the full or short name, the first preferred language
+// some folder serves answers, else English; an unknown key is its own text.
 TEST(Localization, SystemLanguageAndFolderFollowTheSystemVersion) {
-    const std::tuple<const char *, const char *, const char *> languages[] = {
-        {"10.13", "en", ""}, // deliberately empty, not the language itself
-        {"10.12.6", "zh-Hans-CN", "zh-Hans"},
-        {"10.11", "en-US", "en-US"},
-        {nullptr, "ja-JP", "ja-JP"}};
-    for (const auto &[productVersion, language, expected] : languages) {
-        const Platform platform(productVersion, {language});
-        EXPECT_EQ(OVPrinterUtilityHelper::getSystemLanguage(false), expected);
-    }
-    // Without a folder of the full or short name, the first preferred language
-    // some folder serves answers, else English; an unknown key is its own text.
-    const std::tuple<const char *, QStringList, const char *, const char *> lookups[] = {
-        {nullptr, {"ja-JP"}, "Close", "閉じる"},
-        {nullptr, {"ko-KR", "fr-FR"}, "Close", "Fermer"},
-        {nullptr, {"ko-KR"}, "Close", "Close"},
-        {"10.13", {"zh-Hans-CN"}, "Close", "关闭"},
-        {nullptr, {"zh-TW"}, "No such key", "No such key"}};
-    for (const auto &[productVersion, preferred, key, expected] : lookups) {
+    const std::tuple<const char *, QStringList, const char *, const char *> cases[] = {
+        {"10.13", {"en"}, "", "Close"}, // deliberately empty, not the language itself
+        {"10.12.6", {"zh-Hans-CN"}, "zh-Hans", "关闭"},
+        {"10.11", {"en-US"}, "en-US", "Close"},
+        {nullptr, {"ja-JP"}, "ja-JP", "閉じる"},
+        {nullptr, {"ko-KR", "fr-FR"}, "ko-KR", "Fermer"},
+        {nullptr, {"ko-KR"}, "ko-KR", "Close"},
+        {"10.13", {"zh-Hans-CN"}, "zh-Hans", "关闭"},
+        {nullptr, {"zh-TW"}, "zh-TW", "關閉"}};
+    for (const auto &[productVersion, preferred, language, close] : cases) {
         const Platform platform(productVersion, preferred);
-        EXPECT_EQ(OVPrinterUtilityHelper::getLocalizedStringFor(key), QString::fromUtf8(expected));
+        EXPECT_EQ(OVPrinterUtilityHelper::getSystemLanguage(false), language);
+        EXPECT_EQ(OVPrinterUtilityHelper::getLocalizedStringFor("Close"), QString::fromUtf8(close));
+        EXPECT_EQ(OVPrinterUtilityHelper::getLocalizedStringFor("No such key"), "No such key");
     }
 }
 

@@ -1,0 +1,267 @@
+#include "CupsServerEnvironment.h"
+#include "OVStoredSettings.h"
+#include "OVUpdateJob.h"
+#include "OrvoSNMPHelper.h"
+#include "OrvoSettingsKeywords.h"
+
+#include <QRegularExpression>
+
+#include <gtest/gtest.h>
+
+#include <latch>
+#include <map>
+#include <thread>
+#include <vector>
+
+namespace {
+
+namespace K = OrvoSettingsKeywords;
+using H = OrvoSNMPHelper;
+using Settings = std::map<QByteArray, QByteArray>;
+
+// Every setting in its index and part forms, each value naming its save.
+Settings completeSet(int save) {
+    Settings values;
+    for (const K::Keyword &keyword : K::all)
+        for (int i = 0; i < qMax(keyword.indexCount, 1); ++i) {
+            const QByteArray name =
+                keyword.name + (keyword.indexCount ? QByteArray::number(i) : QByteArray());
+            const QByteArray tag = (QByteArray::number(save) + ":" + name).toBase64();
+            if (keyword.encoding == K::Encoding::Flag)
+                values[name] = QByteArray::number(save % 2);
+            else if (keyword.encoding == K::Encoding::Decimal)
+                values[name] = QByteArray::number(save * 1000 + i);
+            else if (keyword.encoding == K::Encoding::Base64)
+                values[name] = tag;
+            for (int part = 1; keyword.encoding == K::Encoding::MultiPart && part <= K::partCount;
+                 ++part)
+                values[name + "_Part" + QByteArray::number(part)] = part == 1 ? tag : "";
+        }
+    return values;
+}
+
+QByteArray jobOptions(int save) {
+    QByteArray text = K::UpdatePPDOptions;
+    for (const auto &[name, value] : completeSet(save))
+        text += " " + name + "=" + value;
+    return text;
+}
+
+// The `*Keyword: "value"` lines of a PPD text whose keyword is a setting.
+Settings settingsIn(const QByteArray &ppd) {
+    static const Settings known = completeSet(0);
+    static const QRegularExpression line(QStringLiteral("^\\*(\\w+): \"([^\"]*)\"$"),
+                                         QRegularExpression::MultilineOption);
+    Settings found;
+    for (const QRegularExpressionMatch &match : line.globalMatch(QString::fromLatin1(ppd)))
+        if (known.contains(match.captured(1).toLatin1()))
+            found[match.captured(1).toLatin1()] = match.captured(2).toLatin1();
+    return found;
+}
+
+// Saves made through the utility's own update job travel through the real
+// server and the driver filter into the queue's PPD, and read back as the
+// window reads them. Each save starts from the one before, as a user editing
+// the same queue does.
+TEST(SaveRoundTrip, EverySaveReadsBackAsStored) {
+    constexpr char queue[] = "OrvoRoundTrip";
+    CupsServer &cups = CupsServerEnvironment::server();
+    ASSERT_TRUE(cups.addQueue(queue));
+    const auto readBack = [&](const auto &expect) {
+        EXPECT_EQ(OVStoredSettings::withQueuePPD(queue, expect), OVStoredSettings::Status::Loaded);
+    };
+    readBack([](ppd_file_t *ppd) { // never written: the defaults
+        EXPECT_EQ(H::snmpCommunityName(ppd), "cobalt");
+        EXPECT_TRUE(H::isWakeOnLan(ppd));
+        EXPECT_TRUE(H::isAdminLoginModeEnabled(ppd));
+        EXPECT_TRUE(H::getSharedBoxDetailsArray(ppd).isEmpty());
+    });
+
+    const QString longName(1500, 'n'); // base64 of 2000 characters: only 1200 are kept
+    OVSettingsSnapshot s;
+    s.snmpCommunityCheck = s.overstepTheRouter = true;
+    s.snmpCommunityText = "public";
+    s.macAddressFields = {"0a", "1b", "2c", "3d", "4e", "5f"};
+    s.printerIPAddressText = "fd00::7";
+    s.allSharedBoxNames = {"営業部", "Design 🎨", longName};
+    s.selectedSharedBoxIndex = {1};
+    s.formNames = {"A4 invoice", "Label"};
+    for (int i = 0; i < 31; ++i)
+        s.colorProfileNames << QString("Profile %1").arg(i);
+    EXPECT_EQ(cups.waitForJob(OVUpdateJob::saveOptionsToPPD(s, queue)), IPP_JSTATE_COMPLETED);
+    readBack([&](ppd_file_t *ppd) {
+        EXPECT_EQ(H::snmpCommunityName(ppd), "public");
+        EXPECT_EQ(H::getPrinterMacAddress(ppd), "0a:1b:2c:3d:4e:5f");
+        EXPECT_TRUE(H::isOverTheRouter(ppd));
+        EXPECT_EQ(H::getPrinterIPAddress(ppd), "fd00::7");
+        EXPECT_EQ(H::getSharedBoxDetailsArray(ppd),
+                  (QStringList{"営業部", "Design 🎨", longName.left(900)}));
+        EXPECT_EQ(H::getSelectedSharedBoxIndexArray(ppd), QList<qint32>{1});
+        EXPECT_EQ(H::getColorProfileDetailsArray(ppd).size(), 30);
+    });
+
+    s.snmpCommunityCheck = s.wakeOnLANCheck = false;
+    s.snmpCommunityText = "ignored";
+    s.formNames = {"Label"};
+    EXPECT_EQ(cups.waitForJob(OVUpdateJob::saveOptionsToPPD(s, queue)), IPP_JSTATE_COMPLETED);
+    readBack([](ppd_file_t *ppd) {
+        EXPECT_FALSE(H::isCustomSnmpCommunity(ppd));
+        EXPECT_EQ(H::snmpCommunityName(ppd), "public");
+        EXPECT_FALSE(H::isWakeOnLan(ppd));
+        EXPECT_EQ(H::getPrinterMacAddress(ppd), "");
+        EXPECT_EQ(H::getFormDetailsArray(ppd), QStringList{"Label"});
+    });
+}
+
+// cupsd hands all of a job's options to the filter as one argument, and Linux
+// refuses to start a program with an argument of 128 KiB or more (its
+// terminating zero included).
+constexpr qsizetype limit = OVUpdateJob::maxFilterArgumentBytes;
+
+// The length of the options text cupsd handed to the job's filter, as it logs it.
+qsizetype handedOver(int job) {
+    const QString log = QString::fromLatin1(CupsServerEnvironment::server().errorLog());
+    return QRegularExpression(QString("\\[Job %1\\] Job options text is (\\d+) bytes").arg(job))
+        .match(log)
+        .captured(1)
+        .toLongLong();
+}
+
+// The size estimate must never let through a save that cannot arrive, and
+// must not refuse much that would: the largest save it accepts arrives whole.
+// Whatever the estimate, an options text just below the limit arrives whole;
+// one at the limit stops the job and leaves the PPD as it was.
+TEST(UpdateJobSizeLimit, LargestSavesArriveOneByteMoreKeepsThePPD) {
+    constexpr char queue[] = "OrvoSizeLimit";
+    CupsServer &cups = CupsServerEnvironment::server();
+    ASSERT_TRUE(cups.addQueue(queue));
+    OVSettingsSnapshot snapshot;
+    while (OVUpdateJob::reachesFilter(snapshot))
+        snapshot.formNames << QString(900, 'f');
+    snapshot.formNames.removeLast();
+    const int job = OVUpdateJob::saveOptionsToPPD(snapshot, queue);
+    EXPECT_EQ(cups.waitForJob(job), IPP_JSTATE_COMPLETED);
+    EXPECT_GT(handedOver(job), limit - OVUpdateJob::cupsdArgumentMargin - 1300);
+    const auto stored = [&](ppd_file_t *ppd) {
+        EXPECT_EQ(H::getFormDetailsArray(ppd), snapshot.formNames);
+    };
+    EXPECT_EQ(OVStoredSettings::withQueuePPD(queue, stored), OVStoredSettings::Status::Loaded);
+
+    const int probe = cups.printJob(queue, "UpdatePPDOptions");
+    EXPECT_EQ(cups.waitForJob(probe), IPP_JSTATE_COMPLETED);
+    const qsizetype added = handedOver(probe) - qsizetype(sizeof "UpdatePPDOptions" - 1);
+    // A complete save padded with options the filter refuses, so that cupsd
+    // hands over exactly `length` bytes; the last two pads share the rest.
+    const auto submit = [&](int save, qsizetype length) {
+        QByteArray options = jobOptions(save);
+        while (const qsizetype missing = length - added - options.size()) {
+            const QByteArray name = " Padding" + QByteArray::number(options.size()) + "=";
+            const qsizetype value = missing > 400   ? 200
+                                    : missing > 200 ? missing / 2 - name.size()
+                                                    : missing - name.size();
+            options += name + QByteArray(value, 'x');
+        }
+        return cups.printJob(queue, options);
+    };
+    const int longest = submit(1, limit - 1);
+    EXPECT_EQ(cups.waitForJob(longest), IPP_JSTATE_COMPLETED);
+    EXPECT_EQ(handedOver(longest), limit - 1);
+    const QByteArray ppd = cups.queuePpd(queue);
+    EXPECT_EQ(settingsIn(ppd), completeSet(1));
+
+    const int tooLong = submit(2, limit);
+    EXPECT_EQ(cups.waitForJob(tooLong), IPP_JSTATE_STOPPED);
+    EXPECT_TRUE(cups.errorLog().contains("Argument list too long"));
+    EXPECT_EQ(cups.queuePpd(queue), ppd);
+    cupsCancelJob2(CUPS_HTTP_DEFAULT, queue, tooLong, 0);
+}
+
+// Update jobs are sent by anyone who may print, so whatever a job carries, the
+// queue's PPD must keep its own lines and gain nothing but well-formed settings.
+struct HostileJob {
+    const char *what;
+    QByteArray options; // as lp -o takes them
+    bool updateJob = true;
+};
+
+TEST(UpdateJobSecurity, OnlyWellFormedSettingsReachThePPD) {
+    constexpr char queue[] = "OrvoSecurity";
+    CupsServer &cups = CupsServerEnvironment::server();
+    ASSERT_TRUE(cups.addQueue(queue));
+    QByteArray tenThousandOptions;
+    for (int i = 0; i < 10000; ++i)
+        tenThousandOptions += " J" + QByteArray::number(i) + "=1";
+    // cupsd hands line ends in values to the filter unescaped, where they may
+    // split one value into several options.
+    const HostileJob jobs[] = {
+        {"ForeignKeywords", "cupsFilter2='text/plain 0 /bin/sh' *cupsFilter2=x OpenUI=*Evil "
+                            "isWakeOnLan=1 IsWakeOnLanX=1 SharedBoxName=QUJD Forged\"Name=1"},
+        {"IndicesOutOfRange", "SharedBoxName100_Part1=QUJD ColorProfileName30_Part1=QUJD "
+                              "SelSharedBoxIndex-1=1 SelSharedBoxIndex01=1 PSFormName9_Part7=QUJD"},
+        {"QuotesLineEndsBackslashes", "SnmpCommunityName='QUJD\"\n*cupsFilter2: \"text/plain 0 "
+                                      "/bin/sh' PrinterIPAddress=QU\\\\JD "
+                                      "PSFormName0_Part1='\"QUJD\"' PSFormName1_Part1='QUJD QUJD' "
+                                      "PrinterMacAddress='QUJD\ncupsFilter2=x\r\nIsWakeOnLan=yes'"},
+        {"WrongShapes", "IsOverTheRouter=yes SelSharedBoxIndex5=12abc PSFormName0_Part1=QUJ "
+                        "SnmpCommunityName=Y29i!WF0 PSFormName2_Part1=" +
+                            QByteArray(204, 'Q') + " PrinterIPAddress=" + QByteArray(240, 'Q')},
+        {"TenThousandOptions", tenThousandOptions},
+        {"NotAnUpdateJob", "IsWakeOnLan=0", false},
+    };
+    // Each job also carries a well-formed setting of its own, which arrives
+    // with every update job.
+    static const QRegularExpression markerLine(QStringLiteral("^\\*PSFormName7_Part1: .*\n"),
+                                               QRegularExpression::MultilineOption);
+    const auto others = [](const QByteArray &ppd) {
+        return QString::fromLatin1(ppd).remove(markerLine).toStdString();
+    };
+    for (const auto &[what, options, updateJob] : jobs) {
+        SCOPED_TRACE(what);
+        const QByteArray marker = QByteArray(what).toBase64();
+        const QByteArray before = cups.queuePpd(queue);
+        const int job = cups.printJob(queue, (updateJob ? "UpdatePPDOptions " : "") +
+                                                 ("PSFormName7_Part1=" + marker + " ") + options);
+        ASSERT_GT(job, 0) << cupsLastErrorString();
+        EXPECT_EQ(cups.waitForJob(job), IPP_JSTATE_COMPLETED);
+        const QByteArray after = cups.queuePpd(queue);
+        EXPECT_EQ(others(after), others(before));
+        EXPECT_EQ(after.contains("\n*PSFormName7_Part1: \"" + marker + "\"\n"), updateJob);
+    }
+    // The filter's log names refused options, but no name may close the quotes
+    // around it, and ten thousand refusals are counted, not listed.
+    const QByteArray log = cups.errorLog();
+    EXPECT_TRUE(log.contains("Forged?Name"));
+    EXPECT_TRUE(log.contains("more refused options are not listed"));
+    EXPECT_LT(log.count("option \\\"J"), 100); // cupsd logs a quote as \"
+}
+
+// Saves from several windows at once queue up as separate jobs; the PPD must
+// end up holding one save's settings whole, never a mix of two.
+TEST(UpdateJobConcurrency, SimultaneousSavesLeaveOneCompleteSettingsSet) {
+    constexpr char queue[] = "OrvoConcurrency";
+    constexpr int saves = 20;
+    CupsServer &cups = CupsServerEnvironment::server();
+    ASSERT_TRUE(cups.addQueue(queue));
+    std::vector<int> jobIds(saves);
+    std::latch start(saves);
+    std::vector<std::jthread> senders;
+    for (int save = 0; save < saves; ++save)
+        senders.emplace_back([&, save] {
+            const QByteArray options = jobOptions(save);
+            start.arrive_and_wait();
+            jobIds[save] = cups.printJob(queue, options);
+        });
+    senders.clear(); // joins
+    for (int jobId : jobIds)
+        EXPECT_EQ(cups.waitForJob(jobId), IPP_JSTATE_COMPLETED) << jobId;
+
+    EXPECT_EQ(OVStoredSettings::withQueuePPD(queue, [](ppd_file_t *) {}),
+              OVStoredSettings::Status::Loaded);
+    const Settings found = settingsIn(cups.queuePpd(queue));
+    int whole = 0;
+    for (int save = 0; save < saves; ++save)
+        whole += found == completeSet(save);
+    EXPECT_EQ(whole, 1);
+}
+
+} // namespace
