@@ -6,10 +6,8 @@
 #include <gtest/gtest.h>
 
 #include <arpa/inet.h>
-#include <sys/socket.h>
 #include <unistd.h>
 
-#include <memory>
 #include <thread>
 
 namespace {
@@ -34,9 +32,10 @@ std::string ask(Query query, const char *ip) {
         const int status = H::getSleepMode(ip, kCommunity, mode);
         return "status " + std::to_string(status) + " mode " + std::to_string(mode);
     }
-    const QString mac = query == Mac ? H::getMacAddress(ip, kCommunity) : QString();
-    if (query == Mac)
+    if (query == Mac) {
+        const QString mac = H::getMacAddress(ip, kCommunity);
         return mac.isNull() ? "null" : mac.toStdString();
+    }
     if (query == AdminMode)
         return H::snmpGetAdminLoginModeEnabled(ip, kCommunity) ? "on" : "off";
     const auto names = H::getValidatedFormNameArrayForIPAddress(ip, kCommunity);
@@ -49,25 +48,12 @@ std::string ask(Query query, const char *ip) {
                  : "failed";
 }
 
-class SnmpQueriesTest : public ::testing::Test {
-protected:
-    static void SetUpTestSuite() {
-        printer = std::make_unique<P>();
-        started = printer->start();
-    }
-    static void TearDownTestSuite() { printer.reset(); }
-    void SetUp() override {
-        ASSERT_TRUE(started) << printer->errorText().toStdString();
-        printer->setDefaults();
-    }
-
-    static inline std::unique_ptr<P> printer;
-    static inline bool started = false;
+TEST(SnmpQueries, AnswersOfHealthyFaultyAndSlowPrinters) {
+    P printer;
+    ASSERT_TRUE(printer.start()) << printer.errorText().toStdString();
+    printer.setDefaults();
     const QByteArray address = P::loopbackAddress().toLatin1();
     const char *ip = address.constData();
-};
-
-TEST_F(SnmpQueriesTest, PlainAnswers) {
     EXPECT_EQ(H::getValidatedFormNameArrayForIPAddress(ip, kCommunity), numbered("Form", 100, 2));
     EXPECT_EQ(H::getValidatedBarcodeAreaNameArrayForIPAddress(ip, kCommunity),
               numbered("Barcode", 100, 2));
@@ -80,9 +66,7 @@ TEST_F(SnmpQueriesTest, PlainAnswers) {
     EXPECT_EQ(ask(SleepMode, ip), "status 0 mode 1");
     // An empty address would be Net-SNMP's localhost: no session opens.
     EXPECT_EQ(ask(SleepMode, ""), "status 1 mode -1");
-}
 
-TEST_F(SnmpQueriesTest, FaultyPrintersGivePlainResults) {
     const QByteArray form1 = P::nameOid(Table::Form, 1);
     const struct {
         const char *label;
@@ -110,48 +94,41 @@ TEST_F(SnmpQueriesTest, FaultyPrintersGivePlainResults) {
     };
     for (const auto &c : cases) {
         SCOPED_TRACE(c.label);
-        printer->setDefaults();
-        printer->set(c.oid, c.value);
-        const int before = printer->requestCount();
+        printer.setDefaults();
+        printer.set(c.oid, c.value);
+        const int before = printer.requestCount();
         EXPECT_EQ(ask(c.query, ip), c.expected);
-        EXPECT_EQ(c.requests < 0 ? -1 : printer->requestCount() - before, c.requests);
+        EXPECT_EQ(c.requests < 0 ? -1 : printer.requestCount() - before, c.requests);
     }
-}
 
-// A printer with 100 shared boxes: an answer 1.5 s late is waited for by the
-// 10 s timeout of the hundred-box query and asked again by the 1 s one of the
-// thirty-box query.
-TEST_F(SnmpQueriesTest, SlowPrinterIsAskedAgainOnlyAfterTheSessionTimeout) {
-    printer->setTable(Table::SharedBox, QList<P::Entry>(100, {1, "Box"}));
+    // With 100 shared boxes, an answer 1.5 s late is waited for by the 10 s
+    // timeout of the hundred-box query and asked again by the 1 s one of the
+    // thirty-box query.
+    printer.setDefaults();
+    printer.setTable(Table::SharedBox, QList<P::Entry>(100, {1, "Box"}));
     ASSERT_EQ(H::snmpGetSharedBoxEntryForIPAddress(ip, kCommunity), 100);
-    printer->setResponseDelayMs(1500);
+    printer.setResponseDelayMs(1500);
     for (int boxes : {100, 30}) {
-        const int before = printer->requestCount();
+        const int before = printer.requestCount();
         H::snmpGetSharedBoxStateForIPAddress(ip, kCommunity, boxes);
-        const int requests = printer->requestCount() - before;
+        const int requests = printer.requestCount() - before;
         EXPECT_TRUE(boxes == 100 ? requests == 1 : requests > 1) << boxes << ": " << requests;
     }
 }
 
-struct Tlv {
-    qsizetype content, end;
-};
-
-// The BER element at pos of a request Net-SNMP built (definite lengths).
-Tlv tlv(const QByteArray &r, qsizetype pos) {
-    qsizetype length = quint8(r[pos + 1]), content = pos + 2;
-    if (length > 0x80) {
-        const qsizetype end = content + (length & 0x7F);
-        for (length = 0; content < end; ++content)
-            length = length << 8 | quint8(r[content]);
+// The elements inside a constructed BER element of a request Net-SNMP built
+// (definite lengths only).
+QList<QByteArray> parts(const QByteArray &element) {
+    QList<QByteArray> list;
+    for (qsizetype at = element[1] & 0x80 ? 2 + (element[1] & 0x7F) : 2; at < element.size();) {
+        qsizetype head = 2, length = quint8(element[at + 1]);
+        if (length > 0x80)
+            for (length = 0; head < 2 + (quint8(element[at + 1]) & 0x7F); ++head)
+                length = length << 8 | quint8(element[at + head]);
+        list.append(element.mid(at, head + length));
+        at += head + length;
     }
-    return {content, content + length};
-}
-
-qsizetype skip(const QByteArray &r, qsizetype pos, int elements) {
-    while (elements-- > 0)
-        pos = tlv(r, pos).end;
-    return pos;
+    return list;
 }
 
 QByteArray wrap(char tag, const QByteArray &content) {
@@ -162,17 +139,13 @@ QByteArray wrap(char tag, const QByteArray &content) {
 
 // The answer to a v1 GET with only its first `kept` variables, each INTEGER 1,
 // which snmpd never sends: it always mirrors the variables asked.
-QByteArray truncatedResponse(const QByteArray &r, int kept) {
-    const qsizetype header = tlv(r, 0).content, pduAt = skip(r, header, 2);
-    const qsizetype fields = tlv(r, pduAt).content, listAt = skip(r, fields, 3);
+QByteArray truncatedResponse(const QByteArray &request, int kept) {
+    const QList<QByteArray> message = parts(request), pdu = parts(message[2]);
     QByteArray bindings;
-    for (qsizetype at = tlv(r, listAt).content; at < tlv(r, listAt).end && kept-- > 0;
-         at = tlv(r, at).end) {
-        const qsizetype name = tlv(r, at).content;
-        bindings += wrap(0x30, r.mid(name, skip(r, name, 1) - name) + QByteArray("\x02\x01\x01"));
-    }
-    return wrap(0x30, r.mid(header, pduAt - header) +
-                          wrap(char(0xA2), r.mid(fields, listAt - fields) + wrap(0x30, bindings)));
+    for (const QByteArray &binding : parts(pdu[3]).mid(0, kept))
+        bindings += wrap(0x30, parts(binding)[0] + QByteArray("\x02\x01\x01"));
+    return wrap(0x30, message[0] + message[1] +
+                          wrap(char(0xA2), pdu[0] + pdu[1] + pdu[2] + wrap(0x30, bindings)));
 }
 
 // Each query here sends one request, answered by a thread of the test.
