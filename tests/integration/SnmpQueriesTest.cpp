@@ -14,7 +14,6 @@ namespace {
 
 using H = OVSNMPHelper;
 using P = SimulatedPrinter;
-using Table = P::Table;
 constexpr const char *kCommunity = "cobalt";
 
 QStringList numbered(const char *prefix, int count, int step) {
@@ -40,10 +39,9 @@ std::string ask(Query query, const char *ip) {
         return H::snmpGetAdminLoginModeEnabled(ip, kCommunity) ? "on" : "off";
     const auto names = H::getValidatedFormNameArrayForIPAddress(ip, kCommunity);
     // After a failed query each list holds all its entries or none.
-    for (const QStringList *array : {&H::formStateArray(), &H::formNameArray()}) {
+    for (const QStringList *array : {&H::formStateArray(), &H::formNameArray()})
         if (!names && !array->isEmpty() && array->size() != 100)
             return "partial";
-    }
     return names ? names->value(0).toStdString() + " +" + std::to_string(names->size() - 1)
                  : "failed";
 }
@@ -67,7 +65,7 @@ TEST(SnmpQueries, AnswersOfHealthyFaultyAndSlowPrinters) {
     // An empty address would be Net-SNMP's localhost: no session opens.
     EXPECT_EQ(ask(SleepMode, ""), "status 1 mode -1");
 
-    const QByteArray form1 = P::nameOid(Table::Form, 1);
+    const QByteArray form1 = P::nameOid(P::Table::Form, 1);
     const struct {
         const char *label;
         QByteArray oid;
@@ -81,8 +79,8 @@ TEST(SnmpQueries, AnswersOfHealthyFaultyAndSlowPrinters) {
         {"longestName", form1, QByteArray(4095, 'n'), Forms, std::string(4095, 'n') + " +49"},
         {"tooLongName", form1, QByteArray(4096, 'n'), Forms, "failed"},
         {"notUtf8", form1, QByteArray("\xe8\xab"), Forms, "failed"},
-        {"missingName", P::nameOid(Table::Form, 50), {}, Forms, "failed"},
-        {"nameIsInteger", P::nameOid(Table::Form, 3), 7L, Forms, "failed"},
+        {"missingName", P::nameOid(P::Table::Form, 50), {}, Forms, "failed"},
+        {"nameIsInteger", P::nameOid(P::Table::Form, 3), 7L, Forms, "failed"},
         {"adminLoginText", P::kAdminLoginMode, QByteArray("1"), AdminMode, "off"},
         {"macOverlong", P::kMacAddress, QByteArray(60000, 'm'), Mac, "null"},
         {"sleepModeIsText", P::kSleepMode, QByteArray("1"), SleepMode, "status 0 mode -1"},
@@ -105,7 +103,10 @@ TEST(SnmpQueries, AnswersOfHealthyFaultyAndSlowPrinters) {
     // timeout of the hundred-box query and asked again by the 1 s one of the
     // thirty-box query.
     printer.setDefaults();
-    printer.setTable(Table::SharedBox, QList<P::Entry>(100, {1, "Box"}));
+    for (int index = 1; index <= 100; ++index) {
+        printer.set(P::stateOid(P::Table::SharedBox, index), 1L);
+        printer.set(P::nameOid(P::Table::SharedBox, index), QByteArray("Box"));
+    }
     ASSERT_EQ(H::snmpGetSharedBoxEntryForIPAddress(ip, kCommunity), 100);
     printer.setResponseDelayMs(1500);
     for (int boxes : {100, 30}) {
