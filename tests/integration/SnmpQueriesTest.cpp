@@ -8,7 +8,7 @@
 #include <arpa/inet.h>
 #include <unistd.h>
 
-#include <thread>
+#include <future>
 
 namespace {
 
@@ -50,8 +50,7 @@ TEST(SnmpQueries, AnswersOfHealthyFaultyAndSlowPrinters) {
     P printer;
     ASSERT_TRUE(printer.start()) << printer.errorText().toStdString();
     printer.setDefaults();
-    const QByteArray address = P::loopbackAddress().toLatin1();
-    const char *ip = address.constData();
+    const QByteArray ip = P::loopbackAddress().toLatin1();
     EXPECT_EQ(H::getValidatedFormNameArrayForIPAddress(ip, kCommunity), numbered("Form", 100, 2));
     EXPECT_EQ(H::getValidatedBarcodeAreaNameArrayForIPAddress(ip, kCommunity),
               numbered("Barcode", 100, 2));
@@ -158,15 +157,11 @@ TEST(SnmpShortAnswers, GivePlainResults) {
     const timeval wait{5, 0};
     setsockopt(fd, SOL_SOCKET, SO_RCVTIMEO, &wait, sizeof wait);
     ASSERT_EQ(bind(fd, reinterpret_cast<sockaddr *>(&at), sizeof at), 0);
-    const struct {
-        int kept;
-        Query query;
-        const char *expected;
-    } cases[] = {{1, SleepMode, "status 0 mode 1"},
-                 {0, SleepMode, "status 0 mode -1"},
-                 {99, Forms, "failed"}};
-    for (const auto &c : cases) {
-        std::thread responder([&] {
+    const std::tuple<int, Query, const char *> cases[] = {{1, SleepMode, "status 0 mode 1"},
+                                                          {0, SleepMode, "status 0 mode -1"},
+                                                          {99, Forms, "failed"}};
+    for (const auto &[kept, query, expected] : cases) {
+        const auto responder = std::async(std::launch::async, [fd, kept = kept] {
             char data[65536];
             sockaddr_in from{};
             socklen_t size = sizeof from;
@@ -174,11 +169,10 @@ TEST(SnmpShortAnswers, GivePlainResults) {
             const ssize_t n = recvfrom(fd, data, sizeof data, 0, peer, &size);
             if (n <= 0)
                 return;
-            const QByteArray answer = truncatedResponse(QByteArray(data, n), c.kept);
+            const QByteArray answer = truncatedResponse(QByteArray(data, n), kept);
             sendto(fd, answer.data(), size_t(answer.size()), 0, peer, size);
         });
-        EXPECT_EQ(ask(c.query, ip.constData()), c.expected) << c.kept;
-        responder.join();
+        EXPECT_EQ(ask(query, ip.constData()), expected) << kept;
     }
     close(fd);
 }

@@ -50,12 +50,8 @@ QByteArray magicPacket(const char *mac) {
 // 200 ms later on.
 class MagicPacketListener {
 public:
-    struct Packet {
-        QString destination; // the address the packet was sent to
-        QByteArray bytes;
-    };
-
-    // The socket is made inside the namespace and stays there; the thread that
+    // One dual-stack socket (IPv4 packets arrive with a v4-mapped
+    // destination), made inside the namespace, where it stays; the thread that
     // reads it need not.
     MagicPacketListener(const QString &netns, const QString &printerDirectory)
         : awakeFile(printerDirectory + "/awake-at") {
@@ -70,17 +66,18 @@ public:
         packets();
         close(socketFd);
     }
-    QString errorText() const { return error; } // empty while listening
-    // Stops listening; what arrived until then.
-    QList<Packet> packets() {
+    // Stops listening; the packets that arrived until then, each with the
+    // address it was sent to.
+    QList<std::pair<QString, QByteArray>> packets() {
         stopping = true;
         if (thread.joinable())
             thread.join();
         return received;
     }
 
+    QString error; // empty while listening
+
 private:
-    // One dual-stack socket: IPv4 packets arrive with a v4-mapped destination.
     void open() {
         const int on = 1, off = 0;
         const timeval tick{0, 20000};
@@ -105,14 +102,10 @@ private:
         const cmsghdr *info = length >= 0 ? CMSG_FIRSTHDR(&message) : nullptr;
         if (!info || info->cmsg_type != IPV6_PKTINFO)
             return;
-        in6_pktinfo to;
-        std::memcpy(&to, CMSG_DATA(info), sizeof to);
-        char text[INET6_ADDRSTRLEN] = {};
-        const bool isV4 = IN6_IS_ADDR_V4MAPPED(&to.ipi6_addr);
-        inet_ntop(isV4 ? AF_INET : AF_INET6, &to.ipi6_addr.s6_addr[isV4 ? 12 : 0], text,
-                  sizeof text);
-        received.append({text, QByteArray(data, length)});
-        if (received.last().bytes != magicPacket(kMac))
+        char to[INET6_ADDRSTRLEN] = {};
+        inet_ntop(AF_INET6, CMSG_DATA(info), to, sizeof to); // in6_pktinfo starts with it
+        received.append({QString(to).remove("::ffff:"), QByteArray(data, length)});
+        if (received.last().second != magicPacket(kMac))
             return;
         QSaveFile file(awakeFile);
         file.open(QIODevice::WriteOnly);
@@ -121,9 +114,8 @@ private:
     }
 
     const QString awakeFile;
-    QString error;
     int socketFd = -1;
-    QList<Packet> received;
+    QList<std::pair<QString, QByteArray>> received;
     std::atomic<bool> stopping{false};
     std::thread thread;
 };
@@ -164,26 +156,25 @@ TEST(WakeOnLan, ReachesAndWakesThePrinter) {
     });
     const struct {
         const char *label, *address, *mac;
-        bool isWakeOnLan, isOverRouter;
         long sleepMode;
-        bool result;
+        bool isWakeOnLan, isOverRouter, result;
         QStringList destinations; // sorted
         int requests = -1;        // GETs the printer receives; -1: not counted
         int sleptSeconds = -1;    // -1: not checked
         const char *logged = "";
     } cases[] = {
-        {"ipv4Broadcast", kV4, kMac, true, false, kAsleep, true, {kBroadcast, kBroadcast}},
-        {"ipv6Group", kV6, kMac, true, false, kAsleep, true, {kAllRouters, kAllRouters}},
-        {"ipv4OverRouter", kV4, kMac, true, true, kAsleep, true, {kV4, kV4}},
-        {"ipv6OverRouter", kV6, kMac, true, true, kAsleep, true, {kV6, kV6}},
-        {"emptyAddress", "", kMac, true, false, kAsleep, false, {kBroadcast, kAllRouters}, 0},
-        {"wakeOnLanOff", kV4, kMac, false, false, kAsleep, true, {}, 0},
+        {"ipv4Broadcast", kV4, kMac, kAsleep, true, false, true, {kBroadcast, kBroadcast}},
+        {"ipv6Group", kV6, kMac, kAsleep, true, false, true, {kAllRouters, kAllRouters}},
+        {"ipv4OverRouter", kV4, kMac, kAsleep, true, true, true, {kV4, kV4}},
+        {"ipv6OverRouter", kV6, kMac, kAsleep, true, true, true, {kV6, kV6}},
+        {"emptyAddress", "", kMac, kAsleep, true, false, false, {kBroadcast, kAllRouters}, 0},
+        {"wakeOnLanOff", kV4, kMac, kAsleep, false, false, true, {}, 0},
         // Going to sleep (2) throughout: 1 + 36 checks 5 s apart, two packets
         // nobody answers (5 s and 10 s after them), 15 polls 1 s apart.
-        {"drowsy", kV4, kOtherMac, true, false, 2, false, {kBroadcast, kBroadcast}, 52, 210},
+        {"drowsy", kV4, kOtherMac, 2, true, false, false, {kBroadcast, kBroadcast}, 52, 210},
         // A link-local address is asked with its zone, but the packet to it
         // cannot be addressed: logged, and the printer sleeps on.
-        {"linkLocal", kLinkLocal, kMac, true, true, kAsleep, false, {}, 16, -1, kNoAddress},
+        {"linkLocal", kLinkLocal, kMac, kAsleep, true, true, false, {}, 16, -1, kNoAddress},
     };
     for (const auto &c : cases) {
         SCOPED_TRACE(c.label);
@@ -193,7 +184,7 @@ TEST(WakeOnLan, ReachesAndWakesThePrinter) {
         sleptSeconds = 0;
         log.clear();
         MagicPacketListener listener(own, printer.directory());
-        ASSERT_EQ(listener.errorText(), "");
+        ASSERT_EQ(listener.error, "");
         const int before = printer.requestCount();
         runIn(client, [&] {
             EXPECT_EQ(OVWakeOnLanHelper::SnmpWakeUpOnLan(c.address, c.mac, "", c.isWakeOnLan,
@@ -202,9 +193,9 @@ TEST(WakeOnLan, ReachesAndWakesThePrinter) {
         });
         QThread::msleep(100); // packets still in flight to the listener
         QStringList destinations;
-        for (const auto &packet : listener.packets()) {
-            EXPECT_EQ(packet.bytes.toHex(), magicPacket(c.mac).toHex());
-            destinations.append(packet.destination);
+        for (const auto &[destination, bytes] : listener.packets()) {
+            EXPECT_EQ(bytes.toHex(), magicPacket(c.mac).toHex());
+            destinations.append(destination);
         }
         destinations.sort();
         EXPECT_EQ(destinations, c.destinations);
