@@ -6,17 +6,14 @@
 #include <gtest/gtest.h>
 
 #include <arpa/inet.h>
-#include <sys/socket.h>
 #include <unistd.h>
 
-#include <memory>
-#include <thread>
+#include <future>
 
 namespace {
 
 using H = OVSNMPHelper;
 using P = SimulatedPrinter;
-using Table = P::Table;
 constexpr const char *kCommunity = "cobalt";
 
 QStringList numbered(const char *prefix, int count, int step) {
@@ -34,40 +31,26 @@ std::string ask(Query query, const char *ip) {
         const int status = H::getSleepMode(ip, kCommunity, mode);
         return "status " + std::to_string(status) + " mode " + std::to_string(mode);
     }
-    const QString mac = query == Mac ? H::getMacAddress(ip, kCommunity) : QString();
-    if (query == Mac)
+    if (query == Mac) {
+        const QString mac = H::getMacAddress(ip, kCommunity);
         return mac.isNull() ? "null" : mac.toStdString();
+    }
     if (query == AdminMode)
         return H::snmpGetAdminLoginModeEnabled(ip, kCommunity) ? "on" : "off";
     const auto names = H::getValidatedFormNameArrayForIPAddress(ip, kCommunity);
     // After a failed query each list holds all its entries or none.
-    for (const QStringList *array : {&H::formStateArray(), &H::formNameArray()}) {
+    for (const QStringList *array : {&H::formStateArray(), &H::formNameArray()})
         if (!names && !array->isEmpty() && array->size() != 100)
             return "partial";
-    }
     return names ? names->value(0).toStdString() + " +" + std::to_string(names->size() - 1)
                  : "failed";
 }
 
-class SnmpQueriesTest : public ::testing::Test {
-protected:
-    static void SetUpTestSuite() {
-        printer = std::make_unique<P>();
-        started = printer->start();
-    }
-    static void TearDownTestSuite() { printer.reset(); }
-    void SetUp() override {
-        ASSERT_TRUE(started) << printer->errorText().toStdString();
-        printer->setDefaults();
-    }
-
-    static inline std::unique_ptr<P> printer;
-    static inline bool started = false;
-    const QByteArray address = P::loopbackAddress().toLatin1();
-    const char *ip = address.constData();
-};
-
-TEST_F(SnmpQueriesTest, PlainAnswers) {
+TEST(SnmpQueries, AnswersOfHealthyFaultyAndSlowPrinters) {
+    P printer;
+    ASSERT_TRUE(printer.start()) << printer.errorText().toStdString();
+    printer.setDefaults();
+    const QByteArray ip = P::loopbackAddress().toLatin1();
     EXPECT_EQ(H::getValidatedFormNameArrayForIPAddress(ip, kCommunity), numbered("Form", 100, 2));
     EXPECT_EQ(H::getValidatedBarcodeAreaNameArrayForIPAddress(ip, kCommunity),
               numbered("Barcode", 100, 2));
@@ -80,10 +63,8 @@ TEST_F(SnmpQueriesTest, PlainAnswers) {
     EXPECT_EQ(ask(SleepMode, ip), "status 0 mode 1");
     // An empty address would be Net-SNMP's localhost: no session opens.
     EXPECT_EQ(ask(SleepMode, ""), "status 1 mode -1");
-}
 
-TEST_F(SnmpQueriesTest, FaultyPrintersGivePlainResults) {
-    const QByteArray form1 = P::nameOid(Table::Form, 1);
+    const QByteArray form1 = P::nameOid(P::Table::Form, 1);
     const struct {
         const char *label;
         QByteArray oid;
@@ -97,8 +78,8 @@ TEST_F(SnmpQueriesTest, FaultyPrintersGivePlainResults) {
         {"longestName", form1, QByteArray(4095, 'n'), Forms, std::string(4095, 'n') + " +49"},
         {"tooLongName", form1, QByteArray(4096, 'n'), Forms, "failed"},
         {"notUtf8", form1, QByteArray("\xe8\xab"), Forms, "failed"},
-        {"missingName", P::nameOid(Table::Form, 50), {}, Forms, "failed"},
-        {"nameIsInteger", P::nameOid(Table::Form, 3), 7L, Forms, "failed"},
+        {"missingName", P::nameOid(P::Table::Form, 50), {}, Forms, "failed"},
+        {"nameIsInteger", P::nameOid(P::Table::Form, 3), 7L, Forms, "failed"},
         {"adminLoginText", P::kAdminLoginMode, QByteArray("1"), AdminMode, "off"},
         {"macOverlong", P::kMacAddress, QByteArray(60000, 'm'), Mac, "null"},
         {"sleepModeIsText", P::kSleepMode, QByteArray("1"), SleepMode, "status 0 mode -1"},
@@ -110,48 +91,44 @@ TEST_F(SnmpQueriesTest, FaultyPrintersGivePlainResults) {
     };
     for (const auto &c : cases) {
         SCOPED_TRACE(c.label);
-        printer->setDefaults();
-        printer->set(c.oid, c.value);
-        const int before = printer->requestCount();
+        printer.setDefaults();
+        printer.set(c.oid, c.value);
+        const int before = printer.requestCount();
         EXPECT_EQ(ask(c.query, ip), c.expected);
-        EXPECT_EQ(c.requests < 0 ? -1 : printer->requestCount() - before, c.requests);
+        EXPECT_EQ(c.requests < 0 ? -1 : printer.requestCount() - before, c.requests);
     }
-}
 
-// A printer with 100 shared boxes: an answer 1.5 s late is waited for by the
-// 10 s timeout of the hundred-box query and asked again by the 1 s one of the
-// thirty-box query.
-TEST_F(SnmpQueriesTest, SlowPrinterIsAskedAgainOnlyAfterTheSessionTimeout) {
-    printer->setTable(Table::SharedBox, QList<P::Entry>(100, {1, "Box"}));
+    // With 100 shared boxes, an answer 1.5 s late is waited for by the 10 s
+    // timeout of the hundred-box query and asked again by the 1 s one of the
+    // thirty-box query.
+    printer.setDefaults();
+    for (int index = 1; index <= 100; ++index) {
+        printer.set(P::stateOid(P::Table::SharedBox, index), 1L);
+        printer.set(P::nameOid(P::Table::SharedBox, index), QByteArray("Box"));
+    }
     ASSERT_EQ(H::snmpGetSharedBoxEntryForIPAddress(ip, kCommunity), 100);
-    printer->setResponseDelayMs(1500);
+    printer.setResponseDelayMs(1500);
     for (int boxes : {100, 30}) {
-        const int before = printer->requestCount();
+        const int before = printer.requestCount();
         H::snmpGetSharedBoxStateForIPAddress(ip, kCommunity, boxes);
-        const int requests = printer->requestCount() - before;
+        const int requests = printer.requestCount() - before;
         EXPECT_TRUE(boxes == 100 ? requests == 1 : requests > 1) << boxes << ": " << requests;
     }
 }
 
-struct Tlv {
-    qsizetype content, end;
-};
-
-// The BER element at pos of a request Net-SNMP built (definite lengths).
-Tlv tlv(const QByteArray &r, qsizetype pos) {
-    qsizetype length = quint8(r[pos + 1]), content = pos + 2;
-    if (length > 0x80) {
-        const qsizetype end = content + (length & 0x7F);
-        for (length = 0; content < end; ++content)
-            length = length << 8 | quint8(r[content]);
+// The elements inside a constructed BER element of a request Net-SNMP built
+// (definite lengths only).
+QList<QByteArray> parts(const QByteArray &element) {
+    QList<QByteArray> list;
+    for (qsizetype at = element[1] & 0x80 ? 2 + (element[1] & 0x7F) : 2; at < element.size();) {
+        qsizetype head = 2, length = quint8(element[at + 1]);
+        if (length > 0x80)
+            for (length = 0; head < 2 + (quint8(element[at + 1]) & 0x7F); ++head)
+                length = length << 8 | quint8(element[at + head]);
+        list.append(element.mid(at, head + length));
+        at += head + length;
     }
-    return {content, content + length};
-}
-
-qsizetype skip(const QByteArray &r, qsizetype pos, int elements) {
-    while (elements-- > 0)
-        pos = tlv(r, pos).end;
-    return pos;
+    return list;
 }
 
 QByteArray wrap(char tag, const QByteArray &content) {
@@ -162,17 +139,13 @@ QByteArray wrap(char tag, const QByteArray &content) {
 
 // The answer to a v1 GET with only its first `kept` variables, each INTEGER 1,
 // which snmpd never sends: it always mirrors the variables asked.
-QByteArray truncatedResponse(const QByteArray &r, int kept) {
-    const qsizetype header = tlv(r, 0).content, pduAt = skip(r, header, 2);
-    const qsizetype fields = tlv(r, pduAt).content, listAt = skip(r, fields, 3);
+QByteArray truncatedResponse(const QByteArray &request, int kept) {
+    const QList<QByteArray> message = parts(request), pdu = parts(message[2]);
     QByteArray bindings;
-    for (qsizetype at = tlv(r, listAt).content; at < tlv(r, listAt).end && kept-- > 0;
-         at = tlv(r, at).end) {
-        const qsizetype name = tlv(r, at).content;
-        bindings += wrap(0x30, r.mid(name, skip(r, name, 1) - name) + QByteArray("\x02\x01\x01"));
-    }
-    return wrap(0x30, r.mid(header, pduAt - header) +
-                          wrap(char(0xA2), r.mid(fields, listAt - fields) + wrap(0x30, bindings)));
+    for (const QByteArray &binding : parts(pdu[3]).mid(0, kept))
+        bindings += wrap(0x30, parts(binding)[0] + QByteArray("\x02\x01\x01"));
+    return wrap(0x30, message[0] + message[1] +
+                          wrap(char(0xA2), pdu[0] + pdu[1] + pdu[2] + wrap(0x30, bindings)));
 }
 
 // Each query here sends one request, answered by a thread of the test.
@@ -184,15 +157,11 @@ TEST(SnmpShortAnswers, GivePlainResults) {
     const timeval wait{5, 0};
     setsockopt(fd, SOL_SOCKET, SO_RCVTIMEO, &wait, sizeof wait);
     ASSERT_EQ(bind(fd, reinterpret_cast<sockaddr *>(&at), sizeof at), 0);
-    const struct {
-        int kept;
-        Query query;
-        const char *expected;
-    } cases[] = {{1, SleepMode, "status 0 mode 1"},
-                 {0, SleepMode, "status 0 mode -1"},
-                 {99, Forms, "failed"}};
-    for (const auto &c : cases) {
-        std::thread responder([&] {
+    const std::tuple<int, Query, const char *> cases[] = {{1, SleepMode, "status 0 mode 1"},
+                                                          {0, SleepMode, "status 0 mode -1"},
+                                                          {99, Forms, "failed"}};
+    for (const auto &[kept, query, expected] : cases) {
+        const auto responder = std::async(std::launch::async, [fd, kept = kept] {
             char data[65536];
             sockaddr_in from{};
             socklen_t size = sizeof from;
@@ -200,11 +169,10 @@ TEST(SnmpShortAnswers, GivePlainResults) {
             const ssize_t n = recvfrom(fd, data, sizeof data, 0, peer, &size);
             if (n <= 0)
                 return;
-            const QByteArray answer = truncatedResponse(QByteArray(data, n), c.kept);
+            const QByteArray answer = truncatedResponse(QByteArray(data, n), kept);
             sendto(fd, answer.data(), size_t(answer.size()), 0, peer, size);
         });
-        EXPECT_EQ(ask(c.query, ip.constData()), c.expected) << c.kept;
-        responder.join();
+        EXPECT_EQ(ask(query, ip.constData()), expected) << kept;
     }
     close(fd);
 }

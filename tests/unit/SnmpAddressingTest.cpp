@@ -10,20 +10,18 @@
 namespace {
 
 TEST(SnmpAddressing, ConvertedAddressFormsPeerName) {
-    const struct {
-        std::string address;
-        bool fits;
-        std::string peerName;
-    } cases[] = {{"192.168.0.10", true, "192.168.0.10"},
-                 {std::string(255, 'a'), true, std::string(255, 'a')},
-                 {std::string(256, 'a'), false, ""},
-                 {"::" + std::string(250, 'f'), false, ""}};
-    for (const auto &c : cases) {
-        SCOPED_TRACE(c.address);
+    // Each address and its peer name, empty for one that does not fit.
+    const std::pair<std::string, std::string> cases[] = {
+        {"192.168.0.10", "192.168.0.10"},
+        {std::string(255, 'a'), std::string(255, 'a')},
+        {std::string(256, 'a'), ""},
+        {"::" + std::string(250, 'f'), ""}};
+    for (const auto &[address, expected] : cases) {
+        SCOPED_TRACE(address);
         OVSNMPHelper::PeerName peerName;
         peerName.fill('x');
-        EXPECT_EQ(OVSNMPHelper::getConvertedAddress(peerName, c.address.c_str()), c.fits);
-        EXPECT_EQ(std::string(peerName.data()), c.peerName);
+        EXPECT_EQ(OVSNMPHelper::getConvertedAddress(peerName, address.c_str()), !expected.empty());
+        EXPECT_EQ(std::string(peerName.data()), expected);
     }
     OVSNMPHelper::PeerName peerName;
     EXPECT_FALSE(OVSNMPHelper::getConvertedAddress(peerName, nullptr));
