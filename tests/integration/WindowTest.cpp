@@ -20,11 +20,13 @@ const bool isolated = PrivateNetwork::enter();
 
 using Controller = OVPrinterUtilityWindowController;
 
-static std::unique_ptr<Controller> open(const QString &queue) {
-    auto controller = std::make_unique<Controller>();
-    controller->applicationDidFinishLaunching({"--printer", queue});
-    controller->mainWindowObject()->show();
-    return controller;
+// Closes the window if one is open, then opens one on the queue.
+static Ui::MainUtilityWindiw *open(std::unique_ptr<Controller> &window, const QString &queue) {
+    window.reset();
+    window = std::make_unique<Controller>();
+    window->applicationDidFinishLaunching({"--printer", queue});
+    window->mainWindowObject()->show();
+    return &window->controls();
 }
 static void type(QLineEdit *field, const QString &text) {
     field->clear();
@@ -55,8 +57,8 @@ TEST(WindowTest, DefaultsFetchChooseSaveReopenAndFetchAgain) {
         alerts << alert.text();
         return 0;
     });
-    auto window = open("Office");
-    Ui::MainUtilityWindiw *c = &window->controls();
+    std::unique_ptr<Controller> window;
+    Ui::MainUtilityWindiw *c = open(window, "Office");
     EXPECT_EQ(window->registerFolderTableViewDataSource()->count(), 100u);
     EXPECT_EQ(window->selectedFolderTableViewDataSource()->getElementsArray(),
               QStringList{"Shared Folder 1"});
@@ -87,8 +89,7 @@ TEST(WindowTest, DefaultsFetchChooseSaveReopenAndFetchAgain) {
     window.reset();
     EXPECT_TRUE(QTest::qWaitFor(
         [&] { return server.queuePpd("Office").contains("PPDOptionsUpdated"); }, 30000));
-    window = open("Office");
-    c = &window->controls();
+    c = open(window, "Office");
     EXPECT_EQ(window->registerFolderTableViewDataSource()->getElementsArray(), folders);
     EXPECT_EQ(window->selectedFolderTableViewDataSource()->getElementsArray(),
               QStringList{folders[2]});
@@ -104,9 +105,7 @@ TEST(WindowTest, DefaultsFetchChooseSaveReopenAndFetchAgain) {
     // address sends nothing.
     const QString v4 = SimulatedPrinter::loopbackAddress();
     const std::pair<QString, bool> rows[] = {{v4, false}, {v4, true}, {"::1", false}, {"", false}};
-    window.reset();
-    window = open("Fresh");
-    c = &window->controls();
+    c = open(window, "Fresh");
     click(c->wakeOnLANCheck);
     for (const auto &[address, silent] : rows) {
         SCOPED_TRACE(address.toStdString() + (silent ? " silent" : ""));
