@@ -1,6 +1,5 @@
-// The command line run as administrators run it: a separate process talking to
-// the private cupsd and to the simulated printer, with the exit codes and
-// messages its manual documents.
+// The command line as a separate process against the private cupsd and the
+// simulated printer, with the exit codes and messages its manual documents.
 #include "CupsServerEnvironment.h"
 #include "SimulatedPrinter.h"
 
@@ -8,46 +7,27 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QProcess>
-#include <QTemporaryDir>
-
-#include <gtest/gtest.h>
-
-#include <initializer_list>
 
 namespace {
 
-struct Result {
-    int exit = -1;
-    QByteArray out;
-    QByteArray err;
-};
-
-Result cli(const QStringList &arguments, const QByteArray &input = {}) {
+// The exit code, and what the command printed to stdout on success, to stderr otherwise.
+std::pair<int, QByteArray> cli(const QStringList &arguments, const QByteArray &input = {}) {
     QProcess process;
     process.start(ORVO_CLI, arguments);
     process.write(input);
     process.closeWriteChannel();
     process.waitForFinished(120000);
-    return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
-            process.readAllStandardOutput(), process.readAllStandardError()};
+    const int exit = process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;
+    return {exit, exit == 0 ? process.readAllStandardOutput() : process.readAllStandardError()};
 }
 
-struct Step {
-    QStringList arguments;
-    int exit;
-    QByteArray expected; // in stdout on success, in stderr otherwise
-    QByteArray input = {};
-};
-
-void check(std::initializer_list<Step> steps) {
-    for (const Step &step : steps) {
-        SCOPED_TRACE(step.arguments.join(' ').left(120).toStdString());
-        const Result run = cli(step.arguments, step.input);
-        EXPECT_EQ(run.exit, step.exit) << run.err.toStdString();
-        const QByteArray &shown = step.exit == 0 ? run.out : run.err;
-        EXPECT_TRUE(shown.contains(step.expected)) << shown.toStdString();
-    }
+// One run: its exit code and a text it shows.
+void check(const QStringList &arguments, int exit, const QByteArray &expected,
+           const QByteArray &input = {}) {
+    SCOPED_TRACE(arguments.join(' ').left(120).toStdString());
+    const auto [code, shown] = cli(arguments, input);
+    EXPECT_EQ(code, exit);
+    EXPECT_TRUE(shown.contains(expected)) << shown.toStdString();
 }
 
 TEST(CommandLine, QueueAndPpdCommands) {
@@ -74,40 +54,34 @@ TEST(CommandLine, QueueAndPpdCommands) {
     }
     const QByteArray tooLarge =
         QJsonDocument(QJsonObject{{"sharedFolders", names}, {"forms", names}}).toJson();
-    EXPECT_EQ(cli({"list"}).out, "orvo\n");
-    check({
-        {{"list", "-h", "127.0.0.1:1"}, 3, "cannot reach the CUPS server"},
-        {{"show", "nosuch"}, 4, "no queue \"nosuch\""},
-        {{"save", "--help"}, 0, "--colorProfiles <value>"},
-        {{"save", "orvo", "--settings", "-"}, 2, "bad JSON in -", "{"},
-        {tooManyProfiles, 6, "\"colorProfiles\" holds at most 30 entries"},
-        {{"save", "orvo", "--settings", "-"}, 6, "too large", tooLarge},
-        {{"save", "plain", "--forms", "A"}, 6, "does not use the orvo-ppd-update filter"},
-        // None of the refusals above sent a job.
-        {{"show", "--json", "orvo"}, 0, "\"optionsUpdated\": false"},
-        {{"save", "orvo", "--customCommunity", "yes", "--community", "blue", "--forms", "A"},
-         0,
-         "the PPD holds the settings"},
-        {{"show", "orvo"}, 0, "customCommunity: yes\ncommunity: blue\n"},
-        {{"show", "orvo"}, 0, "forms: (1)\n  A\n"},
-        {{"ppd", CupsServer::testPpdPath()}, 0, "Duplex \"Two-Sided\" (default None)\n"},
-        {{"ppd", "--lang", "de",
-          variant("de.ppd", ppd + "*de.Translation Duplex/Beidseitig: \"\"\n")},
-         0,
-         "Duplex \"Beidseitig\" (default None)\n"},
-        {{"ppd", variant("long.ppd", QByteArray(ppd).replace("Long Edge", QByteArray(90, 'L')))},
-         1,
-         "longer than the PPD reader's fixed fields allow"},
-        {{"ppd", variant("latin1.ppd", QByteArray(ppd).replace("Off", "Arr\xeat"))},
-         1,
-         "is not UTF-8 text"},
-    });
+    EXPECT_EQ(cli({"list"}).second, "orvo\n");
+    const QString german = variant("de.ppd", ppd + "*de.Translation Duplex/Beidseitig: \"\"\n");
+    const QString longNames =
+        variant("long.ppd", QByteArray(ppd).replace("Long Edge", QByteArray(90, 'L')));
+    const QString latin1 = variant("latin1.ppd", QByteArray(ppd).replace("Off", "Arr\xeat"));
+    check({"list", "-h", "127.0.0.1:1"}, 3, "cannot reach the CUPS server");
+    check({"show", "nosuch"}, 4, "no queue \"nosuch\"");
+    check({"save", "--help"}, 0, "--colorProfiles <value>");
+    check({"save", "orvo", "--settings", "-"}, 2, "bad JSON in -", "{");
+    check(tooManyProfiles, 6, "\"colorProfiles\" holds at most 30 entries");
+    check({"save", "orvo", "--settings", "-"}, 6, "too large", tooLarge);
+    check({"save", "plain", "--forms", "A"}, 6, "does not use the orvo-ppd-update filter");
+    // None of the refusals above sent a job.
+    check({"show", "--json", "orvo"}, 0, "\"optionsUpdated\": false");
+    check({"save", "orvo", "--customCommunity", "yes", "--community", "blue", "--forms", "A"}, 0,
+          "the PPD holds the settings");
+    check({"show", "orvo"}, 0, "customCommunity: yes\ncommunity: blue\n");
+    check({"show", "orvo"}, 0, "forms: (1)\n  A\n");
+    check({"ppd", CupsServer::testPpdPath()}, 0, "Duplex \"Two-Sided\" (default None)\n");
+    check({"ppd", "--lang", "de", german}, 0, "Duplex \"Beidseitig\" (default None)\n");
+    check({"ppd", longNames}, 1, "longer than the PPD reader's fixed fields allow");
+    check({"ppd", latin1}, 1, "is not UTF-8 text");
     // What show --json prints, save takes back unchanged but for the edits.
-    QJsonObject settings = QJsonDocument::fromJson(cli({"show", "--json", "orvo"}).out).object();
+    QJsonObject settings = QJsonDocument::fromJson(cli({"show", "--json", "orvo"}).second).object();
     settings["barcodeAreas"] = QJsonArray{"Zone \"1\"", "区域 2"};
     settings["chosenFolderIndexes"] = QJsonArray{6};
-    EXPECT_EQ(cli({"save", "orvo", "--settings", "-"}, QJsonDocument(settings).toJson()).exit, 0);
-    EXPECT_EQ(QJsonDocument::fromJson(cli({"show", "--json", "orvo"}).out).object(), settings);
+    EXPECT_EQ(cli({"save", "orvo", "--settings", "-"}, QJsonDocument(settings).toJson()).first, 0);
+    EXPECT_EQ(QJsonDocument::fromJson(cli({"show", "--json", "orvo"}).second).object(), settings);
 }
 
 TEST(CommandLine, FetchesFromTheSimulatedPrinter) {
@@ -115,11 +89,11 @@ TEST(CommandLine, FetchesFromTheSimulatedPrinter) {
     ASSERT_TRUE(printer.start()) << printer.errorText().toStdString();
     printer.setDefaults();
     const QString address = SimulatedPrinter::loopbackAddress();
-    check({{{"fetch", "--address", address}, 0, "macAddress: 00:11:22:aa:bb:cc\n"},
-           {{"fetch", "--json", "--address", address}, 0, "\"adminLoginMode\": true"},
-           {{"fetch"}, 2, "--address is required"}});
+    check({"fetch", "--address", address}, 0, "macAddress: 00:11:22:aa:bb:cc\n");
+    check({"fetch", "--json", "--address", address}, 0, "\"adminLoginMode\": true");
+    check({"fetch"}, 2, "--address is required");
     printer.setSilent(true);
-    check({{{"fetch", "--address", address}, 5, "did not answer"}});
+    check({"fetch", "--address", address}, 5, "did not answer");
 }
 
 } // namespace

@@ -1,13 +1,10 @@
-// `cmake --install` into a staging folder, then a queue from the installed
-// sample PPD on a private cupsd running the installed filter, and a save and
-// a show through the installed command line.
+// `cmake --install` into a staging folder, then a queue from the installed sample PPD on a
+// private cupsd running the installed filter, saved and shown by the installed command line.
 #include "CupsServer.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QProcess>
-#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
@@ -33,8 +30,7 @@ TEST(Installation, SaveAndShowThroughTheInstalledFiles) {
         {"/usr/bin/orvo-printer-utility", 0755},
         {"/usr/lib/cups/filter/orvo-ppd-update", 0755},
         {"/usr/share/applications/orvo-printer-utility.desktop", 0644},
-        {"/usr/share/man/man8/orvo-ppd-update.8.gz", 0644},
-    };
+        {"/usr/share/man/man8/orvo-ppd-update.8.gz", 0644}};
     for (const auto &[path, mode] : files) {
         struct stat status {};
         EXPECT_EQ(stat(installed(path).toLocal8Bit().constData(), &status), 0) << path;
@@ -43,14 +39,13 @@ TEST(Installation, SaveAndShowThroughTheInstalledFiles) {
     }
     EXPECT_TRUE(run("man", {"-l", installed(files[3].first)}).contains("NAME"));
 
-    CupsServer server(installed("/usr/lib/cups/filter/orvo-ppd-update"));
+    CupsServer server(installed(files[1].first));
     ASSERT_TRUE(server.isRunning());
     ASSERT_TRUE(server.addQueue("orvo", installed("/usr/share/ppd/orvo/orvo-printer.ppd")));
     const QString cli = installed("/usr/bin/orvo-printer-utility-cli");
     EXPECT_EQ(run(cli, {"list"}), "orvo\n");
     run(cli, {"save", "orvo", "--forms", "Invoice", "--wakeOnLan", "no"});
-    const QJsonObject settings =
-        QJsonDocument::fromJson(run(cli, {"show", "--json", "orvo"})).object();
+    const auto settings = QJsonDocument::fromJson(run(cli, {"show", "--json", "orvo"})).object();
     EXPECT_EQ(settings["forms"], QJsonArray{"Invoice"});
     EXPECT_EQ(settings["wakeOnLan"], false);
     EXPECT_EQ(settings["optionsUpdated"], true);

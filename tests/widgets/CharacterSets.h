@@ -6,10 +6,8 @@
 struct ControlSets {
     // The yen sign and the zero width space are members on purpose.
     static QString community() {
-        return QStringLiteral(",./:;@[\\") + QChar(0x00A5) +
-               QStringLiteral("]^_0123456789abcdefghijklmn") + QChar(0x200B) +
-               QStringLiteral("opqrstuvwxyzABCDEFGHIJKLMN") + QChar(0x200B) +
-               QStringLiteral("OPQRSTUVWXYZ");
+        return QStringLiteral(",./:;@[\\\u00A5]^_0123456789abcdefghijklmn\u200B"
+                              "opqrstuvwxyzABCDEFGHIJKLMN\u200BOPQRSTUVWXYZ");
     }
     static QString communityInvalid() { return QStringLiteral("!\"#%%&'()*+-<=>?`{|}~"); }
     static QString hexadecimal() { return QStringLiteral("0123456789ABCDEFabcdef"); }
