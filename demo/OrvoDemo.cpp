@@ -8,6 +8,7 @@
 //                                one PNG per tab (for machines without a display)
 #include "CupsServer.h"
 #include "OVPrinterUtilityWindowController.h"
+#include "OVQueueSetup.h"
 #include "SimulatedPrinter.h"
 #include "ui_MainUtilityWindiw.h"
 
@@ -23,10 +24,11 @@
 namespace {
 constexpr char queue[] = "Orvo-Demo";
 
-// The demo queue's PPD: the test PPD with the printer's address stored, as if
-// the utility had saved it once.
+// The demo queue's PPD: a PDF printer's, as cups-filters ships it, with the
+// printer's address stored, as if the utility had saved it once. The queue is
+// then set up for the utility by the same code as the command line's setup.
 QString writeDemoPpd(const QTemporaryDir &dir) {
-    QFile source(CupsServer::testPpdPath());
+    QFile source("/usr/share/ppd/cupsfilters/Generic-PDF_Printer-PDF.ppd");
     QFile target(dir.filePath("orvo-demo.ppd"));
     if (!source.open(QIODevice::ReadOnly) || !target.open(QIODevice::WriteOnly))
         return QString();
@@ -82,7 +84,8 @@ int main(int argc, char **argv) {
     SimulatedPrinter printer;
     printer.setDefaults();
     const QString ppd = writeDemoPpd(dir);
-    if (!cups.isRunning() || ppd.isEmpty() || !cups.addQueue(queue, ppd) || !printer.start()) {
+    if (!cups.isRunning() || ppd.isEmpty() || !cups.addQueue(queue, ppd) ||
+        OVQueueSetup::setUp(queue).outcome != OVQueueSetup::Outcome::Changed || !printer.start()) {
         std::cerr << "The demo's print server or printer did not start. "
                   << printer.errorText().toStdString() << '\n';
         return 1;

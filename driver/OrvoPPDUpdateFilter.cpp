@@ -6,6 +6,7 @@
 #include "OrvoSettingsOption.h"
 
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
 #include <string>
 #include <unistd.h>
@@ -48,8 +49,14 @@ void OrvoPPDUpdateFilter::drainInput() {
     }
 }
 
+// Only a job of the update job's own document format is an update job: cupsd
+// names the job's format in CONTENT_TYPE. A print job that merely carries the
+// marker option never stores anything, whichever way it reached the filter.
 // The marker travels as an IPP boolean, so it comes back as "true".
 bool OrvoPPDUpdateFilter::isUpdateJob(int count, cups_option_t *options) {
+    const char *format = std::getenv("CONTENT_TYPE");
+    if (!format || std::strcmp(format, OrvoSettingsKeywords::UpdateDocumentFormat) != 0)
+        return false;
     const char *marker = cupsGetOption(OrvoSettingsKeywords::UpdatePPDOptions, count, options);
     return marker && (std::strcmp(marker, "true") == 0 ||
                       std::strcmp(marker, OrvoSettingsKeywords::UpdatePPDOptionsValue) == 0);

@@ -3,6 +3,7 @@
 #include "OVFetchCommand.h"
 #include "OVPpdCommand.h"
 #include "OVQueueCommands.h"
+#include "OVSetupCommand.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -26,12 +27,14 @@ const QList<OVCommandLine::Command> &OVCommandLine::commands() {
     static const QList<Command> all = {
         {"list",
          "",
-         "List the server's queues that use the Orvo driver.",
+         "List the server's queues and whether each is set up for the utility.",
          {},
          OVQueueCommands::list},
         {"show", "QUEUE", "Show every setting stored for a queue.", {}, OVQueueCommands::show},
         {"save", "QUEUE", "Save settings to a queue and check that its PPD holds them.",
          OVQueueCommands::addSaveOptions, OVQueueCommands::save},
+        {"setup", "QUEUE", "Set a printing queue up to take the utility's saves (--remove: undo).",
+         OVSetupCommand::addOptions, OVSetupCommand::run},
         {"fetch", "", "Ask a printer for its MAC address, shared folders, forms and more.",
          OVFetchCommand::addOptions, OVFetchCommand::run},
         {"ppd", "FILE", "Show a PPD file as the utility's PPD reader reads it.",

@@ -19,7 +19,8 @@ public:
         ServerUnreachable = 3,
         QueueUnknown = 4,
         PrinterSilent = 5,
-        Refused = 6, // the job could not reach the driver; nothing was sent
+        Refused = 6,       // the job could not reach the driver; nothing was sent
+        NotAuthorized = 7, // the server wants a print administrator
     };
 
     struct Command {

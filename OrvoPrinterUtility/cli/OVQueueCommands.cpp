@@ -2,6 +2,7 @@
 
 #include "OVCommandLine.h"
 #include "OVCupsConnection.h"
+#include "OVQueueSetup.h"
 #include "OVSettingsFields.h"
 #include "OVStoredSettings.h"
 #include "OVUpdateJob.h"
@@ -16,33 +17,18 @@
 
 #include <cups/cups.h>
 
+#include <algorithm>
 #include <chrono>
 
 namespace {
 
 using Exit = OVCommandLine::Exit;
-constexpr char driverFilter[] = "orvo-ppd-update";
 constexpr char noServer[] = "cannot reach the CUPS server";
 const QCommandLineOption settingsFileOption(
     "settings", "Read settings from a JSON file (\"-\": standard input), keys as \"show --json\".",
     "file");
 const QCommandLineOption
     timeoutOption("timeout", "Wait at most this long for the job (default 60).", "seconds", "60");
-
-// Whether the PPD runs the driver filter, the only way settings reach it.
-bool runsDriver(ppd_file_t *ppd) {
-    for (int i = 0; i < ppd->num_filters; ++i) {
-        if (QByteArray(ppd->filters[i]).split(' ').last() == driverFilter)
-            return true;
-    }
-    return false;
-}
-
-bool usesDriver(const QString &queue) {
-    bool found = false;
-    OVStoredSettings::withQueuePPD(queue, [&](ppd_file_t *ppd) { found = runsDriver(ppd); });
-    return found;
-}
 
 int loadFailure(OVStoredSettings::Status status, const QString &queue) {
     switch (status) {
@@ -106,21 +92,24 @@ QString readSettingsFile(const QString &path, QJsonObject &json) {
 } // namespace
 
 int OVQueueCommands::list(const QCommandLineParser &, bool json) {
-    const OVCupsConnection connection;
-    if (!connection)
+    const auto queues = OVQueueSetup::queues();
+    if (!queues)
         return OVCommandLine::fail(Exit::ServerUnreachable, noServer);
-    cups_dest_t *dests = nullptr;
-    const int count = cupsGetDests2(connection.http(), &dests);
-    QStringList queues;
-    for (int i = 0; i < count; ++i) {
-        if (!dests[i].instance && usesDriver(QString::fromUtf8(dests[i].name)))
-            queues << QString::fromUtf8(dests[i].name);
+    QJsonArray rows;
+    QString text;
+    qsizetype width = 0;
+    for (const OVQueueSetup::Queue &queue : *queues)
+        width = std::max(width, queue.name.size());
+    for (const OVQueueSetup::Queue &queue : *queues) {
+        rows << QJsonObject{{"queue", queue.name},
+                            {"setUp", queue.setUp},
+                            {"description", queue.description},
+                            {"makeAndModel", queue.makeAndModel}};
+        text += QStringLiteral("%1  %2  %3\n")
+                    .arg(queue.name.leftJustified(width), queue.setUp ? "set up    " : "not set up",
+                         queue.makeAndModel);
     }
-    cupsFreeDests(count, dests);
-    if (count == 0 && cupsLastError() > IPP_STATUS_OK_EVENTS_COMPLETE)
-        return OVCommandLine::fail(Exit::ServerUnreachable, noServer);
-    OVCommandLine::print(json, QJsonArray::fromStringList(queues),
-                         queues.isEmpty() ? QString() : queues.join('\n') + '\n');
+    OVCommandLine::print(json, rows, text);
     return Exit::Success;
 }
 
@@ -153,18 +142,16 @@ int OVQueueCommands::save(const QCommandLineParser &parser, bool json) {
             return OVCommandLine::fail(Exit::Usage, error);
     }
     OVSettingsSnapshot settings;
-    bool driven = false;
-    if (const auto status = OVStoredSettings::withQueuePPD(queue,
-                                                           [&](ppd_file_t *ppd) {
-                                                               settings =
-                                                                   OVStoredSettings::read(ppd);
-                                                               driven = runsDriver(ppd);
-                                                           });
+    if (const auto status = OVStoredSettings::load(queue, settings);
         status != OVStoredSettings::Status::Loaded)
         return loadFailure(status, queue);
-    if (!driven)
-        return OVCommandLine::fail(Exit::Refused, "the queue \"" + queue + "\" does not use the " +
-                                                      driverFilter + " filter; nothing was sent");
+    // On a queue that is not set up the update job would be printed.
+    if (OVQueueSetup::state(queue) != OVQueueSetup::State::SetUp)
+        return OVCommandLine::fail(Exit::Refused, "the queue \"" + queue +
+                                                      "\" is not set up for the utility; nothing "
+                                                      "was sent. Set it up with: "
+                                                      "orvo-printer-utility-cli setup " +
+                                                      queue);
     settings.isPPDOptionsUpdated = true;
     QString error = OVSettingsFields::apply(given, settings);
     if (error.isEmpty())

@@ -15,6 +15,7 @@ namespace K = OrvoSettingsKeywords;
 namespace {
 
 constexpr int tempFileNameSize = 1024;
+constexpr char documentFormatOption[] = "document-format";
 // cupsd puts a backslash before each of these when it builds the filter
 // argument from the job's options.
 constexpr char escapedCharacters[] = " \t\n\\'\"";
@@ -151,7 +152,10 @@ int OVUpdateJob::saveOptionsToPPD(const OVSettingsSnapshot &snapshot, const QStr
     if (!connection)
         return 0;
     cups_option_t *options = nullptr;
-    const int numOptions = addOptions(optionList(snapshot), 0, &options);
+    int numOptions = addOptions(optionList(snapshot), 0, &options);
+    // cupsPrintFile2 sends the file in the format this option names, which a
+    // set-up queue routes to the driver filter alone.
+    numOptions = cupsAddOption(documentFormatOption, K::UpdateDocumentFormat, numOptions, &options);
     int jobId = 0;
     char fileName[tempFileNameSize];
     if (cups_file_t *file = cupsTempFile2(fileName, sizeof fileName)) {

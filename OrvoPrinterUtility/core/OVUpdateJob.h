@@ -48,7 +48,8 @@ public:
     // Whether the update job for this snapshot can reach the driver at all.
     static bool reachesFilter(const OVSettingsSnapshot &snapshot);
 
-    // Submits the update job to the queue printerID. Reports nothing; returns
-    // the job id, or 0 when no job was sent.
+    // Submits the update job, in the update job's own document format, to the
+    // queue printerID. Reports nothing; returns the job id, or 0 when no job
+    // was sent. Only a set-up queue accepts that format (OVQueueSetup).
     static int saveOptionsToPPD(const OVSettingsSnapshot &snapshot, const QString &printerID);
 };

@@ -50,6 +50,12 @@ inline constexpr char UpdateJobTitle[] = "UpdatePPDOptions";
 inline constexpr char UpdateFileContent[] = "Update";
 inline constexpr char DefaultCommunity[] = "cobalt";
 
+// The update job's own document format: a queue set up for the utility routes
+// it to the driver filter alone, so the job never reaches the printer's driver
+// and print jobs never reach the filter.
+inline constexpr char UpdateDocumentFormat[] = "application/vnd.orvo-settings-update";
+inline constexpr char DriverFilter[] = "orvo-ppd-update";
+
 inline constexpr Keyword all[] = {
     {UpdatePPDOptions, Encoding::JobMarker, 0},
     {PPDOptionsUpdated, Encoding::Flag, 0},

@@ -6,6 +6,7 @@
 #include "OVLaunchEvent.h"
 #include "OVNotificationCenter.h"
 #include "OVPrinterUtilityHelper.h"
+#include "OVQueueSetup.h"
 #include "OVRestrictedTextField.h"
 #include "OVSNMPHelper.h"
 #include "OVSaveSizeCheck.h"
@@ -457,6 +458,14 @@ void OVPrinterUtilityWindowController::okButtonClicked(QObject *) {
     const QStringList tooLong = OVSaveSizeCheck::listsToShorten(settingsSnapshot());
     if (!tooLong.isEmpty()) {
         showTooLongMessage(tooLong);
+        return;
+    }
+    // On a queue that is not set up the update job would be printed, and the
+    // settings lost: say so and keep the window open with everything set.
+    if (OVQueueSetup::state(printerID_) == OVQueueSetup::State::NotSetUp) {
+        OVAlert::alertWithMessageText(localized(QueueNotSetUp).arg(printerID_), localized(OK),
+                                      QString(), QString(), OVAlert::PlainMessageFormat, {})
+            ->runModal();
         return;
     }
     saveOptionsToPPD();

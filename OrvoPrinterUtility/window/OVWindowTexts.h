@@ -29,6 +29,7 @@ inline constexpr char Clear[] = "Clear";
 inline constexpr char UsePersonalFolder[] = "Use Personal folder";
 inline constexpr char FailedToObtain[] = "Failed to obtain information.";
 inline constexpr char SettingsTooLong[] = "IDS_SETTINGS_TOO_LONG";
+inline constexpr char QueueNotSetUp[] = "IDS_QUEUE_NOT_SET_UP"; // %1: the queue
 
 // Every key the window looks up (the model-name key names an entry of the
 // bundle's information dictionary, not a text).
@@ -58,5 +59,6 @@ inline constexpr const char *localizedKeys[] = {
     UsePersonalFolder,
     FailedToObtain,
     SettingsTooLong,
+    QueueNotSetUp,
 };
 } // namespace OVWindowTexts

@@ -30,9 +30,15 @@ void check(const QStringList &arguments, int exit, const QByteArray &expected,
     EXPECT_TRUE(shown.contains(expected)) << shown.toStdString();
 }
 
+// The sample PPD without its settings route: a queue that prints but is not set up.
+QByteArray notSetUp(const QByteArray &ppd) {
+    return QByteArray(ppd).replace(
+        "*cupsFilter: \"application/vnd.orvo-settings-update 0 orvo-ppd-update\"\n", "");
+}
+
 TEST(CommandLine, QueueAndPpdCommands) {
     QTemporaryDir dir;
-    QFile source(CupsServer::testPpdPath());
+    QFile source(CupsServer::samplePpdPath());
     ASSERT_TRUE(source.open(QIODevice::ReadOnly));
     const QByteArray ppd = source.readAll();
     const auto variant = [&](const char *name, const QByteArray &text) {
@@ -42,9 +48,7 @@ TEST(CommandLine, QueueAndPpdCommands) {
     };
     CupsServer &server = CupsServerEnvironment::server();
     ASSERT_TRUE(server.addQueue("orvo"));
-    const QByteArray filter = "*cupsFilter: \"text/plain 0 orvo-ppd-update\"\n";
-    ASSERT_TRUE(
-        server.addQueue("plain", variant("plain.ppd", QByteArray(ppd).replace(filter, ""))));
+    ASSERT_TRUE(server.addQueue("plain", variant("plain.ppd", notSetUp(ppd))));
     QStringList tooManyProfiles{"save", "orvo"};
     QJsonArray names; // each fits, all together do not fit in one job
     for (int i = 0; i < 100; ++i) {
@@ -54,7 +58,8 @@ TEST(CommandLine, QueueAndPpdCommands) {
     }
     const QByteArray tooLarge =
         QJsonDocument(QJsonObject{{"sharedFolders", names}, {"forms", names}}).toJson();
-    EXPECT_EQ(cli({"list"}).second, "orvo\n");
+    EXPECT_EQ(cli({"list"}).second,
+              "orvo   set up      Orvo Printer\nplain  not set up  Orvo Printer\n");
     const QString german = variant("de.ppd", ppd + "*de.Translation Duplex/Beidseitig: \"\"\n");
     const QString longNames =
         variant("long.ppd", QByteArray(ppd).replace("Long Edge", QByteArray(90, 'L')));
@@ -65,14 +70,15 @@ TEST(CommandLine, QueueAndPpdCommands) {
     check({"save", "orvo", "--settings", "-"}, 2, "bad JSON in -", "{");
     check(tooManyProfiles, 6, "\"colorProfiles\" holds at most 30 entries");
     check({"save", "orvo", "--settings", "-"}, 6, "too large", tooLarge);
-    check({"save", "plain", "--forms", "A"}, 6, "does not use the orvo-ppd-update filter");
+    check({"save", "plain", "--forms", "A"}, 6,
+          "Set it up with: orvo-printer-utility-cli setup plain");
     // None of the refusals above sent a job.
     check({"show", "--json", "orvo"}, 0, "\"optionsUpdated\": false");
     check({"save", "orvo", "--customCommunity", "yes", "--community", "blue", "--forms", "A"}, 0,
           "the PPD holds the settings");
     check({"show", "orvo"}, 0, "customCommunity: yes\ncommunity: blue\n");
     check({"show", "orvo"}, 0, "forms: (1)\n  A\n");
-    check({"ppd", CupsServer::testPpdPath()}, 0, "Duplex \"Two-Sided\" (default None)\n");
+    check({"ppd", CupsServer::samplePpdPath()}, 0, "Duplex \"Two-Sided\" (default None)\n");
     check({"ppd", "--lang", "de", german}, 0, "Duplex \"Beidseitig\" (default None)\n");
     check({"ppd", longNames}, 1, "longer than the PPD reader's fixed fields allow");
     check({"ppd", latin1}, 1, "is not UTF-8 text");
@@ -82,6 +88,40 @@ TEST(CommandLine, QueueAndPpdCommands) {
     settings["chosenFolderIndexes"] = QJsonArray{6};
     EXPECT_EQ(cli({"save", "orvo", "--settings", "-"}, QJsonDocument(settings).toJson()).first, 0);
     EXPECT_EQ(QJsonDocument::fromJson(cli({"show", "--json", "orvo"}).second).object(), settings);
+}
+
+// Setting up needs a server that knows the update job's format and an administrator; without
+// either the queue stays as it was.
+TEST(CommandLine, SetupRefusalsLeaveTheQueueAsItWas) {
+    struct Refusal {
+        const char *what;
+        bool typesFile, password;
+        int exit;
+        const char *message;
+    };
+    const Refusal refusals[] = {
+        {"NoTypesFile", false, false, 1, "install the Orvo Printer Utility"},
+        {"NoPassword", true, true, 7, "needs a print administrator"},
+    };
+    QTemporaryDir dir;
+    QFile sample(CupsServer::samplePpdPath());
+    QFile plain(dir.filePath("plain.ppd"));
+    ASSERT_TRUE(sample.open(QIODevice::ReadOnly) && plain.open(QIODevice::WriteOnly));
+    plain.write(notSetUp(sample.readAll()));
+    plain.close();
+    for (const auto &[what, typesFile, password, exit, message] : refusals) {
+        SCOPED_TRACE(what);
+        CupsServer::Options options;
+        options.clientsUseIt = false;
+        options.typesPath = typesFile ? options.typesPath : QString();
+        options.adminNeedsPassword = password;
+        CupsServer server(QStringLiteral(ORVO_PPD_UPDATE_FILTER), options);
+        ASSERT_TRUE(server.isRunning() && server.addQueue("plain", plain.fileName()));
+        const QByteArray before = server.queuePpd("plain");
+        check({"setup", "-h", server.address(), "plain"}, exit, message);
+        EXPECT_EQ(server.queuePpd("plain"), before);
+        check({"list", "-h", server.address()}, 0, "plain  not set up");
+    }
 }
 
 TEST(CommandLine, FetchesFromTheSimulatedPrinter) {

@@ -30,7 +30,8 @@ TEST(Installation, SaveAndShowThroughTheInstalledFiles) {
         {"/usr/bin/orvo-printer-utility", 0755},
         {"/usr/lib/cups/filter/orvo-ppd-update", 0755},
         {"/usr/share/applications/orvo-printer-utility.desktop", 0644},
-        {"/usr/share/man/man8/orvo-ppd-update.8.gz", 0644}};
+        {"/usr/share/man/man8/orvo-ppd-update.8.gz", 0644},
+        {"/usr/share/cups/mime/orvo-printer-utility.types", 0644}};
     for (const auto &[path, mode] : files) {
         struct stat status {};
         EXPECT_EQ(stat(installed(path).toLocal8Bit().constData(), &status), 0) << path;
@@ -39,11 +40,13 @@ TEST(Installation, SaveAndShowThroughTheInstalledFiles) {
     }
     EXPECT_TRUE(run("man", {"-l", installed(files[3].first)}).contains("NAME"));
 
-    CupsServer server(installed(files[1].first));
+    CupsServer::Options options;
+    options.typesPath = installed(files[4].first);
+    CupsServer server(installed(files[1].first), options);
     ASSERT_TRUE(server.isRunning());
     ASSERT_TRUE(server.addQueue("orvo", installed("/usr/share/ppd/orvo/orvo-printer.ppd")));
     const QString cli = installed("/usr/bin/orvo-printer-utility-cli");
-    EXPECT_EQ(run(cli, {"list"}), "orvo\n");
+    EXPECT_EQ(run(cli, {"list"}), "orvo  set up      Orvo Printer\n");
     run(cli, {"save", "orvo", "--forms", "Invoice", "--wakeOnLan", "no"});
     const auto settings = QJsonDocument::fromJson(run(cli, {"show", "--json", "orvo"})).object();
     EXPECT_EQ(settings["forms"], QJsonArray{"Invoice"});

@@ -88,7 +88,7 @@ TEST(WindowTest, DefaultsFetchChooseSaveReopenAndFetchAgain) {
     EXPECT_EQ(terminated.count(), 1);
     window.reset();
     EXPECT_TRUE(QTest::qWaitFor(
-        [&] { return server.queuePpd("Office").contains("PPDOptionsUpdated"); }, 30000));
+        [&] { return server.queuePpd("Office").contains("*PPDOptionsUpdated: \"1\""); }, 30000));
     c = open(window, "Office");
     EXPECT_EQ(window->registerFolderTableViewDataSource()->getElementsArray(), folders);
     EXPECT_EQ(window->selectedFolderTableViewDataSource()->getElementsArray(),

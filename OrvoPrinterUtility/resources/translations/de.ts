@@ -104,6 +104,10 @@
         <translation>Diese Einstellungen sind zu lang, um vom Druckserver an den Druckertreiber übergeben zu werden, und können nicht gespeichert werden. Kürzen Sie diese Listen und klicken Sie erneut auf OK:</translation>
     </message>
     <message>
+        <source>IDS_QUEUE_NOT_SET_UP</source>
+        <translation>Diese Druckwarteschlange ist nicht dafür eingerichtet, die Einstellungen des Dienstprogramms zu speichern; es wurde nichts gespeichert. Ein Druckadministrator kann sie einrichten mit: orvo-printer-utility-cli setup %1</translation>
+    </message>
+    <message>
         <source>Shared Folder 1</source>
         <translation>Freigegebener Ordner 1</translation>
     </message>

@@ -104,6 +104,10 @@
         <translation>These settings are too long for the print server to pass to the printer driver, so they cannot be saved. Shorten these lists and press OK again:</translation>
     </message>
     <message>
+        <source>IDS_QUEUE_NOT_SET_UP</source>
+        <translation>This print queue is not set up to keep the utility&apos;s settings, so nothing was saved. A print administrator can set it up with: orvo-printer-utility-cli setup %1</translation>
+    </message>
+    <message>
         <source>Shared Folder 1</source>
         <translation>Shared Folder 1</translation>
     </message>

@@ -104,6 +104,10 @@
         <translation>Ces réglages sont trop longs pour que le serveur d'impression les transmette au pilote de l'imprimante : ils ne peuvent pas être enregistrés. Raccourcissez ces listes, puis cliquez de nouveau sur OK :</translation>
     </message>
     <message>
+        <source>IDS_QUEUE_NOT_SET_UP</source>
+        <translation>Cette file d&apos;impression n&apos;est pas configurée pour conserver les réglages de l&apos;utilitaire : rien n&apos;a été enregistré. Un administrateur d&apos;impression peut la configurer avec : orvo-printer-utility-cli setup %1</translation>
+    </message>
+    <message>
         <source>Shared Folder 1</source>
         <translation>Dossier partagé 1</translation>
     </message>

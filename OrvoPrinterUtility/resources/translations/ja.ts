@@ -104,6 +104,10 @@
         <translation>設定が長すぎるため、プリントサーバーからプリンタードライバーに渡せず、保存できません。次の一覧を短くしてから、もう一度 OK を押してください:</translation>
     </message>
     <message>
+        <source>IDS_QUEUE_NOT_SET_UP</source>
+        <translation>この印刷キューはユーティリティの設定を保存するように設定されていないため、何も保存されませんでした。プリンター管理者は次のコマンドで設定できます: orvo-printer-utility-cli setup %1</translation>
+    </message>
+    <message>
         <source>Shared Folder 1</source>
         <translation>共有フォルダー 1</translation>
     </message>

@@ -104,6 +104,10 @@
         <translation>这些设置太长，打印服务器无法将其传递给打印机驱动程序，因此无法保存。请缩短以下列表，然后再次单击“确定”：</translation>
     </message>
     <message>
+        <source>IDS_QUEUE_NOT_SET_UP</source>
+        <translation>此打印队列尚未设置为保存本实用程序的设置，因此未保存任何内容。打印管理员可以使用以下命令进行设置：orvo-printer-utility-cli setup %1</translation>
+    </message>
+    <message>
         <source>Shared Folder 1</source>
         <translation>共享文件夹 1</translation>
     </message>

@@ -104,6 +104,10 @@
         <translation>這些設定太長，列印伺服器無法將其傳給印表機驅動程式，因此無法儲存。請縮短以下清單，然後再按一次「確定」：</translation>
     </message>
     <message>
+        <source>IDS_QUEUE_NOT_SET_UP</source>
+        <translation>此列印佇列尚未設定為儲存本公用程式的設定，因此未儲存任何內容。列印管理員可使用以下命令進行設定：orvo-printer-utility-cli setup %1</translation>
+    </message>
+    <message>
         <source>Shared Folder 1</source>
         <translation>共用資料夾 1</translation>
     </message>

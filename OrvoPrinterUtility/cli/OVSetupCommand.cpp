@@ -1,0 +1,107 @@
+#include "OVSetupCommand.h"
+
+#include "OVCommandLine.h"
+#include "OVQueueSetup.h"
+
+#include <QJsonObject>
+
+#include <cups/cups.h>
+
+#include <cstdio>
+#include <cstring>
+#include <termios.h>
+#include <unistd.h>
+
+namespace {
+
+using Exit = OVCommandLine::Exit;
+using Outcome = OVQueueSetup::Outcome;
+const QCommandLineOption removeOption("remove",
+                                      "Take the route out again; saved settings stay in the PPD.");
+// libcups asks again after a wrong password; three tries, as login programs allow.
+constexpr int passwordTries = 3;
+
+QString doneText(const QString &queue, bool remove, bool changed) {
+    if (remove)
+        return changed ? QStringLiteral("\"%1\" no longer takes the utility's saves; its saved "
+                                        "settings stay in the PPD.\n")
+                             .arg(queue)
+                       : QStringLiteral("\"%1\" was not set up; nothing changed.\n").arg(queue);
+    return changed ? QStringLiteral("\"%1\" is set up: saves reach the orvo-ppd-update filter, "
+                                    "print jobs print as before.\n")
+                         .arg(queue)
+                   : QStringLiteral("\"%1\" was already set up; nothing changed.\n").arg(queue);
+}
+
+int failure(const OVQueueSetup::Result &result, const QString &queue) {
+    const QString unchanged = QStringLiteral("; the queue is unchanged");
+    switch (result.outcome) {
+    case Outcome::ServerUnreachable:
+        return OVCommandLine::fail(Exit::ServerUnreachable, "cannot reach the CUPS server");
+    case Outcome::QueueUnknown:
+        return OVCommandLine::fail(Exit::QueueUnknown, "no queue \"" + queue + "\" on the server");
+    case Outcome::NoPPD:
+        return OVCommandLine::fail(Exit::Refused, "the queue \"" + queue +
+                                                      "\" has no PPD, so it cannot keep settings" +
+                                                      unchanged);
+    case Outcome::NotAuthorized:
+        return OVCommandLine::fail(
+            Exit::NotAuthorized,
+            "the server refused: changing a queue needs a print administrator (" + result.detail +
+                ")" + unchanged);
+    case Outcome::ServerLacksRoute:
+        return OVCommandLine::fail(
+            Exit::Failed, "the server cannot route the utility's saves: install the Orvo Printer "
+                          "Utility (its filter and MIME type file) on the print server" +
+                              unchanged);
+    default:
+        return OVCommandLine::fail(Exit::Failed, "setting up failed: " + result.detail);
+    }
+}
+
+void setEcho(bool on) {
+    termios mode{};
+    if (tcgetattr(STDIN_FILENO, &mode) != 0)
+        return;
+    mode.c_lflag = on ? (mode.c_lflag | ECHO) : (mode.c_lflag & ~tcflag_t(ECHO));
+    tcsetattr(STDIN_FILENO, TCSAFLUSH, &mode);
+}
+
+} // namespace
+
+void OVSetupCommand::addOptions(QCommandLineParser &parser) {
+    parser.addOption(removeOption);
+}
+
+// Asked on a terminal only: a script gets the refusal instead of a hang.
+const char *OVSetupCommand::askPassword(const char *prompt, http_t *, const char *, const char *,
+                                        void *tries) {
+    static char password[256];
+    if (!isatty(STDIN_FILENO) || ++*static_cast<int *>(tries) > passwordTries)
+        return nullptr;
+    std::fprintf(stderr, "%s ", prompt);
+    setEcho(false);
+    const bool read = std::fgets(password, sizeof password, stdin) != nullptr;
+    setEcho(true);
+    std::fputc('\n', stderr);
+    if (!read)
+        return nullptr;
+    password[std::strcspn(password, "\r\n")] = '\0';
+    return password;
+}
+
+int OVSetupCommand::run(const QCommandLineParser &parser, bool json) {
+    const QString queue = parser.positionalArguments().first();
+    const bool remove = parser.isSet(removeOption);
+    int tries = 0;
+    cupsSetPasswordCB2(askPassword, &tries);
+    const OVQueueSetup::Result result =
+        remove ? OVQueueSetup::remove(queue) : OVQueueSetup::setUp(queue);
+    if (result.outcome != Outcome::Changed && result.outcome != Outcome::Unchanged)
+        return failure(result, queue);
+    const bool changed = result.outcome == Outcome::Changed;
+    OVCommandLine::print(json,
+                         QJsonObject{{"queue", queue}, {"setUp", !remove}, {"changed", changed}},
+                         doneText(queue, remove, changed));
+    return Exit::Success;
+}
