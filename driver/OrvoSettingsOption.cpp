@@ -95,9 +95,15 @@ const char *OrvoSettingsOption::valueProblem(const Keyword &keyword, std::string
     return "not stored";
 }
 
-// Empty clears a slot that a longer, earlier list filled.
+// Empty clears a slot that a longer, earlier list filled. A chosen folder
+// added while no printer folder was selected has the index -1.
 bool OrvoSettingsOption::isDecimal(std::string_view value) {
-    return value.size() <= decimalDigitsLimit && std::all_of(value.begin(), value.end(), isDigit);
+    if (value.starts_with('-'))
+        value.remove_prefix(1);
+    else if (value.empty())
+        return true;
+    return !value.empty() && value.size() <= decimalDigitsLimit &&
+           std::all_of(value.begin(), value.end(), isDigit);
 }
 
 // Base64 with padding, as the utility writes it; empty clears the setting. A

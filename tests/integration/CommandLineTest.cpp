@@ -49,6 +49,14 @@ TEST(CommandLine, QueueAndPpdCommands) {
     CupsServer &server = CupsServerEnvironment::server();
     ASSERT_TRUE(server.addQueue("orvo"));
     ASSERT_TRUE(server.addQueue("plain", variant("plain.ppd", notSetUp(ppd))));
+    // Set-up queues whose route leads to a filter that fails on the update job, or to one
+    // that completes it without storing anything.
+    const auto routedTo = [&](const char *filter) {
+        return variant(filter,
+                       QByteArray(ppd).replace(" 0 orvo-ppd-update", QByteArray(" 0 ") + filter));
+    };
+    ASSERT_TRUE(server.addQueue("failing", routedTo("pdftopdf")) &&
+                server.addQueue("forgetful", routedTo("gziptoany")));
     QStringList tooManyProfiles{"save", "orvo"};
     QJsonArray names; // each fits, all together do not fit in one job
     for (int i = 0; i < 100; ++i) {
@@ -59,7 +67,8 @@ TEST(CommandLine, QueueAndPpdCommands) {
     const QByteArray tooLarge =
         QJsonDocument(QJsonObject{{"sharedFolders", names}, {"forms", names}}).toJson();
     EXPECT_EQ(cli({"list"}).second,
-              "orvo   set up      Orvo Printer\nplain  not set up  Orvo Printer\n");
+              "failing    set up      Orvo Printer\nforgetful  set up      Orvo Printer\n"
+              "orvo       set up      Orvo Printer\nplain      not set up  Orvo Printer\n");
     const QString german = variant("de.ppd", ppd + "*de.Translation Duplex/Beidseitig: \"\"\n");
     const QString longNames =
         variant("long.ppd", QByteArray(ppd).replace("Long Edge", QByteArray(90, 'L')));
@@ -72,6 +81,8 @@ TEST(CommandLine, QueueAndPpdCommands) {
     check({"save", "orvo", "--settings", "-"}, 6, "too large", tooLarge);
     check({"save", "plain", "--forms", "A"}, 6,
           "Set it up with: orvo-printer-utility-cli setup plain");
+    check({"save", "failing", "--forms", "A"}, 1, "did not complete (state");
+    check({"save", "forgetful", "--forms", "A"}, 1, "the PPD does not hold: PPDOptionsUpdated");
     // None of the refusals above sent a job.
     check({"show", "--json", "orvo"}, 0, "\"optionsUpdated\": false");
     check({"save", "orvo", "--customCommunity", "yes", "--community", "blue", "--forms", "A"}, 0,

@@ -8,10 +8,7 @@
 
 #include <gtest/gtest.h>
 
-#include <latch>
 #include <map>
-#include <thread>
-#include <vector>
 
 namespace {
 
@@ -79,12 +76,14 @@ TEST(SaveRoundTrip, EverySaveReadsBackAsStored) {
 
     const QString longName(1500, 'n'); // base64 of 2000 characters: only 1200 are kept
     OVSettingsSnapshot s;
+    s.isPPDOptionsUpdated = s.folderPersonalFolderCheck = true;
+    s.bAdminLoginModeEnabled = false;
     s.snmpCommunityCheck = s.overstepTheRouter = true;
     s.snmpCommunityText = "public";
     s.macAddressFields = {"0a", "1b", "2c", "3d", "4e", "5f"};
     s.printerIPAddressText = "fd00::7";
     s.allSharedBoxNames = {"営業部", "Design 🎨", longName};
-    s.selectedSharedBoxIndex = {1};
+    s.selectedSharedBoxIndex = {1, -1}; // -1: added while no printer folder was selected
     s.formNames = {"A4 invoice", "Label"};
     for (int i = 0; i < 31; ++i)
         s.colorProfileNames << QString("Profile %1").arg(i);
@@ -96,10 +95,16 @@ TEST(SaveRoundTrip, EverySaveReadsBackAsStored) {
         EXPECT_EQ(H::getPrinterIPAddress(ppd), "fd00::7");
         EXPECT_EQ(H::getSharedBoxDetailsArray(ppd),
                   (QStringList{"営業部", "Design 🎨", longName.left(900)}));
-        EXPECT_EQ(H::getSelectedSharedBoxIndexArray(ppd), QList<qint32>{1});
+        EXPECT_EQ(H::getSelectedSharedBoxIndexArray(ppd), (QList<qint32>{1, -1}));
         EXPECT_EQ(H::getColorProfileDetailsArray(ppd).size(), 30);
+        EXPECT_TRUE(H::isPPDOptionsUpdated(ppd) && H::isCustomSnmpCommunity(ppd));
+        EXPECT_FALSE(H::isAdminLoginModeEnabled(ppd));
+        EXPECT_TRUE(H::isPersonalFolderSelected(ppd));
     });
 
+    // Every flag flips; the router flag is stored off whenever Wake-on-LAN is off.
+    s.isPPDOptionsUpdated = s.folderPersonalFolderCheck = false;
+    s.bAdminLoginModeEnabled = true;
     s.snmpCommunityCheck = s.wakeOnLANCheck = false;
     s.snmpCommunityText = "ignored";
     s.formNames = {"Label"};
@@ -107,7 +112,9 @@ TEST(SaveRoundTrip, EverySaveReadsBackAsStored) {
     readBack([](ppd_file_t *ppd) {
         EXPECT_FALSE(H::isCustomSnmpCommunity(ppd));
         EXPECT_EQ(H::snmpCommunityName(ppd), "public");
-        EXPECT_FALSE(H::isWakeOnLan(ppd));
+        EXPECT_FALSE(H::isWakeOnLan(ppd) || H::isOverTheRouter(ppd));
+        EXPECT_FALSE(H::isPPDOptionsUpdated(ppd) || H::isPersonalFolderSelected(ppd));
+        EXPECT_TRUE(H::isAdminLoginModeEnabled(ppd));
         EXPECT_EQ(H::getPrinterMacAddress(ppd), "");
         EXPECT_EQ(H::getFormDetailsArray(ppd), QStringList{"Label"});
     });
@@ -227,41 +234,23 @@ TEST(UpdateJobSecurity, OnlyWellFormedSettingsReachThePPD) {
         EXPECT_EQ(others(after), others(before));
         EXPECT_EQ(after.contains("\n*PSFormName7_Part1: \"" + marker + "\"\n"), updateJob);
     }
+    // libcups reads PPD lines of up to 255 characters. Base64 values come in fours, so the
+    // longest community line that can be stored has 254 characters; the next one, 258, is
+    // refused and the stored line stays.
+    const QByteArray atLimit(232, 'Q'), overLimit(236, 'R');
+    EXPECT_EQ(
+        cups.waitForJob(cups.printJob(queue, "UpdatePPDOptions SnmpCommunityName=" + atLimit)),
+        IPP_JSTATE_COMPLETED);
+    EXPECT_EQ(
+        cups.waitForJob(cups.printJob(queue, "UpdatePPDOptions SnmpCommunityName=" + overLimit)),
+        IPP_JSTATE_COMPLETED);
+    EXPECT_TRUE(cups.queuePpd(queue).contains("\n*SnmpCommunityName: \"" + atLimit + "\"\n"));
     // The filter's log names refused options, but no name may close the quotes
     // around it, and ten thousand refusals are counted, not listed.
     const QByteArray log = cups.errorLog();
     EXPECT_TRUE(log.contains("Forged?Name"));
     EXPECT_TRUE(log.contains("more refused options are not listed"));
     EXPECT_LT(log.count("option \\\"J"), 100); // cupsd logs a quote as \"
-}
-
-// Saves from several windows at once queue up as separate jobs; the PPD must
-// end up holding one save's settings whole, never a mix of two.
-TEST(UpdateJobConcurrency, SimultaneousSavesLeaveOneCompleteSettingsSet) {
-    constexpr char queue[] = "OrvoConcurrency";
-    constexpr int saves = 20;
-    CupsServer &cups = CupsServerEnvironment::server();
-    ASSERT_TRUE(cups.addQueue(queue));
-    std::vector<int> jobIds(saves);
-    std::latch start(saves);
-    std::vector<std::jthread> senders;
-    for (int save = 0; save < saves; ++save)
-        senders.emplace_back([&, save] {
-            const QByteArray options = jobOptions(save);
-            start.arrive_and_wait();
-            jobIds[save] = cups.printJob(queue, options);
-        });
-    senders.clear(); // joins
-    for (int jobId : jobIds)
-        EXPECT_EQ(cups.waitForJob(jobId), IPP_JSTATE_COMPLETED) << jobId;
-
-    EXPECT_EQ(OVStoredSettings::withQueuePPD(queue, [](ppd_file_t *) {}),
-              OVStoredSettings::Status::Loaded);
-    const Settings found = settingsIn(cups.queuePpd(queue));
-    int whole = 0;
-    for (int save = 0; save < saves; ++save)
-        whole += found == completeSet(save);
-    EXPECT_EQ(whole, 1);
 }
 
 } // namespace

@@ -5,6 +5,9 @@
 
 #include <QTemporaryFile>
 
+#include <QMap>
+#include <QRegularExpression>
+
 #include <gtest/gtest.h>
 
 #include <memory>
@@ -115,40 +118,53 @@ TEST(OrvoSNMPHelper, ArraysSkipEmptyEntriesAndStopAtTheirLimit) {
               QList<qint32>({12, 0, 2147483647}));
 }
 
-// The community name goes only with a custom community; the address whenever
-// its field yields a string, even an empty one.
-TEST(OVUpdateJob, EverySlotInOrder) {
-    const auto slotNames = [](const QByteArray &keyword, int count, int parts) {
-        QList<QByteArray> names;
-        for (int i = 0; i < count; ++i)
-            for (int part = 1; part <= parts; ++part)
-                names << keyword + QByteArray::number(i) +
-                             (parts > 1 ? "_Part" + QByteArray::number(part) : "");
-        return names;
-    };
-    const std::tuple<bool, QString, qsizetype> cases[] = {
-        {true, "10.0.0.5", 2690}, {false, "", 2689}, {false, QString(), 2688}};
-    for (const auto &[community, address, count] : cases) {
-        QList<QByteArray> expected{"UpdatePPDOptions", "PPDOptionsUpdated",
-                                   "IsCustomSnmpCommunity"};
-        if (community)
-            expected << "SnmpCommunityName";
-        expected += {"IsWakeOnLan", "PrinterMacAddress", "IsOverTheRouter"};
-        if (!address.isNull())
-            expected << "PrinterIPAddress";
-        expected << slotNames("SharedBoxName", 100, 6) << slotNames("SelSharedBoxName", 100, 6)
-                 << slotNames("SelSharedBoxIndex", 100, 1) << "UsePersonalFolder"
-                 << "AdminLoginModeEnabled" << slotNames("PSFormName", 100, 6)
-                 << slotNames("BarcodeAreaDefName", 100, 6) << slotNames("ColorProfileName", 30, 6);
-        OVSettingsSnapshot snapshot;
-        snapshot.snmpCommunityCheck = community;
-        snapshot.printerIPAddressText = address;
-        QList<QByteArray> names;
-        for (const auto &option : OVUpdateJob::optionList(snapshot))
-            names << option.first;
-        EXPECT_EQ(names.size(), count);
-        EXPECT_EQ(names, expected);
+// The values the driver stores, the keyword groups in their order, and every list slot written
+// (so that a shorter list clears the entries of a longer one). The community name goes only
+// with a custom community; the address whenever its field yields a string, even an empty one.
+TEST(OVUpdateJob, OptionValuesAndOrder) {
+    OVSettingsSnapshot s;
+    s.snmpCommunityCheck = s.overstepTheRouter = true;
+    s.wakeOnLANCheck = false;
+    s.snmpCommunityText = "blue";
+    s.printerIPAddressText = "10.0.0.5";
+    s.selectedSharedBoxIndex = {1, -1};
+    s.formNames = {"Invoice"};
+    QMap<QByteArray, QByteArray> values;
+    QList<QByteArray> groups;
+    static const QRegularExpression slot(QStringLiteral("\\d+(_Part\\d)?$"));
+    for (const auto &[name, value] : OVUpdateJob::optionList(s)) {
+        values[name] = value;
+        const QByteArray group = QString::fromLatin1(name).remove(slot).toLatin1();
+        if (groups.isEmpty() || groups.last() != group)
+            groups << group;
     }
+    EXPECT_EQ(groups,
+              (QList<QByteArray>{"UpdatePPDOptions", "PPDOptionsUpdated", "IsCustomSnmpCommunity",
+                                 "SnmpCommunityName", "IsWakeOnLan", "PrinterMacAddress",
+                                 "IsOverTheRouter", "PrinterIPAddress", "SharedBoxName",
+                                 "SelSharedBoxName", "SelSharedBoxIndex", "UsePersonalFolder",
+                                 "AdminLoginModeEnabled", "PSFormName", "BarcodeAreaDefName",
+                                 "ColorProfileName"}));
+    const std::pair<QByteArray, QByteArray> expected[] = {
+        {"UpdatePPDOptions", "True"},
+        {"SnmpCommunityName", "Ymx1ZQ=="},
+        {"PrinterMacAddress", ""},
+        {"IsOverTheRouter", "0"},
+        {"PrinterIPAddress", "MTAuMC4wLjU="},
+        {"SelSharedBoxIndex0", "1"},
+        {"SelSharedBoxIndex1", "-1"},
+        {"SelSharedBoxIndex99", ""},
+        {"PSFormName0_Part1", "SW52b2ljZQ=="},
+        {"PSFormName99_Part6", ""},
+        {"ColorProfileName29_Part6", ""},
+    };
+    for (const auto &[name, value] : expected)
+        EXPECT_EQ(values.value(name, "(absent)"), value) << name.constData();
+    EXPECT_FALSE(values.contains("ColorProfileName30_Part1"));
+    EXPECT_EQ(values.size(), 2690);
+    s.snmpCommunityCheck = false;
+    s.printerIPAddressText = QString();
+    EXPECT_EQ(OVUpdateJob::optionList(s).size(), 2688);
 }
 
 } // namespace
