@@ -4,6 +4,7 @@
 #include "OrvoPPDMessageWriter.h"
 #include "OrvoSettingsKeywords.h"
 #include "OrvoSettingsOption.h"
+#include "OrvoStoredSettings.h"
 
 #include <cstdio>
 #include <cstdlib>
@@ -70,12 +71,15 @@ bool OrvoPPDUpdateFilter::looksLikeJobAttribute(const char *name) {
 }
 
 void OrvoPPDUpdateFilter::store(int count, cups_option_t *options, OrvoFilterLog &log) {
+    const OrvoStoredSettings current(std::getenv("PPD"));
     OrvoPPDMessageWriter writer(stderr);
     std::size_t stored = 0;
     for (int i = 0; i < count; ++i) {
         const auto [verdict, reason] = OrvoSettingsOption::check(options[i].name, options[i].value);
         switch (verdict) {
         case OrvoSettingsOption::Verdict::Store:
+            if (current.unchangedBy(options[i].name, options[i].value))
+                break;
             writer.add(options[i].name, options[i].value);
             ++stored;
             break;

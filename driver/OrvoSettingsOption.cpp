@@ -34,6 +34,12 @@ OrvoSettingsOption::Result OrvoSettingsOption::check(std::string_view name,
     return {Verdict::Store, nullptr};
 }
 
+bool OrvoSettingsOption::absentReadsAsEmpty(std::string_view name) {
+    const Keyword *keyword = keywordFor(name);
+    return keyword &&
+           (keyword->encoding == Encoding::MultiPart || keyword->encoding == Encoding::Decimal);
+}
+
 const OrvoSettingsOption::Keyword *OrvoSettingsOption::keywordFor(std::string_view name) {
     for (const Keyword &keyword : OrvoSettingsKeywords::all) {
         if (!name.starts_with(keyword.name))

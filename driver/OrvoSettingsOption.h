@@ -24,6 +24,9 @@ public:
     };
 
     static Result check(std::string_view name, std::string_view value);
+    // Whether the settings reader takes the keyword's absence for an empty
+    // value: list entries and indices, not flags or single texts.
+    static bool absentReadsAsEmpty(std::string_view name);
 
     // The longest line a PPD file may hold: once one attribute line is longer,
     // cupsd cannot load the queue's PPD again and refuses every job.

@@ -1,5 +1,6 @@
 #include "OVCommandLine.h"
 
+#include "OVCupsConnection.h"
 #include "OVFetchCommand.h"
 #include "OVPpdCommand.h"
 #include "OVQueueCommands.h"
@@ -20,6 +21,10 @@ constexpr char programName[] = "orvo-printer-utility-cli";
 const QCommandLineOption helpOption("help", "Show this help.");
 const QCommandLineOption jsonOption("json", "Print machine-readable JSON.");
 const QCommandLineOption serverOption("h", "Use the CUPS server SERVER[:PORT].", "server");
+const QCommandLineOption
+    timeoutOption("timeout",
+                  "Give up after this many seconds, waiting for the server included (default 60).",
+                  "seconds", "60");
 
 } // namespace
 
@@ -74,7 +79,7 @@ QString OVCommandLine::usage(const Command &command) {
 int OVCommandLine::runCommand(const Command &command, const QStringList &arguments) {
     QCommandLineParser parser;
     parser.setApplicationDescription(command.summary);
-    parser.addOptions({helpOption, jsonOption, serverOption});
+    parser.addOptions({helpOption, jsonOption, serverOption, timeoutOption});
     if (command.addOptions)
         command.addOptions(parser);
     const QStringList positional = QString(command.arguments).split(' ', Qt::SkipEmptyParts);
@@ -93,6 +98,11 @@ int OVCommandLine::runCommand(const Command &command, const QStringList &argumen
         return fail(Usage, usage(command));
     if (parser.isSet(serverOption))
         cupsSetServer(parser.value(serverOption).toUtf8().constData());
+    bool validTimeout = false;
+    const int timeout = parser.value(timeoutOption).toInt(&validTimeout);
+    if (!validTimeout || timeout <= 0)
+        return fail(Usage, "invalid --timeout");
+    OVCupsConnection::setDeadline(OVCupsConnection::Clock::now() + std::chrono::seconds(timeout));
     return command.run(parser, parser.isSet(jsonOption));
 }
 
@@ -108,8 +118,29 @@ void OVCommandLine::print(bool json, const QJsonValue &value, const QString &tex
 }
 
 int OVCommandLine::fail(Exit code, const QString &message) {
-    QTextStream(stderr) << programName << ": " << message << "\n";
+    QTextStream(stderr) << programName << ": " << visible(message) << "\n";
     return code;
+}
+
+int OVCommandLine::serverFailure() {
+    return fail(ServerUnreachable, OVCupsConnection::pastDeadline()
+                                       ? QStringLiteral("the CUPS server did not answer in time")
+                                       : QStringLiteral("cannot reach the CUPS server"));
+}
+
+QString OVCommandLine::visible(const QString &text) {
+    QString shown;
+    shown.reserve(text.size());
+    for (const QChar c : text) {
+        const char16_t u = c.unicode();
+        if (u == '\\')
+            shown += QStringLiteral("\\\\");
+        else if (u < 0x20 || (u >= 0x7f && u < 0xa0))
+            shown += QStringLiteral("\\x%1").arg(u, 2, 16, QChar('0'));
+        else
+            shown += c;
+    }
+    return shown;
 }
 
 void OVCommandLine::progress(const QString &message) {

@@ -21,6 +21,7 @@ public:
         PrinterSilent = 5,
         Refused = 6,       // the job could not reach the driver; nothing was sent
         NotAuthorized = 7, // the server wants a print administrator
+        Queued = 8,        // the update job was sent but had not run when the time was up
     };
 
     struct Command {
@@ -36,6 +37,12 @@ public:
     // Prints a result: JSON when asked for, else the text.
     static void print(bool json, const QJsonValue &value, const QString &text);
     static int fail(Exit code, const QString &message);
+    // The CUPS server did not answer: not reachable, or not within --timeout.
+    static int serverFailure();
+    // A name or value for text output: control characters (C0, DEL, C1) and
+    // the backslash are shown escaped, so that text any user who may print
+    // can store never reaches the terminal as a command or a forged line.
+    static QString visible(const QString &text);
     // A progress line on a terminal only (stderr), overwritten by the next.
     static void progress(const QString &message);
 

@@ -8,6 +8,7 @@
 
 #include <QJsonArray>
 #include <QJsonObject>
+#include <QRegularExpression>
 
 #include <unistd.h>
 
@@ -23,16 +24,27 @@ const QCommandLineOption wakeOption("wake", "Wake the printer first (needs --mac
 const QCommandLineOption macOption("mac", "The printer's MAC address, for --wake.", "mac");
 const QCommandLineOption routerOption("over-router", "Wake the printer across a router.");
 
+// A printer stays silent both when nothing answers at the address and when
+// the community is not the printer's: SNMP v1 does not tell the two apart.
 int silent(const QString &address, const QString &what) {
-    return OVCommandLine::fail(
-        Exit::PrinterSilent,
-        QStringLiteral("the printer at %1 did not answer (%2)").arg(address, what));
+    return OVCommandLine::fail(Exit::PrinterSilent,
+                               QStringLiteral("the printer at %1 did not answer (%2); the address "
+                                              "or the SNMP community may be wrong")
+                                   .arg(address, what));
+}
+
+// Six hexadecimal octets separated by ":" or "-" throughout, the forms
+// printers and ip(8) show. Anything else would wake another machine or none.
+bool isMacAddress(const QString &mac) {
+    static const QRegularExpression form(
+        QStringLiteral("^[0-9A-Fa-f]{2}([:-])[0-9A-Fa-f]{2}(\\1[0-9A-Fa-f]{2}){4}$"));
+    return form.match(mac).hasMatch();
 }
 
 QString listText(const char *title, const QStringList &items) {
     QString text = QStringLiteral("%1: (%2)\n").arg(title).arg(items.size());
     for (const QString &item : items)
-        text += "  " + item + "\n";
+        text += "  " + OVCommandLine::visible(item) + "\n";
     return text;
 }
 
@@ -43,8 +55,10 @@ bool wake(const QString &address, const QString &community, const QCommandLinePa
             QStringLiteral("Waiting %1 s for the printer to wake up...").arg(seconds));
         sleep(seconds);
     });
-    const bool awake = OVWakeOnLanHelper::SnmpWakeUpOnLan(
-        address, parser.value(macOption), community, true, parser.isSet(routerOption));
+    // The wake flow reads the octets between colons.
+    const QString mac = parser.value(macOption).replace('-', ':');
+    const bool awake = OVWakeOnLanHelper::SnmpWakeUpOnLan(address, mac, community, true,
+                                                          parser.isSet(routerOption));
     OVCommandLine::progress(QString());
     OVSleep::setSleeper({});
     return awake;
@@ -64,6 +78,10 @@ int OVFetchCommand::run(const QCommandLineParser &parser, bool json) {
         return OVCommandLine::fail(Exit::Usage, "--address is required");
     if (parser.isSet(wakeOption) && !parser.isSet(macOption))
         return OVCommandLine::fail(Exit::Usage, "--wake needs --mac");
+    if (parser.isSet(macOption) && !isMacAddress(parser.value(macOption)))
+        return OVCommandLine::fail(Exit::Usage,
+                                   "--mac takes six hexadecimal octets separated by \":\" or "
+                                   "\"-\", such as 00:11:22:aa:bb:cc");
     if (parser.isSet(wakeOption) && !wake(address, community, parser))
         return silent(address, "it did not wake up");
     const QByteArray peer = address.toUtf8();
@@ -99,10 +117,10 @@ int OVFetchCommand::run(const QCommandLineParser &parser, bool json) {
                              {"forms", QJsonArray::fromStringList(*forms)},
                              {"barcodeAreas", QJsonArray::fromStringList(*barcodes)},
                              {"colorProfiles", QJsonArray::fromStringList(*profiles)}};
-    const QString text =
-        QStringLiteral("macAddress: %1\nadminLoginMode: %2\n").arg(mac, adminLogin ? "yes" : "no") +
-        listText("sharedFolders", boxLines) + listText("forms", *forms) +
-        listText("barcodeAreas", *barcodes) + listText("colorProfiles", *profiles);
+    const QString text = QStringLiteral("macAddress: %1\nadminLoginMode: %2\n")
+                             .arg(OVCommandLine::visible(mac), adminLogin ? "yes" : "no") +
+                         listText("sharedFolders", boxLines) + listText("forms", *forms) +
+                         listText("barcodeAreas", *barcodes) + listText("colorProfiles", *profiles);
     OVCommandLine::print(json, result, text);
     return Exit::Success;
 }

@@ -142,21 +142,25 @@ int OVPpdCommand::run(const QCommandLineParser &parser, bool json) {
 }
 
 QString OVPpdCommand::toText(const QJsonObject &ppd) {
+    // Every text comes from the PPD file, which need not be trusted.
+    const auto shown = [](const QJsonValue &object, const char *key) {
+        return OVCommandLine::visible(object[key].toString());
+    };
     QString text;
     for (const QJsonValue &group : ppd["groups"].toArray()) {
-        text += "Group " + group["name"].toString() + "\n";
+        text += "Group " + shown(group, "name") + "\n";
         for (const QJsonValue &option : group["options"].toArray()) {
-            text += QStringLiteral("  %1 \"%2\" (default %3)\n")
-                        .arg(option["keyword"].toString(), option["text"].toString(),
-                             option["default"].toString());
+            text +=
+                QStringLiteral("  %1 \"%2\" (default %3)\n")
+                    .arg(shown(option, "keyword"), shown(option, "text"), shown(option, "default"));
             for (const QJsonValue &choice : option["choices"].toArray())
                 text += QStringLiteral("    %1 \"%2\"\n")
-                            .arg(choice["choice"].toString(), choice["text"].toString());
+                            .arg(shown(choice, "choice"), shown(choice, "text"));
         }
     }
     text += "Attributes\n";
     for (const QJsonValue &attribute : ppd["attributes"].toArray())
-        text += QStringLiteral("  *%1: %2\n")
-                    .arg(attribute["name"].toString(), attribute["value"].toString());
+        text +=
+            QStringLiteral("  *%1: %2\n").arg(shown(attribute, "name"), shown(attribute, "value"));
     return text;
 }

@@ -13,52 +13,65 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QThread>
 
 #include <cups/cups.h>
 
 #include <algorithm>
-#include <chrono>
 
 namespace {
 
 using Exit = OVCommandLine::Exit;
-constexpr char noServer[] = "cannot reach the CUPS server";
 const QCommandLineOption settingsFileOption(
     "settings", "Read settings from a JSON file (\"-\": standard input), keys as \"show --json\".",
     "file");
-const QCommandLineOption
-    timeoutOption("timeout", "Wait at most this long for the job (default 60).", "seconds", "60");
 
 int loadFailure(OVStoredSettings::Status status, const QString &queue) {
     switch (status) {
     case OVStoredSettings::Status::ServerUnreachable:
-        return OVCommandLine::fail(Exit::ServerUnreachable, noServer);
+        return OVCommandLine::serverFailure();
     case OVStoredSettings::Status::NoPPD:
-        return OVCommandLine::fail(Exit::QueueUnknown,
-                                   "no queue \"" + queue + "\" with a PPD on the server");
+        if (OVQueueSetup::state(queue) == OVQueueSetup::State::QueueUnknown)
+            return OVCommandLine::fail(Exit::QueueUnknown,
+                                       "no queue \"" + queue + "\" on the server");
+        return OVCommandLine::fail(Exit::Refused, "the queue \"" + queue +
+                                                      "\" has no PPD, so it keeps no settings");
     default:
         return OVCommandLine::fail(Exit::Failed, "the PPD of \"" + queue + "\" cannot be read");
     }
 }
 
-// The job's last state once it has ended, or when the time is up.
-ipp_jstate_t waitForJob(const QString &queue, int jobId, std::chrono::seconds limit) {
-    const auto deadline = std::chrono::steady_clock::now() + limit;
-    ipp_jstate_t state = IPP_JSTATE_PENDING;
-    while (state < IPP_JSTATE_STOPPED && std::chrono::steady_clock::now() < deadline) {
-        QThread::msleep(200);
-        const OVCupsConnection connection;
-        cups_job_t *jobs = nullptr;
-        const int count = cupsGetJobs2(connection.http(), &jobs, queue.toUtf8().constData(), 0,
-                                       CUPS_WHICHJOBS_ALL);
-        for (int i = 0; i < count; ++i) {
-            if (jobs[i].id == jobId)
-                state = jobs[i].state;
-        }
-        cupsFreeJobs(count, jobs);
+// What became of a sent update job, said as what it is.
+int jobFailure(const OVUpdateJob::JobOutcome &outcome, int jobId) {
+    using End = OVUpdateJob::JobEnd;
+    switch (outcome.end) {
+    case End::Vanished:
+        return OVCommandLine::fail(
+            Exit::Failed, QStringLiteral("update job %1 is gone from the server before it ended "
+                                         "(cancelled, or the server restarted); nothing was stored")
+                              .arg(jobId));
+    case End::Pending:
+        return OVCommandLine::fail(
+            Exit::Queued, QStringLiteral("update job %1 is queued (%2); it may still be applied "
+                                         "when the queue runs")
+                              .arg(jobId)
+                              .arg(ippEnumString("job-state", outcome.state)));
+    default:
+        return OVCommandLine::fail(Exit::Failed,
+                                   QStringLiteral("update job %1 did not complete (state %2)")
+                                       .arg(jobId)
+                                       .arg(ippEnumString("job-state", outcome.state)));
     }
-    return state;
+}
+
+// A save that completed but left a PPD the server cannot use (a server that
+// died while writing it, a full disk) must be said, with the way back.
+int damaged(const QString &queue) {
+    return OVCommandLine::fail(Exit::Failed,
+                               "the PPD of \"" + queue +
+                                   "\" is damaged after the save: restore the route with "
+                                   "\"orvo-printer-utility-cli setup " +
+                                   queue + "\"; the server keeps the PPD it had before as ppd/" +
+                                   queue + ".ppd.O in its configuration folder (/etc/cups)");
 }
 
 // The job's options that the PPD does not hold as attributes with the same
@@ -94,20 +107,21 @@ QString readSettingsFile(const QString &path, QJsonObject &json) {
 int OVQueueCommands::list(const QCommandLineParser &, bool json) {
     const auto queues = OVQueueSetup::queues();
     if (!queues)
-        return OVCommandLine::fail(Exit::ServerUnreachable, noServer);
+        return OVCommandLine::serverFailure();
     QJsonArray rows;
     QString text;
     qsizetype width = 0;
     for (const OVQueueSetup::Queue &queue : *queues)
-        width = std::max(width, queue.name.size());
+        width = std::max(width, OVCommandLine::visible(queue.name).size());
     for (const OVQueueSetup::Queue &queue : *queues) {
         rows << QJsonObject{{"queue", queue.name},
                             {"setUp", queue.setUp},
                             {"description", queue.description},
                             {"makeAndModel", queue.makeAndModel}};
         text += QStringLiteral("%1  %2  %3\n")
-                    .arg(queue.name.leftJustified(width), queue.setUp ? "set up    " : "not set up",
-                         queue.makeAndModel);
+                    .arg(OVCommandLine::visible(queue.name).leftJustified(width),
+                         queue.setUp ? "set up    " : "not set up",
+                         OVCommandLine::visible(queue.makeAndModel));
     }
     OVCommandLine::print(json, rows, text);
     return Exit::Success;
@@ -125,16 +139,12 @@ int OVQueueCommands::show(const QCommandLineParser &parser, bool json) {
 }
 
 void OVQueueCommands::addSaveOptions(QCommandLineParser &parser) {
-    parser.addOptions({settingsFileOption, timeoutOption});
+    parser.addOption(settingsFileOption);
     parser.addOptions(OVSettingsFields::options());
 }
 
 int OVQueueCommands::save(const QCommandLineParser &parser, bool json) {
     const QString queue = parser.positionalArguments().first();
-    bool validTimeout = false;
-    const int timeout = parser.value(timeoutOption).toInt(&validTimeout);
-    if (!validTimeout || timeout <= 0)
-        return OVCommandLine::fail(Exit::Usage, "invalid --timeout");
     QJsonObject given;
     if (parser.isSet(settingsFileOption)) {
         if (const QString error = readSettingsFile(parser.value(settingsFileOption), given);
@@ -165,21 +175,21 @@ int OVQueueCommands::save(const QCommandLineParser &parser, bool json) {
             Exit::Refused, "the settings are too large for one update job; nothing was sent");
     const int jobId = OVUpdateJob::saveOptionsToPPD(settings, queue);
     if (jobId == 0)
-        return OVCommandLine::fail(Exit::Failed, "the update job was not accepted: " +
-                                                     QString::fromUtf8(cupsLastErrorString()));
-    const ipp_jstate_t state = waitForJob(queue, jobId, std::chrono::seconds(timeout));
-    if (state != IPP_JSTATE_COMPLETED)
         return OVCommandLine::fail(Exit::Failed,
-                                   QStringLiteral("update job %1 did not complete (state %2)")
-                                       .arg(jobId)
-                                       .arg(ippEnumString("job-state", state)));
+                                   QStringLiteral("the server did not accept the update job: %1")
+                                       .arg(QString::fromUtf8(ippErrorString(cupsLastError()))));
+    if (const auto outcome = OVUpdateJob::waitForJob(jobId);
+        outcome.end != OVUpdateJob::JobEnd::Completed)
+        return jobFailure(outcome, jobId);
     QStringList differing;
-    if (const auto status = OVStoredSettings::withQueuePPD(
-            queue,
-            [&](ppd_file_t *ppd) {
-                differing = missingFrom(ppd, OVUpdateJob::optionList(settings));
-            });
-        status != OVStoredSettings::Status::Loaded)
+    const auto status = OVStoredSettings::withQueuePPD(queue, [&](ppd_file_t *ppd) {
+        differing = missingFrom(ppd, OVUpdateJob::optionList(settings));
+    });
+    if (status == OVStoredSettings::Status::UnreadablePPD ||
+        (status == OVStoredSettings::Status::Loaded &&
+         OVQueueSetup::state(queue) == OVQueueSetup::State::NotSetUp))
+        return damaged(queue);
+    if (status != OVStoredSettings::Status::Loaded)
         return loadFailure(status, queue);
     QJsonObject result{{"queue", queue},
                        {"job", jobId},

@@ -1,5 +1,7 @@
 #include "OVSettingsFields.h"
 
+#include "OVCommandLine.h"
+
 #include "OVStoredSettings.h"
 
 #include "OrvoSettingsKeywords.h"
@@ -163,11 +165,12 @@ QString OVSettingsFields::toText(const OVSettingsSnapshot &settings) {
         if (value.isBool())
             text += QStringLiteral("%1: %2\n").arg(field.key, value.toBool() ? "yes" : "no");
         else if (value.isString())
-            text += QStringLiteral("%1: %2\n").arg(field.key, value.toString());
+            text +=
+                QStringLiteral("%1: %2\n").arg(field.key, OVCommandLine::visible(value.toString()));
         else {
             text += QStringLiteral("%1: (%2)\n").arg(field.key).arg(value.toArray().size());
             for (const QJsonValue &item : value.toArray())
-                text += "  " + item.toVariant().toString() + "\n";
+                text += "  " + OVCommandLine::visible(item.toVariant().toString()) + "\n";
         }
     }
     return text;

@@ -37,7 +37,7 @@ int failure(const OVQueueSetup::Result &result, const QString &queue) {
     const QString unchanged = QStringLiteral("; the queue is unchanged");
     switch (result.outcome) {
     case Outcome::ServerUnreachable:
-        return OVCommandLine::fail(Exit::ServerUnreachable, "cannot reach the CUPS server");
+        return OVCommandLine::serverFailure();
     case Outcome::QueueUnknown:
         return OVCommandLine::fail(Exit::QueueUnknown, "no queue \"" + queue + "\" on the server");
     case Outcome::NoPPD:

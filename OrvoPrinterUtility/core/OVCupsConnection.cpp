@@ -2,10 +2,33 @@
 
 #include <cups/cups.h>
 
+#include <algorithm>
+
+namespace {
+
+// How often libcups asks whether to go on waiting for an answer.
+constexpr double waitSlice = 0.25;
+
+} // namespace
+
 OVCupsConnection::OVCupsConnection()
-    : m_http(httpConnectEncrypt(cupsServer(), ippPort(), cupsEncryption())) {}
+    : m_deadline(s_deadline.value_or(Clock::now() + defaultLimit))
+    , m_http(nullptr) {
+    using std::chrono::milliseconds;
+    const auto left = std::chrono::duration_cast<milliseconds>(m_deadline - Clock::now());
+    if (left.count() <= 0)
+        return;
+    m_http = httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1,
+                          int(std::min<milliseconds::rep>(left.count(), 1 << 30)), nullptr);
+    if (m_http)
+        httpSetTimeout(m_http, waitSlice, keepWaiting, this);
+}
 
 OVCupsConnection::~OVCupsConnection() {
     if (m_http)
         httpClose(m_http);
+}
+
+int OVCupsConnection::keepWaiting(http_t *, void *connection) {
+    return Clock::now() < static_cast<OVCupsConnection *>(connection)->m_deadline;
 }

@@ -26,4 +26,6 @@ struct OVSettingsSnapshot {
     QStringList formNames;
     QStringList barcodeAreaDefinitionNames;
     QStringList colorProfileNames;
+
+    bool operator==(const OVSettingsSnapshot &) const = default;
 };

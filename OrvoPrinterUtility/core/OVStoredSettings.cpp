@@ -6,6 +6,8 @@
 #include "OrvoSNMPHelper.h"
 #include "OrvoSettingsKeywords.h"
 
+#include <cups/cups.h>
+
 #include <unistd.h>
 
 namespace {
@@ -76,9 +78,12 @@ OVStoredSettings::withQueuePPD(const QString &printerID,
     if (!connection)
         return Status::ServerUnreachable;
     FetchedPPD fetched;
-    fetched.fileName = r_cupsGetPPD2(connection.http(), printerID.toLatin1().constData());
+    fetched.fileName = r_cupsGetPPD2(connection.http(), printerID.toUtf8().constData());
+    // "Not found" is the server's answer for a queue without a PPD (or
+    // without a name); anything else means it did not answer.
     if (fetched.fileName.isEmpty())
-        return Status::NoPPD;
+        return cupsLastError() == IPP_STATUS_ERROR_NOT_FOUND ? Status::NoPPD
+                                                             : Status::ServerUnreachable;
     fetched.ppd = r_ppdOpenFile(fetched.fileName.constData());
     if (!fetched.ppd)
         return Status::UnreadablePPD;

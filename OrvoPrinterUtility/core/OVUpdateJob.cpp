@@ -4,6 +4,7 @@
 #include "OrvoSettingsKeywords.h"
 
 #include <QStringList>
+#include <QThread>
 
 #include <algorithm>
 #include <cstdio>
@@ -16,6 +17,8 @@ namespace {
 
 constexpr int tempFileNameSize = 1024;
 constexpr char documentFormatOption[] = "document-format";
+// An update job ends about 0.1 s after it was sent to a local queue.
+constexpr unsigned long jobPollMs = 50;
 // cupsd puts a backslash before each of these when it builds the filter
 // argument from the job's options.
 constexpr char escapedCharacters[] = " \t\n\\'\"";
@@ -167,4 +170,32 @@ int OVUpdateJob::saveOptionsToPPD(const OVSettingsSnapshot &snapshot, const QStr
     }
     cupsFreeOptions(numOptions, options);
     return jobId;
+}
+
+OVUpdateJob::JobOutcome OVUpdateJob::waitForJob(int jobId) {
+    const OVCupsConnection connection;
+    char uri[HTTP_MAX_URI];
+    httpAssembleURIf(HTTP_URI_CODING_ALL, uri, sizeof uri, "ipp", nullptr, "localhost", ippPort(),
+                     "/jobs/%d", jobId);
+    ipp_jstate_t state = IPP_JSTATE_PENDING;
+    while (connection && !connection.expired()) {
+        ipp_t *request = ippNewRequest(IPP_OP_GET_JOB_ATTRIBUTES);
+        ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_URI, "job-uri", nullptr, uri);
+        ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", nullptr,
+                     "job-state");
+        ipp_t *response = cupsDoRequest(connection.http(), request, "/");
+        if (cupsLastError() == IPP_STATUS_ERROR_NOT_FOUND) {
+            ippDelete(response);
+            return {JobEnd::Vanished, state};
+        }
+        if (ipp_attribute_t *reported = ippFindAttribute(response, "job-state", IPP_TAG_ENUM))
+            state = ipp_jstate_t(ippGetInteger(reported, 0));
+        ippDelete(response);
+        if (state == IPP_JSTATE_COMPLETED)
+            return {JobEnd::Completed, state};
+        if (state >= IPP_JSTATE_STOPPED)
+            return {JobEnd::Ended, state};
+        QThread::msleep(jobPollMs);
+    }
+    return {JobEnd::Pending, state};
 }

@@ -52,4 +52,17 @@ public:
     // queue printerID. Reports nothing; returns the job id, or 0 when no job
     // was sent. Only a set-up queue accepts that format (OVQueueSetup).
     static int saveOptionsToPPD(const OVSettingsSnapshot &snapshot, const QString &printerID);
+
+    enum class JobEnd {
+        Completed,
+        Ended,    // stopped, canceled or aborted: nothing was stored
+        Vanished, // the server no longer knows the job
+        Pending,  // not ended when the time was up; it may still run
+    };
+    struct JobOutcome {
+        JobEnd end;
+        ipp_jstate_t state; // the last state the server reported
+    };
+    // Waits for the job to end, as long as a connection's time limit allows.
+    static JobOutcome waitForJob(int jobId);
 };

@@ -1,14 +1,19 @@
 #include "CupsServerEnvironment.h"
 #include "OVStoredSettings.h"
 #include "OVUpdateJob.h"
+#include "OrvoPPD_Interface.h"
 #include "OrvoSNMPHelper.h"
 #include "OrvoSettingsKeywords.h"
 
 #include <QRegularExpression>
+#include <QSet>
+#include <QTemporaryFile>
 
 #include <gtest/gtest.h>
 
 #include <map>
+
+#include <sys/stat.h>
 
 namespace {
 
@@ -44,16 +49,53 @@ QByteArray jobOptions(int save) {
     return text;
 }
 
-// The `*Keyword: "value"` lines of a PPD text whose keyword is a setting.
+// The `*Keyword: "value"` lines of a PPD text whose keyword is a setting, but for empty values,
+// which read as absent ones do.
 Settings settingsIn(const QByteArray &ppd) {
     static const Settings known = completeSet(0);
     static const QRegularExpression line(QStringLiteral("^\\*(\\w+): \"([^\"]*)\"$"),
                                          QRegularExpression::MultilineOption);
     Settings found;
     for (const QRegularExpressionMatch &match : line.globalMatch(QString::fromLatin1(ppd)))
-        if (known.contains(match.captured(1).toLatin1()))
+        if (known.contains(match.captured(1).toLatin1()) && !match.captured(2).isEmpty())
             found[match.captured(1).toLatin1()] = match.captured(2).toLatin1();
     return found;
+}
+
+// The PPD as cupsd would write it if the filter handed over every option of the job.
+QByteArray withEveryOption(const QByteArray &ppd, const OVUpdateJob::OptionList &options) {
+    QSet<QByteArray> names;
+    QList<QByteArray> lines = ppd.split('\n');
+    QByteArray result = lines.takeFirst() + "\n";
+    for (const auto &[name, value] : options) {
+        if (name != K::UpdatePPDOptions) {
+            names << name;
+            result += "*" + name + ": \"" + value + "\"\n";
+        }
+    }
+    for (const QByteArray &line : lines) {
+        const qsizetype colon = line.indexOf(':');
+        if (!line.startsWith('*') || colon < 0 || !names.contains(line.mid(1, colon - 1)))
+            result += line + "\n";
+    }
+    return result;
+}
+
+// The filter hands cupsd only what changes the PPD. The queue must read back exactly as if
+// it had handed over every option of the save.
+void expectSameAsUnfiltered(const QByteArray &before, const OVSettingsSnapshot &saved,
+                            const char *queue) {
+    QTemporaryFile file;
+    ASSERT_TRUE(file.open());
+    file.write(withEveryOption(before, OVUpdateJob::optionList(saved)));
+    file.close();
+    ppd_file_t *ppd = r_ppdOpenFile(file.fileName().toLocal8Bit().constData());
+    ASSERT_TRUE(ppd);
+    const OVSettingsSnapshot unfiltered = OVStoredSettings::read(ppd);
+    r_ppdClose(ppd);
+    OVSettingsSnapshot stored;
+    EXPECT_EQ(OVStoredSettings::load(queue, stored), OVStoredSettings::Status::Loaded);
+    EXPECT_TRUE(stored == unfiltered);
 }
 
 // Saves made through the utility's own update job travel through the real
@@ -87,7 +129,12 @@ TEST(SaveRoundTrip, EverySaveReadsBackAsStored) {
     s.formNames = {"A4 invoice", "Label"};
     for (int i = 0; i < 31; ++i)
         s.colorProfileNames << QString("Profile %1").arg(i);
-    EXPECT_EQ(cups.waitForJob(OVUpdateJob::saveOptionsToPPD(s, queue)), IPP_JSTATE_COMPLETED);
+    const auto save = [&] {
+        const QByteArray before = cups.queuePpd(queue);
+        EXPECT_EQ(cups.waitForJob(OVUpdateJob::saveOptionsToPPD(s, queue)), IPP_JSTATE_COMPLETED);
+        expectSameAsUnfiltered(before, s, queue);
+    };
+    save();
     readBack([&](ppd_file_t *ppd) {
         EXPECT_EQ(H::snmpCommunityName(ppd), "public");
         EXPECT_EQ(H::getPrinterMacAddress(ppd), "0a:1b:2c:3d:4e:5f");
@@ -108,7 +155,7 @@ TEST(SaveRoundTrip, EverySaveReadsBackAsStored) {
     s.snmpCommunityCheck = s.wakeOnLANCheck = false;
     s.snmpCommunityText = "ignored";
     s.formNames = {"Label"};
-    EXPECT_EQ(cups.waitForJob(OVUpdateJob::saveOptionsToPPD(s, queue)), IPP_JSTATE_COMPLETED);
+    save();
     readBack([](ppd_file_t *ppd) {
         EXPECT_FALSE(H::isCustomSnmpCommunity(ppd));
         EXPECT_EQ(H::snmpCommunityName(ppd), "public");
@@ -118,6 +165,16 @@ TEST(SaveRoundTrip, EverySaveReadsBackAsStored) {
         EXPECT_EQ(H::getPrinterMacAddress(ppd), "");
         EXPECT_EQ(H::getFormDetailsArray(ppd), QStringList{"Label"});
     });
+    // A save that changes nothing leaves the server's file as it was: cupsd is not asked to
+    // rewrite it.
+    struct stat before {
+    }, after{};
+    ASSERT_EQ(stat(cups.ppdFile(queue).toLocal8Bit().constData(), &before), 0);
+    save();
+    ASSERT_EQ(stat(cups.ppdFile(queue).toLocal8Bit().constData(), &after), 0);
+    EXPECT_EQ(after.st_ino, before.st_ino);
+    EXPECT_EQ(after.st_mtim.tv_nsec, before.st_mtim.tv_nsec);
+    EXPECT_EQ(after.st_mtim.tv_sec, before.st_mtim.tv_sec);
 }
 
 // cupsd hands all of a job's options to the filter as one argument, and Linux
@@ -174,7 +231,9 @@ TEST(UpdateJobSizeLimit, LargestSavesArriveOneByteMoreKeepsThePPD) {
     EXPECT_EQ(cups.waitForJob(longest), IPP_JSTATE_COMPLETED);
     EXPECT_EQ(handedOver(longest), limit - 1);
     const QByteArray ppd = cups.queuePpd(queue);
-    EXPECT_EQ(settingsIn(ppd), completeSet(1));
+    Settings sent = completeSet(1);
+    std::erase_if(sent, [](const auto &setting) { return setting.second.isEmpty(); });
+    EXPECT_EQ(settingsIn(ppd), sent);
 
     const int tooLong = submit(2, limit);
     EXPECT_EQ(cups.waitForJob(tooLong), IPP_JSTATE_STOPPED);

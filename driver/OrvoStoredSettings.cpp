@@ -1,0 +1,40 @@
+#include "OrvoStoredSettings.h"
+
+#include "OrvoSettingsOption.h"
+
+#include <fstream>
+
+namespace {
+
+// `*Keyword: "value"` on one line; the keyword and the value, or nothing.
+bool splitAttribute(const std::string &line, std::string &keyword, std::string &value) {
+    const std::size_t colon = line.find(": \"");
+    if (line.size() < 2 || line[0] != '*' || colon == std::string::npos || line.back() != '"')
+        return false;
+    keyword = line.substr(1, colon - 1);
+    value = line.substr(colon + 3, line.size() - colon - 4);
+    return value.find('"') == std::string::npos;
+}
+
+} // namespace
+
+OrvoStoredSettings::OrvoStoredSettings(const char *ppdPath) {
+    std::ifstream ppd(ppdPath ? ppdPath : "");
+    std::string line, keyword, value;
+    while (std::getline(ppd, line)) {
+        if (!line.empty() && line.back() == '\r')
+            line.pop_back();
+        if (splitAttribute(line, keyword, value) &&
+            OrvoSettingsOption::check(keyword, value).verdict == OrvoSettingsOption::Verdict::Store)
+            values.try_emplace(keyword, value);
+    }
+}
+
+// An absent list entry reads exactly as an empty one; an absent flag or
+// community does not (it reads as its default), so those are always stored.
+bool OrvoStoredSettings::unchangedBy(std::string_view name, std::string_view value) const {
+    const auto held = values.find(std::string(name));
+    if (held != values.end())
+        return held->second == value;
+    return value.empty() && OrvoSettingsOption::absentReadsAsEmpty(name);
+}
