@@ -49,6 +49,12 @@ int jobFailure(const OVUpdateJob::JobOutcome &outcome, int jobId) {
             Exit::Failed, QStringLiteral("update job %1 is gone from the server before it ended "
                                          "(cancelled, or the server restarted); nothing was stored")
                               .arg(jobId));
+    case End::ServerLost:
+        return OVCommandLine::fail(
+            Exit::ServerUnreachable,
+            QStringLiteral("the CUPS server stopped answering while update job %1 ran; whether it "
+                           "was applied shows once the server is back (\"show\")")
+                .arg(jobId));
     case End::Pending:
         return OVCommandLine::fail(
             Exit::Queued, QStringLiteral("update job %1 is queued (%2); it may still be applied "
@@ -61,6 +67,20 @@ int jobFailure(const OVUpdateJob::JobOutcome &outcome, int jobId) {
                                        .arg(jobId)
                                        .arg(ippEnumString("job-state", outcome.state)));
     }
+}
+
+// libcups reports a connection lost while sending as these two statuses; any
+// other is the server's refusal.
+int submissionFailure(ipp_status_t status) {
+    if (status == IPP_STATUS_ERROR_SERVICE_UNAVAILABLE || status == IPP_STATUS_ERROR_INTERNAL)
+        return OVCommandLine::fail(Exit::ServerUnreachable,
+                                   "the CUPS server stopped answering while the update job was "
+                                   "sent; whether it arrived shows once the server is back "
+                                   "(\"show\")");
+    return OVCommandLine::fail(Exit::Failed,
+                               QStringLiteral("the server refused the update job: %1 (%2)")
+                                   .arg(QString::fromUtf8(ippErrorString(status)),
+                                        QString::fromUtf8(cupsLastErrorString())));
 }
 
 // A save that completed but left a PPD the server cannot use (a server that
@@ -175,9 +195,7 @@ int OVQueueCommands::save(const QCommandLineParser &parser, bool json) {
             Exit::Refused, "the settings are too large for one update job; nothing was sent");
     const int jobId = OVUpdateJob::saveOptionsToPPD(settings, queue);
     if (jobId == 0)
-        return OVCommandLine::fail(Exit::Failed,
-                                   QStringLiteral("the server did not accept the update job: %1")
-                                       .arg(QString::fromUtf8(ippErrorString(cupsLastError()))));
+        return submissionFailure(cupsLastError());
     if (const auto outcome = OVUpdateJob::waitForJob(jobId);
         outcome.end != OVUpdateJob::JobEnd::Completed)
         return jobFailure(outcome, jobId);

@@ -188,6 +188,8 @@ OVUpdateJob::JobOutcome OVUpdateJob::waitForJob(int jobId) {
             ippDelete(response);
             return {JobEnd::Vanished, state};
         }
+        if (!response)
+            return {connection.expired() ? JobEnd::Pending : JobEnd::ServerLost, state};
         if (ipp_attribute_t *reported = ippFindAttribute(response, "job-state", IPP_TAG_ENUM))
             state = ipp_jstate_t(ippGetInteger(reported, 0));
         ippDelete(response);

@@ -55,9 +55,10 @@ public:
 
     enum class JobEnd {
         Completed,
-        Ended,    // stopped, canceled or aborted: nothing was stored
-        Vanished, // the server no longer knows the job
-        Pending,  // not ended when the time was up; it may still run
+        Ended,      // stopped, canceled or aborted: nothing was stored
+        Vanished,   // the server no longer knows the job
+        Pending,    // not ended when the time was up; it may still run
+        ServerLost, // the server stopped answering before the job ended
     };
     struct JobOutcome {
         JobEnd end;
