@@ -308,7 +308,17 @@ QByteArray OVPrinterUtilityWindowController::getSnmpCommunityFromUI() const {
     const QString text = ui_->snmpCommunityText->text();
     if (!ui_->snmpCommunityCheck->isChecked() || text.isEmpty())
         return QByteArray(OrvoSettingsKeywords::DefaultCommunity);
-    return text.toLatin1();
+    // UTF-8, as the wake flow sends it: the field accepts characters outside
+    // Latin-1 (U+200B), which must reach the printer as typed.
+    return text.toUtf8();
+}
+
+QString OVPrinterUtilityWindowController::queryCommunity() const {
+    return QString::fromUtf8(getSnmpCommunityFromUI());
+}
+
+QByteArray OVPrinterUtilityWindowController::queryAddress() const {
+    return ui_->printerIPAddressText->text().toUtf8();
 }
 
 // Full keyboard access on macOS is Qt's "tab focus reaches all controls".
@@ -648,8 +658,8 @@ void OVPrinterUtilityWindowController::getPrinterInfoMacAddress(QObject *) {
         failFetch();
         return;
     }
-    const QByteArray address = ui_->printerIPAddressText->text().toLatin1();
-    const QString community = QString::fromLatin1(getSnmpCommunityFromUI());
+    const QByteArray address = queryAddress();
+    const QString community = queryCommunity();
     const QString mac = OVBackgroundCall::value<QString>(
         [&] { return OVSNMPHelper::getMacAddress(address.constData(), community); });
     if (mac.isNull()) {
@@ -666,10 +676,10 @@ void OVPrinterUtilityWindowController::folderGetPrinterInfoButtonClicked(QObject
         failFolderFetch();
         return;
     }
-    const QByteArray address = ui_->printerIPAddressText->text().toLatin1();
+    const QByteArray address = queryAddress();
     const char *host = address.constData();
     // The community is read afresh for every query, on this thread.
-    const auto community = [this] { return QString::fromLatin1(getSnmpCommunityFromUI()); };
+    const auto community = [this] { return queryCommunity(); };
     const int total = OVBackgroundCall::value<int>(
         [&, c = community()] { return OVSNMPHelper::snmpGetSharedBoxEntryForIPAddress(host, c); });
     const auto names = OVBackgroundCall::value<std::optional<QStringList>>([&, c = community()] {
@@ -717,8 +727,8 @@ void OVPrinterUtilityWindowController::fetchList(ListQuery query,
         failFetch();
         return;
     }
-    const QByteArray address = ui_->printerIPAddressText->text().toLatin1();
-    const QString community = QString::fromLatin1(getSnmpCommunityFromUI());
+    const QByteArray address = queryAddress();
+    const QString community = queryCommunity();
     const auto list = OVBackgroundCall::value<std::optional<QStringList>>(
         [&] { return query(address.constData(), community); });
     if (!list) {

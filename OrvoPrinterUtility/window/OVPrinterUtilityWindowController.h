@@ -138,6 +138,10 @@ private:
     void showTooLongMessage(const QStringList &listKeys);
     void failFolderFetch();
     QString macAddressFromFields() const;
+    // What the queries are given: the community of getSnmpCommunityFromUI and
+    // the address field's text, both as UTF-8.
+    QString queryCommunity() const;
+    QByteArray queryAddress() const;
     std::array<QLineEdit *, macFieldCount> macAddressFields() const;
     QString localized(const char *key) const;
 

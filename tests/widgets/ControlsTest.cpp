@@ -2,6 +2,7 @@
 #include "OVAlert.h"
 #include "OVCustomRestrictedTextField.h"
 #include "OVNotificationCenter.h"
+#include "OVPreferredLanguages.h"
 #include "OVRestrictedTextField.h"
 #include "OVTableViewDataSource.h"
 #include "OrvoHelper.h"
@@ -205,10 +206,13 @@ TEST(ControlsTest, stringListModel) {
     QTableView view;
     OVTableViewDataSource source;
     source.setTableView(&view);
-    source.setElementsArray(QStringList{"Form A", "Form B", "Form C"});
-    source.setLocalizer([](const QString &key) { return "<" + key + ">"; });
+    source.setElementsArray(QStringList{"Form", "Form B", "Form C"});
+    OVPreferredLanguages::setOverride(QStringList{"de-DE"});
     source.setLocalizeStrings(true);
-    EXPECT_EQ(source.data(source.index(0, 0), Qt::DisplayRole), "<Form A>");
+    EXPECT_EQ(source.data(source.index(0, 0), Qt::DisplayRole), "Formular");
+    EXPECT_EQ(source.getElementAtRow(0), "Form");
+    OVPreferredLanguages::setOverride(std::nullopt);
+    source.setElementsArray(QStringList{"Form A", "Form B", "Form C"});
     EventRecorder events(OVTableViewDataSource::SelectionChangedNotification);
     const QRect rowB = view.visualRect(source.index(1, 0));
     const std::tuple<std::function<void()>, int, QString, int> steps[] = {
