@@ -20,7 +20,9 @@
 #include "ui_MainUtilityWindiw.h"
 
 #include <QCloseEvent>
+#include <QCoreApplication>
 #include <QGuiApplication>
+#include <QScopedValueRollback>
 #include <QStyleHints>
 
 #include <mutex>
@@ -234,40 +236,49 @@ void OVPrinterUtilityWindowController::createDataSources() {
 
 void OVPrinterUtilityWindowController::connectActions() {
     Ui::MainUtilityWindiw &c = *ui_;
-    // A click that arrives while a fetch waits for the printer is dropped:
-    // the printer arrays are shared, so only one fetch may run at a time.
-    const auto on = [this](QAbstractButton *button,
-                           void (OVPrinterUtilityWindowController::*action)(QObject *)) {
-        connect(button, &QAbstractButton::clicked, this, [this, button, action] {
-            if (actionRunning_)
-                return;
-            actionRunning_ = true;
-            (this->*action)(button);
-            actionRunning_ = false;
-        });
-    };
-    on(c.okButton, &OVPrinterUtilityWindowController::okButtonClicked);
-    on(c.closeButton, &OVPrinterUtilityWindowController::closeButtonClicked);
-    on(c.printerGetPrinterInfoButton,
-       &OVPrinterUtilityWindowController::getPrinterInfoButtonClicked);
-    on(c.folderGetPrinterInfoButton,
-       &OVPrinterUtilityWindowController::folderGetPrinterInfoButtonClicked);
-    on(c.formGetPrinterInfoButton,
-       &OVPrinterUtilityWindowController::formGetPrinterInfoButtonClicked);
-    on(c.barcodeAreaDefinitionGetPrinterInfoButton,
-       &OVPrinterUtilityWindowController::barcodeAreaDefinitionGetPrinterInfoButtonClicked);
-    on(c.colorProfileGetPrinterInfoButton,
-       &OVPrinterUtilityWindowController::colorProfileGetPrinterInfoButtonClicked);
-    on(c.folderAddButton, &OVPrinterUtilityWindowController::folderAddButtonClicked);
-    on(c.folderDeleteButton, &OVPrinterUtilityWindowController::folderDeleteButtonClicked);
-    on(c.folderClearButton, &OVPrinterUtilityWindowController::folderClearButtonClicked);
-    on(c.formClearButton, &OVPrinterUtilityWindowController::formClearButtonClicked);
-    on(c.barcodeAreaDefinitionClearButton,
-       &OVPrinterUtilityWindowController::barcodeAreaDefinitionClearButtonClicked);
-    on(c.colorProfileClearButton,
-       &OVPrinterUtilityWindowController::colorProfileClearButtonClicked);
-    on(c.snmpCommunityCheck, &OVPrinterUtilityWindowController::customSnmpCommunityClicked);
-    on(c.wakeOnLANCheck, &OVPrinterUtilityWindowController::wakeOnLANCheckClicked);
+    using C = OVPrinterUtilityWindowController;
+    const std::pair<QAbstractButton *, Action> fetches[] = {
+        {c.printerGetPrinterInfoButton, &C::getPrinterInfoButtonClicked},
+        {c.folderGetPrinterInfoButton, &C::folderGetPrinterInfoButtonClicked},
+        {c.formGetPrinterInfoButton, &C::formGetPrinterInfoButtonClicked},
+        {c.barcodeAreaDefinitionGetPrinterInfoButton,
+         &C::barcodeAreaDefinitionGetPrinterInfoButtonClicked},
+        {c.colorProfileGetPrinterInfoButton, &C::colorProfileGetPrinterInfoButtonClicked}};
+    const std::pair<QAbstractButton *, Action> others[] = {
+        {c.okButton, &C::okButtonClicked},
+        {c.closeButton, &C::closeButtonClicked},
+        {c.folderAddButton, &C::folderAddButtonClicked},
+        {c.folderDeleteButton, &C::folderDeleteButtonClicked},
+        {c.folderClearButton, &C::folderClearButtonClicked},
+        {c.formClearButton, &C::formClearButtonClicked},
+        {c.barcodeAreaDefinitionClearButton, &C::barcodeAreaDefinitionClearButtonClicked},
+        {c.colorProfileClearButton, &C::colorProfileClearButtonClicked},
+        {c.snmpCommunityCheck, &C::customSnmpCommunityClicked},
+        {c.wakeOnLANCheck, &C::wakeOnLANCheckClicked}};
+    for (const auto &[button, action] : fetches)
+        connect(button, &QAbstractButton::clicked, this,
+                [this, button, action] { runAction(button, action, true); });
+    for (const auto &[button, action] : others)
+        connect(button, &QAbstractButton::clicked, this,
+                [this, button, action] { runAction(button, action, false); });
+}
+
+// Only one fetch may run at a time (the printer arrays are shared), and a
+// fetch button clicked while one runs must not start another, not even after
+// it: so a click that arrives during any action is dropped, and after a fetch
+// the input that waited meanwhile is delivered while fetch clicks are still
+// refused. Other input that waited (typing, OK, Close) then takes effect.
+void OVPrinterUtilityWindowController::runAction(QAbstractButton *button, Action action,
+                                                 bool isFetch) {
+    if (actionRunning_ || (isFetch && fetchEnding_))
+        return;
+    actionRunning_ = true;
+    (this->*action)(button);
+    actionRunning_ = false;
+    if (!isFetch)
+        return;
+    const QScopedValueRollback ending(fetchEnding_, true);
+    QCoreApplication::processEvents();
 }
 
 void OVPrinterUtilityWindowController::constraintsSnmpItems() {

@@ -10,6 +10,7 @@
 
 class OVTableViewDataSource;
 struct OVSettingsSnapshot;
+class QAbstractButton;
 class QLineEdit;
 class QTableView;
 struct ppd_file_s;
@@ -117,6 +118,7 @@ protected:
 
 private:
     using ListQuery = std::optional<QStringList> (*)(const char *address, const QString &community);
+    using Action = void (OVPrinterUtilityWindowController::*)(QObject *sender);
 
     void resetLaunchState();
     void setUpTexts();
@@ -125,6 +127,7 @@ private:
     void setUpFolderTab();
     void createDataSources();
     void connectActions();
+    void runAction(QAbstractButton *button, Action action, bool isFetch);
     void bindTable(OVTableViewDataSource *dataSource, QTableView *table);
     void readSettings(ppd_file_s *ppd);
     void readFolderSettings(ppd_file_s *ppd);
@@ -160,4 +163,5 @@ private:
     bool bAdminLoginModeEnabled_ = false;
     bool isPPDOptionsUpdated_ = false;
     bool actionRunning_ = false;
+    bool fetchEnding_ = false;
 };
