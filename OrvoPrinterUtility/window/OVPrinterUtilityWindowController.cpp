@@ -332,7 +332,8 @@ QByteArray OVPrinterUtilityWindowController::queryAddress() const {
     return ui_->printerIPAddressText->text().toUtf8();
 }
 
-// Full keyboard access on macOS is Qt's "tab focus reaches all controls".
+// With "tab focus reaches all controls" every control is in the chain;
+// otherwise Tab moves between the text fields only.
 void OVPrinterUtilityWindowController::setTabOrder() {
     Ui::MainUtilityWindiw &c = *ui_;
     const bool allControls =
@@ -473,8 +474,10 @@ void OVPrinterUtilityWindowController::showList(OVTableViewDataSource *dataSourc
 void OVPrinterUtilityWindowController::okButtonClicked(QObject *) {
     updateStringArrays();
     isPPDOptionsUpdated_ = true;
-    // Linux addition: a save that cannot reach the driver keeps the window
-    // open and says which lists to shorten, instead of closing and losing it.
+    // cupsd hands all job options to the filter in one argument, which the
+    // kernel limits to 128 KiB: a save that could not reach the driver keeps
+    // the window open and says which lists to shorten, instead of closing
+    // with the settings lost.
     const QStringList tooLong = OVSaveSizeCheck::listsToShorten(settingsSnapshot());
     if (!tooLong.isEmpty()) {
         showTooLongMessage(tooLong);

@@ -50,7 +50,8 @@ public:
     OVTableViewDataSource *barcodeAreaDefinitionTableViewDataSource() const;
     OVTableViewDataSource *colorProfileTableViewDataSource() const;
 
-    // The macOS bundle's information dictionary; Linux has none (nullopt).
+    // The application's information dictionary, whose model name titles the
+    // window; an installed build has none (nullopt): the default title.
     static void setInformationDictionary(std::optional<QVariantMap> dictionary);
 
     // Start-up and closing.

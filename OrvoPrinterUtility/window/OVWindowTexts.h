@@ -31,7 +31,7 @@ inline constexpr char FailedToObtain[] = "Failed to obtain information.";
 inline constexpr char SettingsTooLong[] = "IDS_SETTINGS_TOO_LONG";
 
 // Every key the window looks up (the model-name key names an entry of the
-// bundle's information dictionary, not a text).
+// application's information dictionary, not a text).
 inline constexpr const char *localizedKeys[] = {
     UtilitySuffix,
     DefaultTitle,
