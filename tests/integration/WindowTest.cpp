@@ -96,7 +96,7 @@ protected:
     Ui::MainUtilityWindiw *c = nullptr;
 };
 
-TEST_F(WindowTest, DefaultsFetchChooseSaveReopenAndFetchAgain) {
+TEST_F(WindowTest, DefaultsChooseFetchSaveAndReopen) {
     CupsServer &server = CupsServerEnvironment::server();
     ASSERT_TRUE(server.addQueue("Office"));
     printer.set(P::nameOid(P::Table::SharedBox, 1), QByteArray("営業部 🎨"));
