@@ -3,6 +3,7 @@
 #include "OVAlert.h"
 #include "OVBackgroundCall.h"
 #include "OVCustomRestrictedTextField.h"
+#include "OVInputHold.h"
 #include "OVLaunchEvent.h"
 #include "OVNotificationCenter.h"
 #include "OVPrinterUtilityHelper.h"
@@ -22,7 +23,6 @@
 #include <QCloseEvent>
 #include <QCoreApplication>
 #include <QGuiApplication>
-#include <QScopedValueRollback>
 #include <QStyleHints>
 
 #include <mutex>
@@ -235,15 +235,13 @@ void OVPrinterUtilityWindowController::createDataSources() {
 }
 
 void OVPrinterUtilityWindowController::connectActions() {
-    Ui::MainUtilityWindiw &c = *ui_;
     using C = OVPrinterUtilityWindowController;
-    const std::pair<QAbstractButton *, Action> fetches[] = {
-        {c.printerGetPrinterInfoButton, &C::getPrinterInfoButtonClicked},
-        {c.folderGetPrinterInfoButton, &C::folderGetPrinterInfoButtonClicked},
-        {c.formGetPrinterInfoButton, &C::formGetPrinterInfoButtonClicked},
-        {c.barcodeAreaDefinitionGetPrinterInfoButton,
-         &C::barcodeAreaDefinitionGetPrinterInfoButtonClicked},
-        {c.colorProfileGetPrinterInfoButton, &C::colorProfileGetPrinterInfoButtonClicked}};
+    const QList<QAbstractButton *> fetches = fetchButtons();
+    const Action fetchActions[] = {
+        &C::getPrinterInfoButtonClicked, &C::folderGetPrinterInfoButtonClicked,
+        &C::formGetPrinterInfoButtonClicked, &C::barcodeAreaDefinitionGetPrinterInfoButtonClicked,
+        &C::colorProfileGetPrinterInfoButtonClicked};
+    Ui::MainUtilityWindiw &c = *ui_;
     const std::pair<QAbstractButton *, Action> others[] = {
         {c.okButton, &C::okButtonClicked},
         {c.closeButton, &C::closeButtonClicked},
@@ -255,30 +253,41 @@ void OVPrinterUtilityWindowController::connectActions() {
         {c.colorProfileClearButton, &C::colorProfileClearButtonClicked},
         {c.snmpCommunityCheck, &C::customSnmpCommunityClicked},
         {c.wakeOnLANCheck, &C::wakeOnLANCheckClicked}};
-    for (const auto &[button, action] : fetches)
-        connect(button, &QAbstractButton::clicked, this,
-                [this, button, action] { runAction(button, action, true); });
+    for (qsizetype i = 0; i < fetches.size(); ++i)
+        connect(fetches[i], &QAbstractButton::clicked, this,
+                [this, button = fetches[i], action = fetchActions[i]] {
+                    runAction(button, action, true);
+                });
     for (const auto &[button, action] : others)
         connect(button, &QAbstractButton::clicked, this,
                 [this, button, action] { runAction(button, action, false); });
 }
 
-// Only one fetch may run at a time (the printer arrays are shared), and a
-// fetch button clicked while one runs must not start another, not even after
-// it: so a click that arrives during any action is dropped, and after a fetch
-// the input that waited meanwhile is delivered while fetch clicks are still
-// refused. Other input that waited (typing, OK, Close) then takes effect.
+QList<QAbstractButton *> OVPrinterUtilityWindowController::fetchButtons() const {
+    Ui::MainUtilityWindiw &c = *ui_;
+    return {c.printerGetPrinterInfoButton, c.folderGetPrinterInfoButton, c.formGetPrinterInfoButton,
+            c.barcodeAreaDefinitionGetPrinterInfoButton, c.colorProfileGetPrinterInfoButton};
+}
+
+// Only one action runs at a time: the printer arrays are shared, and each
+// step of a fetch must see the controls as they were when it began. During a
+// fetch the user's input to the window is held; a click or key on a fetch
+// button is dropped for good, so no second fetch starts, then or afterwards.
+// The rest (typing, OK, Close) takes effect, in order, once the fetch is over.
 void OVPrinterUtilityWindowController::runAction(QAbstractButton *button, Action action,
                                                  bool isFetch) {
-    if (actionRunning_ || (isFetch && fetchEnding_))
+    if (actionRunning_)
         return;
+    std::optional<OVInputHold> hold;
+    if (isFetch)
+        hold.emplace(window_.get(), fetchButtons());
     actionRunning_ = true;
     (this->*action)(button);
     actionRunning_ = false;
-    if (!isFetch)
-        return;
-    const QScopedValueRollback ending(fetchEnding_, true);
-    QCoreApplication::processEvents();
+    // The window system keeps input back while a step runs; it reaches the
+    // hold here, before the hold ends.
+    if (hold)
+        QCoreApplication::processEvents();
 }
 
 void OVPrinterUtilityWindowController::constraintsSnmpItems() {

@@ -129,6 +129,7 @@ private:
     void createDataSources();
     void connectActions();
     void runAction(QAbstractButton *button, Action action, bool isFetch);
+    QList<QAbstractButton *> fetchButtons() const;
     void bindTable(OVTableViewDataSource *dataSource, QTableView *table);
     void readSettings(ppd_file_s *ppd);
     void readFolderSettings(ppd_file_s *ppd);
@@ -164,5 +165,4 @@ private:
     bool bAdminLoginModeEnabled_ = false;
     bool isPPDOptionsUpdated_ = false;
     bool actionRunning_ = false;
-    bool fetchEnding_ = false;
 };

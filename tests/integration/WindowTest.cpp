@@ -307,22 +307,25 @@ TEST_F(WindowTest, TextsInTheUsersLanguage) {
 }
 
 // The printer answers each request 0.3 s late, well within the 1 s timeout, so nothing
-// is asked twice. Clicks on every fetch button while the form fetch waits start
-// nothing: the printer sees the form fetch's two requests only.
-TEST_F(WindowTest, FetchClicksDuringAFetchAreDropped) {
+// is asked twice. While the form fetch waits, clicks on every fetch button are dropped
+// for good and typing waits: the printer sees the form fetch's two requests only, and
+// the typed digit shows once the fetch is over.
+TEST_F(WindowTest, InputWaitsForAFetchAndFetchClicksAreDropped) {
     openOnPrinter();
     printer.setResponseDelayMs(300);
-    bool clickedDuringFetch = false;
+    QString duringFetch;
     QTimer::singleShot(0, [&] {
         for (QPushButton *button :
              {c->printerGetPrinterInfoButton, c->folderGetPrinterInfoButton,
               c->formGetPrinterInfoButton, c->barcodeAreaDefinitionGetPrinterInfoButton,
               c->colorProfileGetPrinterInfoButton})
             click(button);
-        clickedDuringFetch = true;
+        QTest::keyClicks(c->printerIPAddressText, "9");
+        duringFetch = c->printerIPAddressText->text();
     });
     EXPECT_EQ(requestsDuring([&] { click(c->formGetPrinterInfoButton); }), 2);
-    EXPECT_TRUE(clickedDuringFetch);
+    EXPECT_EQ(duringFetch, P::loopbackAddress());
+    EXPECT_EQ(c->printerIPAddressText->text(), P::loopbackAddress() + "9");
     EXPECT_EQ(forms(), printer.namesInUse(P::Table::Form));
 }
 
