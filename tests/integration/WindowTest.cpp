@@ -186,12 +186,15 @@ TEST_F(WindowTest, CombinedFetchStopsAtTheFirstFailure) {
 }
 
 // Each list's Clear empties that list alone; the folder one puts the default folders
-// back, selects no chosen folder, leaves Add off (its selected folder is chosen) and
-// turns the personal folder off.
+// back, selects no chosen folder, leaves Add off (its selected folder is chosen),
+// turns the personal folder off and the settings back to not saved.
 TEST_F(WindowTest, ClearButtons) {
     openOnPrinter();
     click(c->printerGetPrinterInfoButton);
     click(c->folderPersonalFolderCheck);
+    window->formTableViewDataSource()->setElementsArray(QStringList(100, QString(900, 'a')));
+    click(c->okButton); // too long to save: the window stays with its settings marked saved
+    ASSERT_TRUE(window->isPPDOptionsUpdated());
     const auto counts = [this] {
         QList<quint64> n;
         for (OVTableViewDataSource *source :
@@ -201,7 +204,7 @@ TEST_F(WindowTest, ClearButtons) {
             n << source->count();
         return n;
     };
-    ASSERT_EQ(counts(), (QList<quint64>{50, 50, 15, 15}));
+    ASSERT_EQ(counts(), (QList<quint64>{100, 50, 15, 15}));
     const std::pair<QPushButton *, QList<quint64>> steps[] = {
         {c->formClearButton, {0, 50, 15, 15}},
         {c->barcodeAreaDefinitionClearButton, {0, 0, 15, 15}},
@@ -215,6 +218,7 @@ TEST_F(WindowTest, ClearButtons) {
     EXPECT_EQ(window->selectedFolderTableViewDataSource()->getSelectedRow(), -1);
     EXPECT_FALSE(c->folderAddButton->isEnabled());
     EXPECT_FALSE(c->folderPersonalFolderCheck->isChecked());
+    EXPECT_FALSE(window->isPPDOptionsUpdated());
 }
 
 // The MAC fields follow the Wake-on-LAN check; "Connect to Another Network" needs it
