@@ -11,8 +11,10 @@ OVAlert::Responder &installedResponder() {
     return responder;
 }
 
-// Lays the button box out as macOS does whatever the desktop style says.
-class MacButtonLayoutStyle : public QProxyStyle {
+// Keeps the first button rightmost and the others to its left whatever the
+// desktop style says: callers know their buttons by position (default,
+// alternate, other), so a theme must not reorder them.
+class FixedButtonOrderStyle : public QProxyStyle {
 public:
     int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
                   QStyleHintReturn *returnData) const override {
@@ -48,7 +50,7 @@ QString fillFormat(const QString &format, const QStringList &arguments) {
 } // namespace
 
 OVAlert::OVAlert()
-    : m_buttonBoxStyle(std::make_unique<MacButtonLayoutStyle>()) {
+    : m_buttonBoxStyle(std::make_unique<FixedButtonOrderStyle>()) {
     if (auto *box = findChild<QDialogButtonBox *>()) {
         box->setStyle(m_buttonBoxStyle.get());
     }

@@ -11,7 +11,7 @@ class QPushButton;
 class QProxyStyle;
 
 // The utility's message box: a message, up to three buttons and an
-// informative text, laid out as on macOS (first button rightmost) and
+// informative text, laid out with the first button rightmost in every style and
 // answering the classic three-way result whatever order the buttons came in.
 class OVAlert : public QMessageBox {
     Q_OBJECT

@@ -3,11 +3,9 @@
 #include <QString>
 #include <QStringList>
 
-// The printer queue the utility was opened for. The printing preferences on
-// macOS pass it in the launch event's 'prdt' parameter; here the command line
-// stands in for that event:
-//   no argument at all            -> no launch event: the ID stays ""
-//   arguments without --printer   -> an event without 'prdt': "Default-TestID"
+// The printer queue the utility was opened for, named on the command line:
+//   no argument at all            -> opened for no queue: the ID stays ""
+//   arguments without --printer   -> opened without naming one: "Default-TestID"
 //   --printer QUEUE / -p QUEUE    -> the queue name, logged to the system log
 class OVLaunchEvent {
 public:

@@ -30,7 +30,7 @@ QString translate(const QString &qmPath, const QString &key) {
 }
 
 // "zh-Hans-CN" -> "zh-Hans-CN", "zh-Hans", "zh"; "zh-TW" also gives "zh-Hant"
-// through its script, the way a bundle matches a language to its folders.
+// through its script, so a regional code finds the folder of its script.
 QStringList candidateFolders(const QString &language) {
     QStringList candidates;
     QStringList parts = language.split('-');
@@ -81,7 +81,7 @@ QString OVPrinterUtilityHelper::folderFor(const QString &language) {
     return QDir(folder).exists() ? folder : QString();
 }
 
-// The bundle's own choice when no folder carries the system language's name:
+// When no folder carries the system language's name:
 // the first preferred language that some shipped folder serves, else English.
 QString OVPrinterUtilityHelper::bestShippedFolder() {
     for (const QString &language : OVPreferredLanguages::languages()) {
@@ -94,8 +94,8 @@ QString OVPrinterUtilityHelper::bestShippedFolder() {
     return folderFor("en");
 }
 
-// A key missing from the table yields the key itself, as a bundle does when
-// asked with an empty default value.
+// A key missing from the table yields the key itself: the keys are the
+// English texts, so an untranslated text still reads in English.
 QString OVPrinterUtilityHelper::lookup(const QString &folder, const QString &key) {
     const QString text = translate(folder + '/' + stringTable + ".qm", key);
     return text.isEmpty() ? key : text;

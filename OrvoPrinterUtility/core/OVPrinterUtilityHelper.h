@@ -5,7 +5,8 @@
 
 // Language code and localized texts of the window. Translations ship as Qt
 // resources ":/<language>.lproj/Localizable.qm" (context "Localizable", the
-// English text as key), one folder per language as the macOS bundle has them.
+// English text as key), one folder per language, which is what the language
+// matching below chooses between.
 class OVPrinterUtilityHelper {
 public:
     static constexpr const char *stringTable = "Localizable";

@@ -369,13 +369,21 @@ QString OVSNMPHelper::getMacAddress(const char *address, const QString &communit
 // so it is refused like one that does not fit.
 bool OVSNMPHelper::getConvertedAddress(PeerName &peerName, const char *sourceAddr) {
     peerName.fill('\0');
-    if (!sourceAddr || !*sourceAddr)
+    const QByteArray address = withoutBrackets(sourceAddr);
+    if (address.isEmpty())
         return false;
-    const char *format = std::strchr(sourceAddr, ':') ? "udp6:[%s]:161" : "%s";
-    const int written = std::snprintf(peerName.data(), peerName.size(), format, sourceAddr);
+    const char *format = address.contains(':') ? "udp6:[%s]:161" : "%s";
+    const int written =
+        std::snprintf(peerName.data(), peerName.size(), format, address.constData());
     if (written < 0 || size_t(written) >= peerName.size()) {
         peerName.fill('\0');
         return false;
     }
     return true;
+}
+
+QByteArray OVSNMPHelper::withoutBrackets(const QByteArray &address) {
+    if (address.size() >= 2 && address.startsWith('[') && address.endsWith(']'))
+        return address.mid(1, address.size() - 2);
+    return address;
 }

@@ -80,6 +80,10 @@ public:
     // unbracketed form as the host "ADDRESS:161" (udp6:fd99::2:161 goes to
     // fd99::2:161, udp6:::1:161 to ::0.1.1.97), while the bracketed one reaches
     // the IPv6 literal (a zone such as %en0 included) on UDP port 161.
+    // An address typed in URL style ("[fd99::2]") is taken without its one
+    // pair of enclosing brackets, which the peer name adds back itself.
     // False, with an empty peer name, when the result would not fit.
     static bool getConvertedAddress(PeerName &peerName, const char *sourceAddr);
+    // The address without one pair of enclosing brackets, if it has them.
+    static QByteArray withoutBrackets(const QByteArray &address);
 };

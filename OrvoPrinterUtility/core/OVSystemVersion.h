@@ -2,7 +2,8 @@
 
 #include <QString>
 
-// The system version as macOS keeps it: "ProductVersion" of a property list.
+// The system version: "ProductVersion" of the property list at
+// defaultPlistPath; it chooses between the full and the short language name.
 // Linux has no such file, so the version reads as 0.0.0; tests point the path
 // at a file of their own to reach the other branches.
 class OVSystemVersion {

@@ -64,10 +64,9 @@ QString systemError() {
     return QString::fromLocal8Bit(std::strerror(errno));
 }
 
-// The bytes of text if they fit a C buffer of the given size with its
-// terminator, else nothing (the conversion fails as a whole).
-QByteArray fitting(const QString &text, size_t bufferSize) {
-    const QByteArray bytes = text.toUtf8();
+// The bytes if they fit a C buffer of the given size with its terminator,
+// else nothing (the conversion fails as a whole).
+QByteArray fitting(const QByteArray &bytes, size_t bufferSize) {
     return size_t(bytes.size()) < bufferSize ? bytes : QByteArray();
 }
 
@@ -237,7 +236,8 @@ bool OVWakeOnLanHelper::SnmpWakeUpOnLan(const QString &ipAddress, const QString 
         QString::asprintf("%02lx:%02lx:%02lx:%02lx:%02lx:%02lx", numbers[0], numbers[1], numbers[2],
                           numbers[3], numbers[4], numbers[5])
             .toUtf8();
-    const QByteArray address = fitting(ipAddress, kAddressBuffer);
+    const QByteArray address =
+        fitting(OVSNMPHelper::withoutBrackets(ipAddress.toUtf8()), kAddressBuffer);
     if (address.isEmpty()) {
         if (isOverRouter)
             return false;
@@ -245,9 +245,9 @@ bool OVWakeOnLanHelper::SnmpWakeUpOnLan(const QString &ipAddress, const QString 
         MagicPacket(kIPv4Broadcast, mac.constData(), AF_INET);
         return false;
     }
-    const QByteArray given = fitting(snmpComm, kCommunityBuffer);
-    const QString community =
-        given.isEmpty() ? QString(OrvoSettingsKeywords::DefaultCommunity) : QString(given);
+    const QByteArray given = fitting(snmpComm.toUtf8(), kCommunityBuffer);
+    const QString community = given.isEmpty() ? QString(OrvoSettingsKeywords::DefaultCommunity)
+                                              : QString::fromUtf8(given);
     const int ipType = spJudgeIPtype(address.constData());
     if (waitWhileAsleep(address.constData(), community))
         return true;

@@ -4,8 +4,8 @@
 
 // Runs one blocking step (an SNMP query, the wake flow) on a worker thread
 // while a local event loop keeps the window painting and its progress turning.
-// User input waits until the step is over, so the controller's logic stays the
-// sequential flow it was designed as.
+// User input waits until the step is over, so the controller's logic stays
+// sequential: no click or key can change the controls between two steps.
 class OVBackgroundCall {
 public:
     static void run(const std::function<void()> &work);

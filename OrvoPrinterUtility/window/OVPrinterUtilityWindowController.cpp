@@ -3,6 +3,7 @@
 #include "OVAlert.h"
 #include "OVBackgroundCall.h"
 #include "OVCustomRestrictedTextField.h"
+#include "OVInputHold.h"
 #include "OVLaunchEvent.h"
 #include "OVNotificationCenter.h"
 #include "OVPrinterUtilityHelper.h"
@@ -21,6 +22,7 @@
 #include "ui_MainUtilityWindiw.h"
 
 #include <QCloseEvent>
+#include <QCoreApplication>
 #include <QGuiApplication>
 #include <QStyleHints>
 
@@ -234,41 +236,59 @@ void OVPrinterUtilityWindowController::createDataSources() {
 }
 
 void OVPrinterUtilityWindowController::connectActions() {
+    using C = OVPrinterUtilityWindowController;
+    const QList<QAbstractButton *> fetches = fetchButtons();
+    const Action fetchActions[] = {
+        &C::getPrinterInfoButtonClicked, &C::folderGetPrinterInfoButtonClicked,
+        &C::formGetPrinterInfoButtonClicked, &C::barcodeAreaDefinitionGetPrinterInfoButtonClicked,
+        &C::colorProfileGetPrinterInfoButtonClicked};
     Ui::MainUtilityWindiw &c = *ui_;
-    // A click that arrives while a fetch waits for the printer is dropped:
-    // the printer arrays are shared, so only one fetch may run at a time.
-    const auto on = [this](QAbstractButton *button,
-                           void (OVPrinterUtilityWindowController::*action)(QObject *)) {
-        connect(button, &QAbstractButton::clicked, this, [this, button, action] {
-            if (actionRunning_)
-                return;
-            actionRunning_ = true;
-            (this->*action)(button);
-            actionRunning_ = false;
-        });
-    };
-    on(c.okButton, &OVPrinterUtilityWindowController::okButtonClicked);
-    on(c.closeButton, &OVPrinterUtilityWindowController::closeButtonClicked);
-    on(c.printerGetPrinterInfoButton,
-       &OVPrinterUtilityWindowController::getPrinterInfoButtonClicked);
-    on(c.folderGetPrinterInfoButton,
-       &OVPrinterUtilityWindowController::folderGetPrinterInfoButtonClicked);
-    on(c.formGetPrinterInfoButton,
-       &OVPrinterUtilityWindowController::formGetPrinterInfoButtonClicked);
-    on(c.barcodeAreaDefinitionGetPrinterInfoButton,
-       &OVPrinterUtilityWindowController::barcodeAreaDefinitionGetPrinterInfoButtonClicked);
-    on(c.colorProfileGetPrinterInfoButton,
-       &OVPrinterUtilityWindowController::colorProfileGetPrinterInfoButtonClicked);
-    on(c.folderAddButton, &OVPrinterUtilityWindowController::folderAddButtonClicked);
-    on(c.folderDeleteButton, &OVPrinterUtilityWindowController::folderDeleteButtonClicked);
-    on(c.folderClearButton, &OVPrinterUtilityWindowController::folderClearButtonClicked);
-    on(c.formClearButton, &OVPrinterUtilityWindowController::formClearButtonClicked);
-    on(c.barcodeAreaDefinitionClearButton,
-       &OVPrinterUtilityWindowController::barcodeAreaDefinitionClearButtonClicked);
-    on(c.colorProfileClearButton,
-       &OVPrinterUtilityWindowController::colorProfileClearButtonClicked);
-    on(c.snmpCommunityCheck, &OVPrinterUtilityWindowController::customSnmpCommunityClicked);
-    on(c.wakeOnLANCheck, &OVPrinterUtilityWindowController::wakeOnLANCheckClicked);
+    const std::pair<QAbstractButton *, Action> others[] = {
+        {c.okButton, &C::okButtonClicked},
+        {c.closeButton, &C::closeButtonClicked},
+        {c.folderAddButton, &C::folderAddButtonClicked},
+        {c.folderDeleteButton, &C::folderDeleteButtonClicked},
+        {c.folderClearButton, &C::folderClearButtonClicked},
+        {c.formClearButton, &C::formClearButtonClicked},
+        {c.barcodeAreaDefinitionClearButton, &C::barcodeAreaDefinitionClearButtonClicked},
+        {c.colorProfileClearButton, &C::colorProfileClearButtonClicked},
+        {c.snmpCommunityCheck, &C::customSnmpCommunityClicked},
+        {c.wakeOnLANCheck, &C::wakeOnLANCheckClicked}};
+    for (qsizetype i = 0; i < fetches.size(); ++i)
+        connect(fetches[i], &QAbstractButton::clicked, this,
+                [this, button = fetches[i], action = fetchActions[i]] {
+                    runAction(button, action, true);
+                });
+    for (const auto &[button, action] : others)
+        connect(button, &QAbstractButton::clicked, this,
+                [this, button, action] { runAction(button, action, false); });
+}
+
+QList<QAbstractButton *> OVPrinterUtilityWindowController::fetchButtons() const {
+    Ui::MainUtilityWindiw &c = *ui_;
+    return {c.printerGetPrinterInfoButton, c.folderGetPrinterInfoButton, c.formGetPrinterInfoButton,
+            c.barcodeAreaDefinitionGetPrinterInfoButton, c.colorProfileGetPrinterInfoButton};
+}
+
+// Only one action runs at a time: the printer arrays are shared, and each
+// step of a fetch must see the controls as they were when it began. During a
+// fetch the user's input to the window is held; a click or key on a fetch
+// button is dropped for good, so no second fetch starts, then or afterwards.
+// The rest (typing, OK, Close) takes effect, in order, once the fetch is over.
+void OVPrinterUtilityWindowController::runAction(QAbstractButton *button, Action action,
+                                                 bool isFetch) {
+    if (actionRunning_)
+        return;
+    std::optional<OVInputHold> hold;
+    if (isFetch)
+        hold.emplace(window_.get(), fetchButtons());
+    actionRunning_ = true;
+    (this->*action)(button);
+    actionRunning_ = false;
+    // The window system keeps input back while a step runs; it reaches the
+    // hold here, before the hold ends.
+    if (hold)
+        QCoreApplication::processEvents();
 }
 
 void OVPrinterUtilityWindowController::constraintsSnmpItems() {
@@ -309,10 +329,21 @@ QByteArray OVPrinterUtilityWindowController::getSnmpCommunityFromUI() const {
     const QString text = ui_->snmpCommunityText->text();
     if (!ui_->snmpCommunityCheck->isChecked() || text.isEmpty())
         return QByteArray(OrvoSettingsKeywords::DefaultCommunity);
-    return text.toLatin1();
+    // UTF-8, as the wake flow sends it: the field accepts characters outside
+    // Latin-1 (U+200B), which must reach the printer as typed.
+    return text.toUtf8();
 }
 
-// Full keyboard access on macOS is Qt's "tab focus reaches all controls".
+QString OVPrinterUtilityWindowController::queryCommunity() const {
+    return QString::fromUtf8(getSnmpCommunityFromUI());
+}
+
+QByteArray OVPrinterUtilityWindowController::queryAddress() const {
+    return ui_->printerIPAddressText->text().toUtf8();
+}
+
+// With "tab focus reaches all controls" every control is in the chain;
+// otherwise Tab moves between the text fields only.
 void OVPrinterUtilityWindowController::setTabOrder() {
     Ui::MainUtilityWindiw &c = *ui_;
     const bool allControls =
@@ -453,8 +484,10 @@ void OVPrinterUtilityWindowController::showList(OVTableViewDataSource *dataSourc
 void OVPrinterUtilityWindowController::okButtonClicked(QObject *) {
     updateStringArrays();
     isPPDOptionsUpdated_ = true;
-    // Linux addition: a save that cannot reach the driver keeps the window
-    // open and says which lists to shorten, instead of closing and losing it.
+    // cupsd hands all job options to the filter in one argument, which the
+    // kernel limits to 128 KiB: a save that could not reach the driver keeps
+    // the window open and says which lists to shorten, instead of closing
+    // with the settings lost.
     const QStringList tooLong = OVSaveSizeCheck::listsToShorten(settingsSnapshot());
     if (!tooLong.isEmpty()) {
         showTooLongMessage(tooLong);
@@ -657,8 +690,8 @@ void OVPrinterUtilityWindowController::getPrinterInfoMacAddress(QObject *) {
         failFetch();
         return;
     }
-    const QByteArray address = ui_->printerIPAddressText->text().toLatin1();
-    const QString community = QString::fromLatin1(getSnmpCommunityFromUI());
+    const QByteArray address = queryAddress();
+    const QString community = queryCommunity();
     const QString mac = OVBackgroundCall::value<QString>(
         [&] { return OVSNMPHelper::getMacAddress(address.constData(), community); });
     if (mac.isNull()) {
@@ -675,10 +708,10 @@ void OVPrinterUtilityWindowController::folderGetPrinterInfoButtonClicked(QObject
         failFolderFetch();
         return;
     }
-    const QByteArray address = ui_->printerIPAddressText->text().toLatin1();
+    const QByteArray address = queryAddress();
     const char *host = address.constData();
     // The community is read afresh for every query, on this thread.
-    const auto community = [this] { return QString::fromLatin1(getSnmpCommunityFromUI()); };
+    const auto community = [this] { return queryCommunity(); };
     const int total = OVBackgroundCall::value<int>(
         [&, c = community()] { return OVSNMPHelper::snmpGetSharedBoxEntryForIPAddress(host, c); });
     const auto names = OVBackgroundCall::value<std::optional<QStringList>>([&, c = community()] {
@@ -726,8 +759,8 @@ void OVPrinterUtilityWindowController::fetchList(ListQuery query,
         failFetch();
         return;
     }
-    const QByteArray address = ui_->printerIPAddressText->text().toLatin1();
-    const QString community = QString::fromLatin1(getSnmpCommunityFromUI());
+    const QByteArray address = queryAddress();
+    const QString community = queryCommunity();
     const auto list = OVBackgroundCall::value<std::optional<QStringList>>(
         [&] { return query(address.constData(), community); });
     if (!list) {

@@ -10,6 +10,7 @@
 
 class OVTableViewDataSource;
 struct OVSettingsSnapshot;
+class QAbstractButton;
 class QLineEdit;
 class QTableView;
 struct ppd_file_s;
@@ -49,7 +50,8 @@ public:
     OVTableViewDataSource *barcodeAreaDefinitionTableViewDataSource() const;
     OVTableViewDataSource *colorProfileTableViewDataSource() const;
 
-    // The macOS bundle's information dictionary; Linux has none (nullopt).
+    // The application's information dictionary, whose model name titles the
+    // window; an installed build has none (nullopt): the default title.
     static void setInformationDictionary(std::optional<QVariantMap> dictionary);
 
     // Start-up and closing.
@@ -117,6 +119,7 @@ protected:
 
 private:
     using ListQuery = std::optional<QStringList> (*)(const char *address, const QString &community);
+    using Action = void (OVPrinterUtilityWindowController::*)(QObject *sender);
 
     void resetLaunchState();
     void setUpTexts();
@@ -125,6 +128,8 @@ private:
     void setUpFolderTab();
     void createDataSources();
     void connectActions();
+    void runAction(QAbstractButton *button, Action action, bool isFetch);
+    QList<QAbstractButton *> fetchButtons() const;
     void bindTable(OVTableViewDataSource *dataSource, QTableView *table);
     void readSettings(ppd_file_s *ppd);
     void readFolderSettings(ppd_file_s *ppd);
@@ -138,6 +143,10 @@ private:
     void showTooLongMessage(const QStringList &listKeys);
     void failFolderFetch();
     QString macAddressFromFields() const;
+    // What the queries are given: the community of getSnmpCommunityFromUI and
+    // the address field's text, both as UTF-8.
+    QString queryCommunity() const;
+    QByteArray queryAddress() const;
     std::array<QLineEdit *, macFieldCount> macAddressFields() const;
     QString localized(const char *key) const;
 

@@ -1,6 +1,7 @@
 #include "OVTableViewDataSource.h"
 
 #include "OVNotificationCenter.h"
+#include "OVPrinterUtilityHelper.h"
 
 #include <QItemSelectionModel>
 
@@ -45,10 +46,6 @@ void OVTableViewDataSource::setLocalizeStrings(bool localize) {
     }
 }
 
-void OVTableViewDataSource::setLocalizer(Localizer localizer) {
-    m_localizer = std::move(localizer);
-}
-
 void OVTableViewDataSource::setTableView(QTableView *tableView) {
     QObject::disconnect(m_selectionConnection);
     m_tableView = tableView;
@@ -73,7 +70,7 @@ QString OVTableViewDataSource::objectValueForTableColumn(int, int row) const {
     if (element.isNull()) {
         return QStringLiteral("");
     }
-    return m_bLocalizeStrings && m_localizer ? m_localizer(element) : element;
+    return m_bLocalizeStrings ? OVPrinterUtilityHelper::getLocalizedStringFor(element) : element;
 }
 
 void OVTableViewDataSource::selectFirstRow() {

@@ -8,7 +8,6 @@
 #include <QStringList>
 #include <QTableView>
 
-#include <functional>
 #include <optional>
 
 // The model behind each one-column list of the main window. It keeps the
@@ -24,8 +23,6 @@ public:
     // The object of every selection event; it names no data source.
     static constexpr const char *SelectionChangedObject = "SelctionChanged";
 
-    using Localizer = std::function<QString(const QString &)>;
-
     explicit OVTableViewDataSource(QObject *parent = nullptr);
     ~OVTableViewDataSource() override;
 
@@ -38,9 +35,9 @@ public:
     QString getElementAtRow(int row) const;
     // Exact, case-sensitive comparison; false for a null string.
     bool isItemExist(const QString &item) const;
+    // Displayed texts go through the window's text lookup when on; stored
+    // elements, selection values and comparisons keep the untranslated text.
     void setLocalizeStrings(bool localize);
-    // Translates displayed texts when localization is on; identity by default.
-    void setLocalizer(Localizer localizer);
     quint64 count() const { return quint64(m_elementsArray.size()); }
 
     QTableView *tableView() const { return m_tableView; }
@@ -76,7 +73,6 @@ private:
     QStringList m_elementsArray;
     int m_selectedRow = 0;
     bool m_bLocalizeStrings = false;
-    Localizer m_localizer;
     QPointer<QTableView> m_tableView;
     QMetaObject::Connection m_selectionConnection;
 };

@@ -32,7 +32,7 @@ inline constexpr char SettingsTooLong[] = "IDS_SETTINGS_TOO_LONG";
 inline constexpr char QueueNotSetUp[] = "IDS_QUEUE_NOT_SET_UP"; // %1: the queue
 
 // Every key the window looks up (the model-name key names an entry of the
-// bundle's information dictionary, not a text).
+// application's information dictionary, not a text).
 inline constexpr const char *localizedKeys[] = {
     UtilitySuffix,
     DefaultTitle,

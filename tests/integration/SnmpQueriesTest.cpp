@@ -16,13 +16,6 @@ using H = OVSNMPHelper;
 using P = SimulatedPrinter;
 constexpr const char *kCommunity = "cobalt";
 
-QStringList numbered(const char *prefix, int count, int step) {
-    QStringList names;
-    for (int i = 1; i <= count; i += step)
-        names.append(prefix + QString::number(i));
-    return names;
-}
-
 // What a query gives, as text a table row can state.
 enum Query { Forms, AdminMode, Mac, SleepMode };
 std::string ask(Query query, const char *ip) {
@@ -51,12 +44,17 @@ TEST(SnmpQueries, AnswersOfHealthyFaultyAndSlowPrinters) {
     ASSERT_TRUE(printer.start()) << printer.errorText().toStdString();
     printer.setDefaults();
     const QByteArray ip = P::loopbackAddress().toLatin1();
-    EXPECT_EQ(H::getValidatedFormNameArrayForIPAddress(ip, kCommunity), numbered("Form", 100, 2));
+    // Each table in use in a pattern of its own, states 2, 3 and -1 not in use.
+    EXPECT_EQ(H::getValidatedFormNameArrayForIPAddress(ip, kCommunity),
+              printer.namesInUse(P::Table::Form));
     EXPECT_EQ(H::getValidatedBarcodeAreaNameArrayForIPAddress(ip, kCommunity),
-              numbered("Barcode", 100, 2));
-    EXPECT_EQ(H::getValidatedColorProfileForIPAddress(ip, kCommunity), numbered("Profile", 30, 2));
-    EXPECT_EQ(H::getValidatedSharedBoxNameArrayForIPAddress(ip, kCommunity, 30),
-              numbered("Box", 30, 1));
+              printer.namesInUse(P::Table::BarcodeArea));
+    EXPECT_EQ(H::getValidatedColorProfileForIPAddress(ip, kCommunity),
+              printer.namesInUse(P::Table::ColorProfile));
+    EXPECT_EQ(H::getValidatedSharedBoxNameArrayForIPAddress(ip, kCommunity, 30).value().value(29),
+              "Box30");
+    EXPECT_EQ(H::getValidatedSharedBoxStateArrayForIPAddress(ip, kCommunity, 30).value().mid(0, 4),
+              QString("1 2 1 0").split(' '));
     EXPECT_EQ(H::snmpGetSharedBoxEntryForIPAddress(ip, kCommunity), 30);
     EXPECT_EQ(ask(AdminMode, ip), "on");
     EXPECT_EQ(ask(Mac, ip), "00:11:22:aa:bb:cc");
@@ -64,7 +62,7 @@ TEST(SnmpQueries, AnswersOfHealthyFaultyAndSlowPrinters) {
     // An empty address would be Net-SNMP's localhost: no session opens.
     EXPECT_EQ(ask(SleepMode, ""), "status 1 mode -1");
 
-    const QByteArray form1 = P::nameOid(P::Table::Form, 1);
+    const QByteArray form2 = P::nameOid(P::Table::Form, 2); // the first form in use
     const struct {
         const char *label;
         QByteArray oid;
@@ -73,13 +71,15 @@ TEST(SnmpQueries, AnswersOfHealthyFaultyAndSlowPrinters) {
         std::string expected;
         int requests = -1; // GETs the printer receives; -1: not counted
     } cases[] = {
-        {"japaneseName", form1, QByteArray("請求書フォーム"), Forms, "請求書フォーム +49"},
-        {"emptyName", form1, QByteArray(""), Forms, " +49"},
-        {"longestName", form1, QByteArray(4095, 'n'), Forms, std::string(4095, 'n') + " +49"},
-        {"tooLongName", form1, QByteArray(4096, 'n'), Forms, "failed"},
-        {"notUtf8", form1, QByteArray("\xe8\xab"), Forms, "failed"},
+        {"japaneseName", form2, QByteArray("請求書フォーム"), Forms, "請求書フォーム +49"},
+        {"emptyName", form2, QByteArray(""), Forms, " +49"},
+        {"longestName", form2, QByteArray(4095, 'n'), Forms, std::string(4095, 'n') + " +49"},
+        {"tooLongName", form2, QByteArray(4096, 'n'), Forms, "failed"},
+        {"notUtf8", form2, QByteArray("\xe8\xab"), Forms, "failed"},
         {"missingName", P::nameOid(P::Table::Form, 50), {}, Forms, "failed"},
+        // A later variable of another type than the first fails the list.
         {"nameIsInteger", P::nameOid(P::Table::Form, 3), 7L, Forms, "failed"},
+        {"stateIsText", P::stateOid(P::Table::Form, 4), QByteArray("1"), Forms, "failed"},
         {"adminLoginText", P::kAdminLoginMode, QByteArray("1"), AdminMode, "off"},
         {"macOverlong", P::kMacAddress, QByteArray(60000, 'm'), Mac, "null"},
         {"sleepModeIsText", P::kSleepMode, QByteArray("1"), SleepMode, "status 0 mode -1"},

@@ -1,7 +1,6 @@
 // The wake flow end to end, in real time, between two network namespaces the
 // test creates (the client's interface is en0); nothing here runs the flow, or
 // sends anything, in the machine's own namespace.
-#include "OVSNMPHelper.h"
 #include "OVSleep.h"
 #include "OVSystemLog.h"
 #include "OVWakeOnLanHelper.h"
@@ -23,6 +22,7 @@
 #include <atomic>
 #include <cstring>
 #include <thread>
+#include <utility>
 
 namespace {
 
@@ -120,8 +120,8 @@ private:
     std::thread thread;
 };
 
-// The printer answers at each of its addresses on port 161 (::1 from inside
-// its own namespace) and is woken by the flow run in the client namespace.
+// The printer, in a namespace of its own, is asked at each of its addresses
+// and woken by the flow run in the client namespace.
 TEST(WakeOnLan, ReachesAndWakesThePrinter) {
     Net namespaces;
     QString error;
@@ -133,22 +133,14 @@ TEST(WakeOnLan, ReachesAndWakesThePrinter) {
                               .source4 = "default"});
     ASSERT_TRUE(printer.start()) << printer.errorText().toStdString();
     printer.setDefaults();
-    const auto runIn = [&error](const QString &netns, const std::function<void()> &work) {
-        EXPECT_TRUE(Net::runIn(netns, work, &error)) << error.toStdString();
-    };
-    const std::pair<QString, const char *> addresses[] = {
-        {client, kV4}, {client, kV6}, {client, kLinkLocal}, {own, "::1"}};
-    for (const auto &[netns, address] : addresses) {
-        QString mac;
-        runIn(netns, [&] { mac = OVSNMPHelper::getMacAddress(address, "cobalt"); });
-        EXPECT_EQ(mac, kMac) << address;
-    }
-
     // The flow's thread is joined before these are read.
     int sleptSeconds = 0;
+    long laterMode = -1; // the sleep mode from the flow's first wait on, -1: unchanged
     QStringList log;
     OVSleep::setSleeper([&](unsigned seconds) {
         sleptSeconds += int(seconds);
+        if (laterMode >= 0)
+            printer.set(SimulatedPrinter::kSleepMode, std::exchange(laterMode, -1));
         QThread::msleep(50);
     });
     OVSystemLog::setSink([&](int priority, const QString &line) {
@@ -162,16 +154,32 @@ TEST(WakeOnLan, ReachesAndWakesThePrinter) {
         int requests = -1;        // GETs the printer receives; -1: not counted
         int sleptSeconds = -1;    // -1: not checked
         const char *logged = "";
+        long laterMode = -1;
     } cases[] = {
         {"ipv4Broadcast", kV4, kMac, kAsleep, true, false, true, {kBroadcast, kBroadcast}},
         {"ipv6Group", kV6, kMac, kAsleep, true, false, true, {kAllRouters, kAllRouters}},
         {"ipv4OverRouter", kV4, kMac, kAsleep, true, true, true, {kV4, kV4}},
         {"ipv6OverRouter", kV6, kMac, kAsleep, true, true, true, {kV6, kV6}},
+        {"ipv6Bracketed", "[fd99::2]", kMac, kAsleep, true, true, true, {kV6, kV6}},
         {"emptyAddress", "", kMac, kAsleep, true, false, false, {kBroadcast, kAllRouters}, 0},
+        {"emptyAddressOverRouter", "", kMac, kAsleep, true, true, false, {}, 0},
         {"wakeOnLanOff", kV4, kMac, kAsleep, false, false, true, {}, 0},
         // Going to sleep (2) throughout: 1 + 36 checks 5 s apart, two packets
         // nobody answers (5 s and 10 s after them), 15 polls 1 s apart.
         {"drowsy", kV4, kOtherMac, 2, true, false, false, {kBroadcast, kBroadcast}, 52, 210},
+        // Switched off (0) during that wait: it ends, then packets and polls.
+        {"offWhileWaiting",
+         kV4,
+         kOtherMac,
+         2,
+         true,
+         false,
+         false,
+         {kBroadcast, kBroadcast},
+         17,
+         35,
+         "",
+         0},
         // A link-local address is asked with its zone, but the packet to it
         // cannot be addressed: logged, and the printer sleeps on.
         {"linkLocal", kLinkLocal, kMac, kAsleep, true, true, false, {}, 16, -1, kNoAddress},
@@ -182,15 +190,20 @@ TEST(WakeOnLan, ReachesAndWakesThePrinter) {
         printer.setDefaults();
         printer.set(SimulatedPrinter::kSleepMode, c.sleepMode);
         sleptSeconds = 0;
+        laterMode = c.laterMode;
         log.clear();
         MagicPacketListener listener(own, printer.directory());
         ASSERT_EQ(listener.error, "");
         const int before = printer.requestCount();
-        runIn(client, [&] {
-            EXPECT_EQ(OVWakeOnLanHelper::SnmpWakeUpOnLan(c.address, c.mac, "", c.isWakeOnLan,
-                                                         c.isOverRouter),
-                      c.result);
-        });
+        EXPECT_TRUE(Net::runIn(
+            client,
+            [&] {
+                EXPECT_EQ(OVWakeOnLanHelper::SnmpWakeUpOnLan(c.address, c.mac, "", c.isWakeOnLan,
+                                                             c.isOverRouter),
+                          c.result);
+            },
+            &error))
+            << error.toStdString();
         QThread::msleep(100); // packets still in flight to the listener
         QStringList destinations;
         for (const auto &[destination, bytes] : listener.packets()) {

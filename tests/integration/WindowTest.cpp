@@ -2,6 +2,7 @@
 // a simulated printer, inside a network namespace of its own.
 #include "CupsServerEnvironment.h"
 #include "OVAlert.h"
+#include "OVPreferredLanguages.h"
 #include "OVPrinterUtilityWindowController.h"
 #include "OVTableViewDataSource.h"
 #include "PrivateNetwork.h"
@@ -18,128 +19,318 @@ const bool isolated = PrivateNetwork::enter();
 [[maybe_unused]] ::testing::Environment *const cupsd =
     ::testing::AddGlobalTestEnvironment(new CupsServerEnvironment);
 
-using Controller = OVPrinterUtilityWindowController;
+namespace {
 
-// Closes the window if one is open, then opens one on the queue.
-static Ui::MainUtilityWindiw *open(std::unique_ptr<Controller> &window, const QString &queue) {
-    window.reset();
-    window = std::make_unique<Controller>();
-    window->applicationDidFinishLaunching({"--printer", queue});
-    window->mainWindowObject()->show();
-    return &window->controls();
-}
-static void type(QLineEdit *field, const QString &text) {
+using Controller = OVPrinterUtilityWindowController;
+using P = SimulatedPrinter;
+
+void type(QLineEdit *field, const QString &text) {
     field->clear();
     QTest::keyClicks(field, text);
 }
-static void clickRow(QTableView *table, int row) {
+void erase(QLineEdit *field) {
+    field->selectAll();
+    QTest::keyClick(field, Qt::Key_Backspace);
+}
+// Near the left edge: a check box takes clicks only on its box and its title.
+void click(QAbstractButton *button) {
+    QTest::mouseClick(button, Qt::LeftButton, {}, QPoint(6, button->height() / 2));
+}
+void clickRow(QTableView *table, int row) {
     const QRect cell = table->visualRect(table->model()->index(row, 0));
     QTest::mouseClick(table->viewport(), Qt::LeftButton, {}, cell.center());
 }
 
-TEST(WindowTest, DefaultsFetchChooseSaveReopenAndFetchAgain) {
-    const auto click = [](QAbstractButton *button) { QTest::mouseClick(button, Qt::LeftButton); };
-    ASSERT_TRUE(isolated) << "the window suite needs root to get a private network";
-    CupsServer &server = CupsServerEnvironment::server();
-    ASSERT_TRUE(server.addQueue("Office") && server.addQueue("Fresh"));
-    // The printer's 30 shared boxes: the odd ones in use, one named in other scripts.
-    SimulatedPrinter::Options options;
-    options.listen += ",udp6:[::1]:161";
-    SimulatedPrinter printer(options);
-    ASSERT_TRUE(printer.start()) << printer.errorText().toStdString();
-    printer.setDefaults();
-    printer.set(SimulatedPrinter::nameOid(SimulatedPrinter::Table::SharedBox, 1),
-                QByteArray("営業部 🎨"));
-    QStringList folders{"営業部 🎨"}, alerts;
-    for (int i = 3; i < 30; i += 2)
-        folders << "Box" + QString::number(i);
-    OVAlert::setResponder([&alerts](const OVAlert &alert) {
-        alerts << alert.text();
-        return 0;
-    });
+// A window on a queue of the private cupsd and a printer on loopback (IPv4 and
+// ::1) that answers at once; every alert is answered at once and its text kept.
+class WindowTest : public ::testing::Test {
+protected:
+    void SetUp() override {
+        ASSERT_TRUE(isolated) << "the window suite needs root to get a private network";
+        ASSERT_TRUE(CupsServerEnvironment::server().addQueue("Fresh"));
+        ASSERT_TRUE(printer.start()) << printer.errorText().toStdString();
+        printer.setDefaults();
+        OVAlert::setResponder([this](const OVAlert &alert) {
+            alerts << alert.text();
+            return 0;
+        });
+    }
+    void TearDown() override {
+        window.reset();
+        OVAlert::setResponder({});
+        OVPreferredLanguages::setOverride(std::nullopt);
+    }
+
+    // Closes the window if one is open, then opens one on the queue.
+    void open(const QString &queue = "Fresh") {
+        window.reset();
+        window = std::make_unique<Controller>();
+        window->applicationDidFinishLaunching({"--printer", queue});
+        window->mainWindowObject()->show();
+        c = &window->controls();
+    }
+    void openOnPrinter() {
+        open();
+        type(c->printerIPAddressText, P::loopbackAddress());
+    }
+    // GET requests the printer received while work ran.
+    int requestsDuring(const std::function<void()> &work) {
+        const int before = printer.requestCount();
+        work();
+        return printer.requestCount() - before;
+    }
+    QStringList forms() const { return window->formTableViewDataSource()->getElementsArray(); }
+    QStringList chosen() const {
+        return window->selectedFolderTableViewDataSource()->getElementsArray();
+    }
+
+    static P::Options alsoOnIPv6() {
+        P::Options options;
+        options.listen += ",udp6:[::1]:161";
+        return options;
+    }
+
+    P printer{alsoOnIPv6()};
+    QStringList alerts;
     std::unique_ptr<Controller> window;
-    Ui::MainUtilityWindiw *c = open(window, "Office");
+    Ui::MainUtilityWindiw *c = nullptr;
+};
+
+TEST_F(WindowTest, DefaultsChooseFetchSaveAndReopen) {
+    CupsServer &server = CupsServerEnvironment::server();
+    ASSERT_TRUE(server.addQueue("Office"));
+    printer.set(P::nameOid(P::Table::SharedBox, 1), QByteArray("営業部 🎨"));
+    const QStringList folders = printer.namesInUse(P::Table::SharedBox);
+    open("Office");
     EXPECT_EQ(window->registerFolderTableViewDataSource()->count(), 100u);
-    EXPECT_EQ(window->selectedFolderTableViewDataSource()->getElementsArray(),
-              QStringList{"Shared Folder 1"});
+    EXPECT_EQ(chosen(), QStringList{"Shared Folder 1"});
     EXPECT_TRUE(c->wakeOnLANCheck->isChecked() && !c->snmpCommunityCheck->isChecked() &&
                 !c->snmpCommunityText->isEnabled() && !c->folderPersonalFolderCheck->isChecked());
     EXPECT_EQ(c->snmpCommunityText->text() + c->macAddressText4->text(), "cobalt00");
 
-    type(c->printerIPAddressText, SimulatedPrinter::loopbackAddress());
+    // Each chosen folder keeps the register row it was added from, through adding and
+    // deleting; the fetch renames it from the printer's folders in use at that row.
+    c->meinTabView->setCurrentWidget(c->folderTabViewItem);
+    for (int row : {4, 2}) {
+        clickRow(c->folderSharedFolderTable, row);
+        click(c->folderAddButton);
+    }
+    clickRow(c->folderSelectedFolderTable, 1);
+    click(c->folderDeleteButton);
+    EXPECT_EQ(chosen(), QString("Shared Folder 1,Shared Folder 3").split(','));
+    EXPECT_EQ(window->selectedSharedBoxIndex(), (QList<qint32>{0, 2}));
+    type(c->printerIPAddressText, P::loopbackAddress());
     click(c->printerGetPrinterInfoButton);
     ASSERT_TRUE(alerts.isEmpty()) << alerts.join('|').toStdString();
-    c->meinTabView->setCurrentWidget(c->folderTabViewItem);
-    clickRow(c->folderSharedFolderTable, 2);
-    click(c->folderAddButton);
-    clickRow(c->folderSelectedFolderTable, 0);
-    click(c->folderDeleteButton);
+    EXPECT_EQ(chosen(), (QStringList{folders[0], folders[2]}));
     click(c->folderPersonalFolderCheck);
     // cupsd cannot hand a job this large to the driver: the window says which lists to
     // shorten and stays open instead of losing the settings.
-    OVTableViewDataSource *forms = window->formTableViewDataSource();
-    const QStringList fetchedForms = forms->getElementsArray();
-    forms->setElementsArray(QStringList(100, QString(900, 'a')));
+    OVTableViewDataSource *formSource = window->formTableViewDataSource();
+    const QStringList fetchedForms = forms();
+    formSource->setElementsArray(QStringList(100, QString(900, 'a')));
     QSignalSpy terminated(window.get(), &Controller::applicationShouldTerminate);
     click(c->okButton);
     EXPECT_EQ(alerts.size(), 1);
-    forms->setElementsArray(fetchedForms);
+    formSource->setElementsArray(fetchedForms);
     click(c->okButton);
     EXPECT_EQ(terminated.count(), 1);
     window.reset();
     EXPECT_TRUE(QTest::qWaitFor(
         [&] { return server.queuePpd("Office").contains("*PPDOptionsUpdated: \"1\""); }, 30000));
-    c = open(window, "Office");
+    open("Office");
     EXPECT_EQ(window->registerFolderTableViewDataSource()->getElementsArray(), folders);
-    EXPECT_EQ(window->selectedFolderTableViewDataSource()->getElementsArray(),
-              QStringList{folders[2]});
+    EXPECT_EQ(chosen(), (QStringList{folders[0], folders[2]}));
     EXPECT_TRUE(c->folderPersonalFolderCheck->isChecked());
-    EXPECT_EQ(c->printerIPAddressText->text(), SimulatedPrinter::loopbackAddress());
+    EXPECT_EQ(c->printerIPAddressText->text(), P::loopbackAddress());
     EXPECT_EQ(c->macAddressText1->text() + c->macAddressText6->text(), "00cc");
-    EXPECT_EQ(window->formTableViewDataSource()->count(), 50u);
-    EXPECT_EQ(window->barcodeAreaDefinitionTableViewDataSource()->getElementsArray().last(),
-              "Barcode99");
-    EXPECT_EQ(window->colorProfileTableViewDataSource()->getElementsArray().first(), "Profile1");
-    // Fetches in turn in a fresh window. Over IPv4 and IPv6 folders arrive; a silent printer
-    // or an empty address fails with one alert and puts the default folders back; an empty
-    // address sends nothing.
-    const QString v4 = SimulatedPrinter::loopbackAddress();
-    const std::pair<QString, bool> rows[] = {{v4, false}, {v4, true}, {"::1", false}, {"", false}};
-    c = open(window, "Fresh");
-    click(c->wakeOnLANCheck);
-    for (const auto &[address, silent] : rows) {
-        SCOPED_TRACE(address.toStdString() + (silent ? " silent" : ""));
-        alerts.clear();
-        type(c->printerIPAddressText, address);
-        const int before = printer.requestCount();
-        printer.setSilent(silent);
-        click(c->folderGetPrinterInfoButton);
-        printer.setSilent(false);
-        const bool answers = !silent && !address.isEmpty();
-        EXPECT_EQ(alerts, answers ? QStringList() : QStringList{"Failed to obtain information."});
-        EXPECT_TRUE(answers || window->bError());
-        EXPECT_EQ(window->registerFolderTableViewDataSource()->count(), answers ? 15u : 100u);
-        EXPECT_EQ(window->selectedFolderTableViewDataSource()->getElementsArray().value(0),
-                  answers ? folders[0] : "Shared Folder 1");
-        EXPECT_EQ(printer.requestCount() == before, address.isEmpty());
-    }
-
-    // The printer answers each request 0.8 s late: the event loop keeps running meanwhile,
-    // and a second click on a fetch button starts nothing.
-    type(c->printerIPAddressText, v4);
-    printer.setResponseDelayMs(800);
-    const int before = printer.requestCount();
-    int ticks = 0;
-    QTimer timer;
-    QObject::connect(&timer, &QTimer::timeout, [&] {
-        if (++ticks == 5)
-            click(c->formGetPrinterInfoButton);
-    });
-    timer.start(20);
-    click(c->formGetPrinterInfoButton);
-    printer.setResponseDelayMs(0);
-    EXPECT_GT(ticks, 20);
-    EXPECT_EQ(printer.requestCount() - before, 2);
-    EXPECT_EQ(window->formTableViewDataSource()->count(), 50u);
-    OVAlert::setResponder({});
+    EXPECT_EQ(forms(), printer.namesInUse(P::Table::Form));
+    EXPECT_EQ(window->barcodeAreaDefinitionTableViewDataSource()->getElementsArray(),
+              printer.namesInUse(P::Table::BarcodeArea));
+    EXPECT_EQ(window->colorProfileTableViewDataSource()->getElementsArray(),
+              printer.namesInUse(P::Table::ColorProfile));
 }
+
+// Get Printer Info over IPv4 and IPv6 (bracketed too) stops at the first step that
+// fails, with its one alert: the printer sees no request of a later step. Wake-on-LAN
+// is off, so each step asks only its queries: the MAC address 1, the folders 4, each
+// list 2. A failed folder step puts the default folders back; an empty address sends
+// nothing.
+TEST_F(WindowTest, CombinedFetchStopsAtTheFirstFailure) {
+    const QString v4 = P::loopbackAddress();
+    const std::tuple<QString, QByteArray, int, quint64> cases[] = {
+        {v4, "", 11, 15},
+        {v4, P::kMacAddress, 1, 15},
+        {v4, P::nameOid(P::Table::SharedBox, 5), 5, 100},
+        {v4, P::nameOid(P::Table::Form, 50), 7, 15},
+        {v4, P::nameOid(P::Table::BarcodeArea, 50), 9, 15},
+        {v4, P::nameOid(P::Table::ColorProfile, 30), 11, 15},
+        {"::1", "", 11, 15},
+        {"[::1]", "", 11, 15},
+        {"", "", 0, 15}};
+    open();
+    click(c->wakeOnLANCheck);
+    for (const auto &[address, missing, requests, folders] : cases) {
+        SCOPED_TRACE(address.toStdString() + " without " + missing.toStdString());
+        type(c->printerIPAddressText, address);
+        printer.setDefaults();
+        if (!missing.isEmpty())
+            printer.set(missing, {});
+        alerts.clear();
+        EXPECT_EQ(requestsDuring([&] { click(c->printerGetPrinterInfoButton); }), requests);
+        const bool fails = !missing.isEmpty() || address.isEmpty();
+        EXPECT_EQ(alerts, fails ? QStringList{"Failed to obtain information."} : QStringList());
+        EXPECT_EQ(window->bError(), fails);
+        EXPECT_EQ(window->registerFolderTableViewDataSource()->count(), folders);
+    }
+}
+
+// Each list's Clear empties that list alone; the folder one puts the default folders
+// back, selects no chosen folder, leaves Add off (its selected folder is chosen),
+// turns the personal folder off and the settings back to not saved.
+TEST_F(WindowTest, ClearButtons) {
+    openOnPrinter();
+    click(c->printerGetPrinterInfoButton);
+    click(c->folderPersonalFolderCheck);
+    window->formTableViewDataSource()->setElementsArray(QStringList(100, QString(900, 'a')));
+    click(c->okButton); // too long to save: the window stays with its settings marked saved
+    ASSERT_TRUE(window->isPPDOptionsUpdated());
+    const auto counts = [this] {
+        QList<quint64> n;
+        for (OVTableViewDataSource *source :
+             {window->formTableViewDataSource(), window->barcodeAreaDefinitionTableViewDataSource(),
+              window->colorProfileTableViewDataSource(),
+              window->registerFolderTableViewDataSource()})
+            n << source->count();
+        return n;
+    };
+    ASSERT_EQ(counts(), (QList<quint64>{100, 50, 15, 15}));
+    const std::pair<QPushButton *, QList<quint64>> steps[] = {
+        {c->formClearButton, {0, 50, 15, 15}},
+        {c->barcodeAreaDefinitionClearButton, {0, 0, 15, 15}},
+        {c->colorProfileClearButton, {0, 0, 0, 15}},
+        {c->folderClearButton, {0, 0, 0, 100}}};
+    for (const auto &[button, expected] : steps) {
+        click(button);
+        EXPECT_EQ(counts(), expected) << button->objectName().toStdString();
+    }
+    EXPECT_EQ(chosen(), QStringList{"Shared Folder 1"});
+    EXPECT_EQ(window->selectedFolderTableViewDataSource()->getSelectedRow(), -1);
+    EXPECT_FALSE(c->folderAddButton->isEnabled());
+    EXPECT_FALSE(c->folderPersonalFolderCheck->isChecked());
+    EXPECT_FALSE(window->isPPDOptionsUpdated());
+}
+
+// The MAC fields follow the Wake-on-LAN check; "Connect to Another Network" needs it
+// and some MAC text, and keeps its state while disabled.
+TEST_F(WindowTest, WakeOnLanControls) {
+    open();
+    click(c->overstepTheRouter);
+    const QList<QLineEdit *> macs = {c->macAddressText1, c->macAddressText2, c->macAddressText3,
+                                     c->macAddressText4, c->macAddressText5, c->macAddressText6};
+    const std::tuple<std::function<void()>, bool, bool> steps[] = {
+        {[&] {
+             for (QLineEdit *field : macs)
+                 erase(field);
+         },
+         true, false},
+        {[&] { QTest::keyClicks(c->macAddressText5, "f"); }, true, true},
+        {[&] { click(c->wakeOnLANCheck); }, false, false},
+        {[&] { click(c->wakeOnLANCheck); }, true, true},
+        {[&] { erase(c->macAddressText5); }, true, false}};
+    int step = 0;
+    for (const auto &[act, macsEnabled, overRouterEnabled] : steps) {
+        act();
+        SCOPED_TRACE(step++);
+        for (QLineEdit *field : macs)
+            EXPECT_EQ(field->isEnabled(), macsEnabled);
+        EXPECT_EQ(c->overstepTheRouter->isEnabled(), overRouterEnabled);
+        EXPECT_TRUE(c->overstepTheRouter->isChecked());
+    }
+}
+
+// A custom community reaches the wake check and the queries as typed, U+200B
+// included: a printer that knows only that community answers all three requests.
+TEST_F(WindowTest, CustomCommunityReachesThePrinter) {
+    P::Options options;
+    options.listen = options.counterPeer = "udp:127.0.0.3:161";
+    options.community = "office\u200B";
+    P office(options);
+    ASSERT_TRUE(office.start()) << office.errorText().toStdString();
+    office.setDefaults();
+    open();
+    click(c->snmpCommunityCheck);
+    c->snmpCommunityText->setText(QString::fromUtf8("office\u200B"));
+    c->macAddressText6->setText("cc"); // a MAC to wake: the flow asks the sleep mode
+    type(c->printerIPAddressText, "127.0.0.3");
+    const int before = office.requestCount();
+    click(c->formGetPrinterInfoButton);
+    EXPECT_EQ(alerts, QStringList());
+    EXPECT_EQ(office.requestCount() - before, 3);
+    EXPECT_EQ(forms(), office.namesInUse(P::Table::Form));
+}
+
+// The personal-folder check is enabled exactly when the printer's administrator
+// login mode is 1, and a fetch never changes its state; an empty list from the
+// printer leaves the list as it was, without an alert.
+TEST_F(WindowTest, FetchesKeepWhatThePrinterDoesNotChange) {
+    openOnPrinter();
+    const std::pair<long, bool> modes[] = {{1, true}, {2, false}, {1, true}, {0, false}};
+    for (const auto &[mode, enabled] : modes) {
+        printer.set(P::kAdminLoginMode, mode);
+        click(c->folderGetPrinterInfoButton);
+        EXPECT_EQ(c->folderPersonalFolderCheck->isEnabled(), enabled) << mode;
+        if (!c->folderPersonalFolderCheck->isChecked())
+            click(c->folderPersonalFolderCheck);
+        EXPECT_TRUE(c->folderPersonalFolderCheck->isChecked()) << mode;
+    }
+    click(c->formGetPrinterInfoButton);
+    const QStringList fetched = forms();
+    for (int index = 1; index <= 100; ++index)
+        printer.set(P::stateOid(P::Table::Form, index), 0L);
+    click(c->formGetPrinterInfoButton);
+    EXPECT_EQ(fetched.size(), 50);
+    EXPECT_EQ(forms(), fetched);
+    EXPECT_EQ(alerts, QStringList());
+}
+
+// With the user's language German, the window's texts, its default folders and its
+// alert come from the German translation.
+TEST_F(WindowTest, TextsInTheUsersLanguage) {
+    OVPreferredLanguages::setOverride(QStringList{"de-DE"});
+    open();
+    click(c->folderGetPrinterInfoButton); // no address: fails
+    const std::pair<QString, QString> texts[] = {
+        {c->meinTabView->tabText(0), "Ordner"},
+        {c->folderClearButton->text(), "Leeren"},
+        {c->folderPersonalFolderCheck->text(), "Persönlichen Ordner verwenden"},
+        {window->registerFolderTableViewDataSource()->getElementAtRow(0), "Freigegebener Ordner 1"},
+        {alerts.value(0), "Die Informationen konnten nicht abgerufen werden."}};
+    for (const auto &[shown, expected] : texts)
+        EXPECT_EQ(shown, expected);
+}
+
+// The printer answers each request 0.3 s late, well within the 1 s timeout, so nothing
+// is asked twice. While the form fetch waits, clicks on every fetch button are dropped
+// for good and typing waits: the printer sees the form fetch's two requests only, and
+// the typed digit shows once the fetch is over.
+TEST_F(WindowTest, InputWaitsForAFetchAndFetchClicksAreDropped) {
+    openOnPrinter();
+    printer.setResponseDelayMs(300);
+    QString duringFetch;
+    QTimer::singleShot(0, [&] {
+        for (QPushButton *button :
+             {c->printerGetPrinterInfoButton, c->folderGetPrinterInfoButton,
+              c->formGetPrinterInfoButton, c->barcodeAreaDefinitionGetPrinterInfoButton,
+              c->colorProfileGetPrinterInfoButton})
+            click(button);
+        QTest::keyClicks(c->printerIPAddressText, "9");
+        duringFetch = c->printerIPAddressText->text();
+    });
+    EXPECT_EQ(requestsDuring([&] { click(c->formGetPrinterInfoButton); }), 2);
+    EXPECT_EQ(duringFetch, P::loopbackAddress());
+    EXPECT_EQ(c->printerIPAddressText->text(), P::loopbackAddress() + "9");
+    EXPECT_EQ(forms(), printer.namesInUse(P::Table::Form));
+}
+
+} // namespace
