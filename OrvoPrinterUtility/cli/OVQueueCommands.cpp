@@ -69,10 +69,31 @@ int jobFailure(const OVUpdateJob::JobOutcome &outcome, int jobId) {
     }
 }
 
-// libcups reports a connection lost while sending as these two statuses; any
-// other is the server's refusal.
+// On a queue that is not set up the update job would be printed. 0 when the
+// queue takes saves.
+int notReadyToSave(const QString &queue) {
+    switch (OVQueueSetup::state(queue)) {
+    case OVQueueSetup::State::SetUp:
+        return 0;
+    case OVQueueSetup::State::NotSetUp:
+        return OVCommandLine::fail(Exit::Refused, "the queue \"" + queue +
+                                                      "\" is not set up for the utility; nothing "
+                                                      "was sent. Set it up with: "
+                                                      "orvo-printer-utility-cli setup " +
+                                                      queue);
+    case OVQueueSetup::State::QueueUnknown:
+        return OVCommandLine::fail(Exit::QueueUnknown, "no queue \"" + queue + "\" on the server");
+    default:
+        return OVCommandLine::serverFailure();
+    }
+}
+
+// libcups reports a connection lost while sending as one of the last two
+// statuses, and a connection that could not be made as none at all; any other
+// is the server's refusal.
 int submissionFailure(ipp_status_t status) {
-    if (status == IPP_STATUS_ERROR_SERVICE_UNAVAILABLE || status == IPP_STATUS_ERROR_INTERNAL)
+    if (status <= IPP_STATUS_OK_EVENTS_COMPLETE || status == IPP_STATUS_ERROR_SERVICE_UNAVAILABLE ||
+        status == IPP_STATUS_ERROR_INTERNAL)
         return OVCommandLine::fail(Exit::ServerUnreachable,
                                    "the CUPS server stopped answering while the update job was "
                                    "sent; whether it arrived shows once the server is back "
@@ -175,13 +196,8 @@ int OVQueueCommands::save(const QCommandLineParser &parser, bool json) {
     if (const auto status = OVStoredSettings::load(queue, settings);
         status != OVStoredSettings::Status::Loaded)
         return loadFailure(status, queue);
-    // On a queue that is not set up the update job would be printed.
-    if (OVQueueSetup::state(queue) != OVQueueSetup::State::SetUp)
-        return OVCommandLine::fail(Exit::Refused, "the queue \"" + queue +
-                                                      "\" is not set up for the utility; nothing "
-                                                      "was sent. Set it up with: "
-                                                      "orvo-printer-utility-cli setup " +
-                                                      queue);
+    if (const int refused = notReadyToSave(queue))
+        return refused;
     settings.isPPDOptionsUpdated = true;
     QString error = OVSettingsFields::apply(given, settings);
     if (error.isEmpty())

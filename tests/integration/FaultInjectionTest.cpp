@@ -2,7 +2,7 @@
 // during show and save, a paused queue, and a disk too small for the PPDs. The command line
 // must end within its time limit and say what happened.
 #include "CupsServer.h"
-#include "OVSettingsRoute.h"
+#include "OVQueueSetup.h"
 #include "OrvoPPD_Interface.h"
 
 #include <QElapsedTimer>
@@ -45,15 +45,15 @@ QStringList save(int number, int timeout = 10) {
             "Office", "--forms",   QStringLiteral("Form %1").arg(number)};
 }
 
-// What cupsd serves after a crash: a PPD libcups cannot open, or one that lost the route, stops
-// the queue taking saves.
+// What cupsd serves after a crash: a PPD libcups cannot open, or a queue that no longer takes
+// the update job's format, stops the queue taking saves.
 bool damaged(const CupsServer &server, const QString &queue) {
-    QFile file(server.ppdFile(queue));
-    const QByteArray text = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     ppd_file_t *ppd = r_ppdOpenFile(server.ppdFile(queue).toLocal8Bit().constData());
     if (ppd)
         r_ppdClose(ppd);
-    return !ppd || !OVSettingsRoute::isIn(text);
+    return !ppd ||
+           !QTest::qWaitFor(
+               [&] { return OVQueueSetup::state(queue) == OVQueueSetup::State::SetUp; }, 2000);
 }
 
 // Each way a killed save can end, with the words that say it.

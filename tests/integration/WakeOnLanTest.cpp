@@ -9,6 +9,7 @@
 
 #include <QDateTime>
 #include <QFile>
+#include <QProcess>
 #include <QSaveFile>
 #include <QThread>
 
@@ -220,6 +221,29 @@ TEST(WakeOnLan, ReachesAndWakesThePrinter) {
     }
     OVSleep::setSleeper({});
     OVSystemLog::setSink({});
+
+    // The command line's --mac: both separators wake the printer with its own packet; any
+    // other text is refused before a packet is sent.
+    const std::pair<const char *, int> macs[] = {
+        {"00:11:22:aa:bb:cc", 0},    {"00-11-22-AA-BB-CC", 0},
+        {"001122334455", 2},         {"00:11:22:aa:bb", 2},
+        {"00:11-22:aa:bb:cc", 2},    {"gg:11:22:aa:bb:cc", 2},
+        {"00:11:22:aa:bb:cc:dd", 2}, {"", 2},
+    };
+    for (const auto &[mac, exit] : macs) {
+        SCOPED_TRACE(mac);
+        QFile::remove(printer.directory() + "/awake-at");
+        printer.set(SimulatedPrinter::kSleepMode, kAsleep);
+        MagicPacketListener listener(own, printer.directory());
+        EXPECT_EQ(QProcess::execute("ip", {"netns", "exec", client, ORVO_CLI, "fetch", "--wake",
+                                           "--over-router", "--mac", mac, "--address", kV4}),
+                  exit);
+        QThread::msleep(100);
+        const auto packets = listener.packets();
+        EXPECT_EQ(packets.size(), exit == 0 ? 2 : 0);
+        for (const auto &[destination, bytes] : packets)
+            EXPECT_EQ(bytes.toHex(), magicPacket(kMac).toHex());
+    }
 }
 
 } // namespace
