@@ -70,10 +70,10 @@ protected:
         type(c->printerIPAddressText, P::loopbackAddress());
     }
     // GET requests the printer received while work ran.
-    int requestsDuring(const std::function<void()> &work) {
-        const int before = printer.requestCount();
+    static int requestsDuring(P &to, const std::function<void()> &work) {
+        const int before = to.requestCount();
         work();
-        return printer.requestCount() - before;
+        return to.requestCount() - before;
     }
     QStringList forms() const { return window->formTableViewDataSource()->getElementsArray(); }
     QStringList chosen() const {
@@ -145,9 +145,8 @@ TEST_F(WindowTest, DefaultsChooseFetchSaveAndReopen) {
               printer.namesInUse(P::Table::ColorProfile));
 }
 
-// Get Printer Info (IPv4, IPv6) stops at the first failing step with one alert. Without
-// Wake-on-LAN the steps ask: MAC 1, folders 4, each list 2. A failed folder step puts the
-// default folders back; an empty address sends nothing.
+// Get Printer Info stops at the first failing step, one alert; without Wake-on-LAN the steps
+// ask MAC 1, folders 4, each list 2. A failed folder step puts the default folders back.
 TEST_F(WindowTest, CombinedFetchStopsAtTheFirstFailure) {
     const QString v4 = P::loopbackAddress();
     const std::tuple<QString, QByteArray, int, quint64> cases[] = {
@@ -169,7 +168,8 @@ TEST_F(WindowTest, CombinedFetchStopsAtTheFirstFailure) {
         if (!missing.isEmpty())
             printer.set(missing, {});
         alerts.clear();
-        EXPECT_EQ(requestsDuring([&] { click(c->printerGetPrinterInfoButton); }), requests);
+        EXPECT_EQ(requestsDuring(printer, [&] { click(c->printerGetPrinterInfoButton); }),
+                  requests);
         const bool fails = !missing.isEmpty() || address.isEmpty();
         EXPECT_EQ(alerts, fails ? QStringList{"Failed to obtain information."} : QStringList());
         EXPECT_EQ(window->bError(), fails);
@@ -177,9 +177,8 @@ TEST_F(WindowTest, CombinedFetchStopsAtTheFirstFailure) {
     }
 }
 
-// Each list's Clear empties that list alone; the folder one puts the default folders
-// back, selects no chosen folder, leaves Add off (its selected folder is chosen),
-// turns the personal folder off and the settings back to not saved.
+// Each Clear empties its list alone; the folder one restores the default folders, selects none
+// chosen, leaves Add off, turns the personal folder off and the settings to not saved.
 TEST_F(WindowTest, ClearButtons) {
     openOnPrinter();
     click(c->printerGetPrinterInfoButton);
@@ -210,8 +209,7 @@ TEST_F(WindowTest, ClearButtons) {
     EXPECT_FALSE(window->isPPDOptionsUpdated());
 }
 
-// The MAC fields follow the Wake-on-LAN check; "Connect to Another Network" needs it
-// and some MAC text, and keeps its state while disabled.
+// MAC fields follow Wake-on-LAN; Another Network needs it and MAC text, keeps its state if off.
 TEST_F(WindowTest, WakeOnLanControls) {
     open();
     click(c->overstepTheRouter);
@@ -236,8 +234,7 @@ TEST_F(WindowTest, WakeOnLanControls) {
     }
 }
 
-// A custom community reaches the wake check and the queries as typed, U+200B
-// included: a printer that knows only that community answers all three requests.
+// A custom community (U+200B too) reaches the wake check and the queries exactly as typed.
 TEST_F(WindowTest, CustomCommunityReachesThePrinter) {
     P::Options options;
     options.listen = options.counterPeer = "udp:127.0.0.3:161";
@@ -250,15 +247,12 @@ TEST_F(WindowTest, CustomCommunityReachesThePrinter) {
     c->snmpCommunityText->setText(QString::fromUtf8("office\u200B"));
     c->macAddressText6->setText("cc"); // a MAC to wake: the flow asks the sleep mode
     type(c->printerIPAddressText, "127.0.0.3");
-    const int before = office.requestCount();
-    click(c->formGetPrinterInfoButton);
+    EXPECT_EQ(requestsDuring(office, [&] { click(c->formGetPrinterInfoButton); }), 3);
     EXPECT_EQ(alerts, QStringList());
-    EXPECT_EQ(office.requestCount() - before, 3);
     EXPECT_EQ(forms(), office.namesInUse(P::Table::Form));
 }
 
-// The personal-folder check is enabled exactly at administrator login mode 1 and keeps
-// its state; an empty list from the printer leaves the list as it was, without an alert.
+// Personal folder enabled only at admin login mode 1, its state kept; empty lists change nothing.
 TEST_F(WindowTest, FetchesKeepWhatThePrinterDoesNotChange) {
     openOnPrinter();
     const std::pair<long, bool> modes[] = {{1, true}, {2, false}, {1, true}, {0, false}};
@@ -293,8 +287,7 @@ TEST_F(WindowTest, TextsInTheUsersLanguage) {
     EXPECT_EQ(alerts, QStringList{"Die Informationen konnten nicht abgerufen werden."});
 }
 
-// Answers 0.3 s late (the timeout is 1 s): during the form fetch every fetch click is
-// dropped (only its 2 requests arrive) and a typed digit shows once the fetch is over.
+// During a slow fetch (0.3 s, the timeout 1 s) fetch clicks are dropped and typing waits.
 TEST_F(WindowTest, InputWaitsForAFetchAndFetchClicksAreDropped) {
     openOnPrinter();
     printer.setResponseDelayMs(300);
@@ -308,7 +301,7 @@ TEST_F(WindowTest, InputWaitsForAFetchAndFetchClicksAreDropped) {
         QTest::keyClicks(c->printerIPAddressText, "9");
         duringFetch = c->printerIPAddressText->text();
     });
-    EXPECT_EQ(requestsDuring([&] { click(c->formGetPrinterInfoButton); }), 2);
+    EXPECT_EQ(requestsDuring(printer, [&] { click(c->formGetPrinterInfoButton); }), 2);
     EXPECT_EQ(duringFetch, P::loopbackAddress());
     EXPECT_EQ(c->printerIPAddressText->text(), P::loopbackAddress() + "9");
     EXPECT_EQ(forms(), printer.namesInUse(P::Table::Form));

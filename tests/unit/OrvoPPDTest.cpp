@@ -59,8 +59,7 @@ std::string str(OrvoPPDRange r) {
     return " " + std::to_string(r.location) + "+" + std::to_string(r.length);
 }
 
-// The reader's rules done the slow way, every option scanning the text with
-// its own expressions. The one-pass index must give exactly these lines.
+// The reader's rules the slow way, each option with its own expressions: the index must agree.
 Lines naiveScan(const QString &text) {
     auto all = [&](QStringView pattern, const QString &keyword, OrvoPPDRange in) {
         return OrvoPPDRegex(OrvoPPDRegex::format(pattern, {keyword}))
@@ -159,8 +158,7 @@ std::string verdictOf(const char *path) {
            digest.result().toHex().left(12).toStdString();
 }
 
-// A stop runs in a child process, which must abort after its log line (sent to standard
-// error, all a death test sees).
+// A stop aborts a child process after its log line, sent to stderr for the death test to see.
 void expectVerdict(const char *path, const std::string &verdict) {
     GTEST_FLAG_SET(death_test_style, "threadsafe");
     const auto open = [path] {
@@ -190,8 +188,7 @@ TEST(OrvoPPDLanguage, FollowsTheSystemVersion) {
     }
 }
 
-// Own searches match names exactly; marking finds the option through libcups,
-// which ignores case, and an unknown choice leaves the marks alone.
+// Searches match names exactly; marking (via libcups) ignores case; unknown choices mark nothing.
 TEST(OrvoPPDQueries, FindAndMark) {
     const OpenedPPD ppd(OrvoPPD::ppdOpenFile(
         TempPPD("*DefaultPageSize: A4\n*OpenUI *PageSize/Size: PickOne\n*DefaultPageSize: A4\n"
@@ -268,9 +265,8 @@ TEST(OrvoPPDScanEquivalence, IndexAnswersAsThePerKeywordExpressions) {
     }
 }
 
-// Options, defaults and choices (not Custom, which each reader adds by rules of its own)
-// only one reader finds, and the attributes without option keyword or translation that
-// libcups reads and ours does not (ours reads many more).
+// Options, defaults, choices (not Custom: each reader adds its own) only one reader finds, and
+// attributes without option keyword or translation libcups reads and ours does not.
 std::string differenceFromLibcups(const char *path) {
     const OpenedPPD ours(OrvoPPD::ppdOpenFile(path));
     const std::unique_ptr<ppd_file_t, decltype(&ppdClose)> theirs(ppdOpenFile(path), &ppdClose);

@@ -71,8 +71,7 @@ TEST(ControlsTest, communityField) {
     OVAlert::setResponder({});
 }
 
-// Clamped to 1–10 when editing ends, the linked stepper following; while typing,
-// entries snap into 90–340 and a non-digit is refused.
+// Clamped to 1–10 when editing ends (the stepper follows); typed entries snap into 90–340.
 TEST(ControlsTest, numericField) {
     // Initial text, keys typed (none: Return pressed instead), the text left.
     const std::tuple<QString, QString, QString> cases[] = {
@@ -93,8 +92,7 @@ TEST(ControlsTest, numericField) {
     }
 }
 
-// A refused key restores the text before it, also one the program put in, and
-// posts nothing; with auto trim a paste keeps its valid part.
+// A refused key restores the prior text and posts nothing; auto trim keeps a paste's valid part.
 TEST(ControlsTest, macAddressFieldAndAutoTrim) {
     const std::tuple<QString, QString, bool, QString, qsizetype> cases[] = {
         {"", "A1F", false, "A1", 2},
@@ -119,8 +117,7 @@ TEST(ControlsTest, macAddressFieldAndAutoTrim) {
     }
 }
 
-// Mixed scripts, emoji, NUL and a lone surrogate, typed and then pasted a
-// megabyte at a time: a field may refuse them but must obey its own rules.
+// Mixed scripts, emoji, NUL, a lone surrogate, typed then pasted by the megabyte: rules hold.
 TEST(ControlsTest, hostileInputKeepsEachFieldsRules) {
     const QString unit =
         QStringLiteral("ab-12 Ωж中文ا\U0001F600") + QChar(0) + QChar(0x200B) + QChar(0xD83D);
@@ -149,8 +146,7 @@ TEST(ControlsTest, hostileInputKeepsEachFieldsRules) {
     OVAlert::setResponder({});
 }
 
-// Real dialogs answered as soon as they show: the first button sits
-// rightmost, a missing title leaves no gap, each button answers its result.
+// The first button sits rightmost, a missing title leaves no gap, each answers its result.
 TEST(ControlsTest, alertDialog) {
     const std::tuple<QStringList, QStringList, int, int> cases[] = {
         {{QString(), QString(), QString()}, {"OK"}, 0, OVAlert::DefaultReturn},
@@ -170,9 +166,8 @@ TEST(ControlsTest, alertDialog) {
     }
 }
 
-// An observer removed during delivery is not called, one added then waits
-// for the next event, one whose context is gone is never called again, and a
-// context may outlive its centre.
+// An observer removed during delivery is not called, one added then waits for the next event,
+// one whose context is gone is never called again, and a context may outlive its centre.
 TEST(ControlsTest, notificationCentre) {
     QObject survivor;
     OVNotificationCenter center;
@@ -196,9 +191,8 @@ TEST(ControlsTest, notificationCentre) {
     EXPECT_EQ(calls, (QStringList{"context", "survivor", "survivor", "late"}));
 }
 
-// Selection reaches the model only through the table's own path, one event per
-// change; removing the selected row selects its successor silently; a reload
-// keeps the selected row while it exists; only displayed text is localized.
+// Selection goes through the table, one event per change; removing the selected row selects
+// the next silently; a reload keeps the row while it exists; only shown text is localized.
 TEST(ControlsTest, stringListModel) {
     QTableView view;
     OVTableViewDataSource source;
