@@ -1,5 +1,4 @@
-// The main window driven with real clicks and typing against a private cupsd and
-// a simulated printer, inside a network namespace of its own.
+// The main window driven by clicks and typing, against a private cupsd and printer.
 #include "CupsServerEnvironment.h"
 #include "OVAlert.h"
 #include "OVPreferredLanguages.h"
@@ -16,8 +15,7 @@
 #include <gtest/gtest.h>
 
 const bool isolated = PrivateNetwork::enter();
-[[maybe_unused]] ::testing::Environment *const cupsd =
-    ::testing::AddGlobalTestEnvironment(new CupsServerEnvironment);
+[[maybe_unused]] const auto cupsd = ::testing::AddGlobalTestEnvironment(new CupsServerEnvironment);
 
 namespace {
 
@@ -41,8 +39,7 @@ void clickRow(QTableView *table, int row) {
     QTest::mouseClick(table->viewport(), Qt::LeftButton, {}, cell.center());
 }
 
-// A window on a queue of the private cupsd and a printer on loopback (IPv4 and
-// ::1) that answers at once; every alert is answered at once and its text kept.
+// A printer on loopback (IPv4 and ::1); every alert is answered at once and its text kept.
 class WindowTest : public ::testing::Test {
 protected:
     void SetUp() override {
@@ -61,7 +58,6 @@ protected:
         OVPreferredLanguages::setOverride(std::nullopt);
     }
 
-    // Closes the window if one is open, then opens one on the queue.
     void open(const QString &queue = "Fresh") {
         window.reset();
         window = std::make_unique<Controller>();
@@ -74,10 +70,10 @@ protected:
         type(c->printerIPAddressText, P::loopbackAddress());
     }
     // GET requests the printer received while work ran.
-    int requestsDuring(const std::function<void()> &work) {
-        const int before = printer.requestCount();
+    static int requestsDuring(P &to, const std::function<void()> &work) {
+        const int before = to.requestCount();
         work();
-        return printer.requestCount() - before;
+        return to.requestCount() - before;
     }
     QStringList forms() const { return window->formTableViewDataSource()->getElementsArray(); }
     QStringList chosen() const {
@@ -108,8 +104,7 @@ TEST_F(WindowTest, DefaultsChooseFetchSaveAndReopen) {
                 !c->snmpCommunityText->isEnabled() && !c->folderPersonalFolderCheck->isChecked());
     EXPECT_EQ(c->snmpCommunityText->text() + c->macAddressText4->text(), "cobalt00");
 
-    // Each chosen folder keeps the register row it was added from, through adding and
-    // deleting; the fetch renames it from the printer's folders in use at that row.
+    // A chosen folder keeps its register row, which the fetch renames from the printer.
     c->meinTabView->setCurrentWidget(c->folderTabViewItem);
     for (int row : {4, 2}) {
         clickRow(c->folderSharedFolderTable, row);
@@ -118,21 +113,18 @@ TEST_F(WindowTest, DefaultsChooseFetchSaveAndReopen) {
     clickRow(c->folderSelectedFolderTable, 1);
     click(c->folderDeleteButton);
     EXPECT_EQ(chosen(), QString("Shared Folder 1,Shared Folder 3").split(','));
-    EXPECT_EQ(window->selectedSharedBoxIndex(), (QList<qint32>{0, 2}));
     type(c->printerIPAddressText, P::loopbackAddress());
     click(c->printerGetPrinterInfoButton);
     ASSERT_TRUE(alerts.isEmpty()) << alerts.join('|').toStdString();
     EXPECT_EQ(chosen(), (QStringList{folders[0], folders[2]}));
     click(c->folderPersonalFolderCheck);
-    // cupsd cannot hand a job this large to the driver: the window says which lists to
-    // shorten and stays open instead of losing the settings.
-    OVTableViewDataSource *formSource = window->formTableViewDataSource();
+    // A job too large for cupsd: one alert, and the window stays open with its settings.
     const QStringList fetchedForms = forms();
-    formSource->setElementsArray(QStringList(100, QString(900, 'a')));
+    window->formTableViewDataSource()->setElementsArray(QStringList(100, QString(900, 'a')));
     QSignalSpy terminated(window.get(), &Controller::applicationShouldTerminate);
     click(c->okButton);
     EXPECT_EQ(alerts.size(), 1);
-    formSource->setElementsArray(fetchedForms);
+    window->formTableViewDataSource()->setElementsArray(fetchedForms);
     click(c->okButton);
     EXPECT_EQ(terminated.count(), 1);
     window.reset();
@@ -151,11 +143,8 @@ TEST_F(WindowTest, DefaultsChooseFetchSaveAndReopen) {
               printer.namesInUse(P::Table::ColorProfile));
 }
 
-// Get Printer Info over IPv4 and IPv6 (bracketed too) stops at the first step that
-// fails, with its one alert: the printer sees no request of a later step. Wake-on-LAN
-// is off, so each step asks only its queries: the MAC address 1, the folders 4, each
-// list 2. A failed folder step puts the default folders back; an empty address sends
-// nothing.
+// Get Printer Info stops at the first failing step, one alert; without Wake-on-LAN the steps
+// ask MAC 1, folders 4, each list 2. A failed folder step puts the default folders back.
 TEST_F(WindowTest, CombinedFetchStopsAtTheFirstFailure) {
     const QString v4 = P::loopbackAddress();
     const std::tuple<QString, QByteArray, int, quint64> cases[] = {
@@ -177,7 +166,8 @@ TEST_F(WindowTest, CombinedFetchStopsAtTheFirstFailure) {
         if (!missing.isEmpty())
             printer.set(missing, {});
         alerts.clear();
-        EXPECT_EQ(requestsDuring([&] { click(c->printerGetPrinterInfoButton); }), requests);
+        EXPECT_EQ(requestsDuring(printer, [&] { click(c->printerGetPrinterInfoButton); }),
+                  requests);
         const bool fails = !missing.isEmpty() || address.isEmpty();
         EXPECT_EQ(alerts, fails ? QStringList{"Failed to obtain information."} : QStringList());
         EXPECT_EQ(window->bError(), fails);
@@ -185,9 +175,8 @@ TEST_F(WindowTest, CombinedFetchStopsAtTheFirstFailure) {
     }
 }
 
-// Each list's Clear empties that list alone; the folder one puts the default folders
-// back, selects no chosen folder, leaves Add off (its selected folder is chosen),
-// turns the personal folder off and the settings back to not saved.
+// Each Clear empties its list alone; the folder one restores the default folders, selects none
+// chosen, leaves Add off, turns the personal folder off and the settings to not saved.
 TEST_F(WindowTest, ClearButtons) {
     openOnPrinter();
     click(c->printerGetPrinterInfoButton);
@@ -196,13 +185,10 @@ TEST_F(WindowTest, ClearButtons) {
     click(c->okButton); // too long to save: the window stays with its settings marked saved
     ASSERT_TRUE(window->isPPDOptionsUpdated());
     const auto counts = [this] {
-        QList<quint64> n;
-        for (OVTableViewDataSource *source :
-             {window->formTableViewDataSource(), window->barcodeAreaDefinitionTableViewDataSource(),
-              window->colorProfileTableViewDataSource(),
-              window->registerFolderTableViewDataSource()})
-            n << source->count();
-        return n;
+        return QList<quint64>{window->formTableViewDataSource()->count(),
+                              window->barcodeAreaDefinitionTableViewDataSource()->count(),
+                              window->colorProfileTableViewDataSource()->count(),
+                              window->registerFolderTableViewDataSource()->count()};
     };
     ASSERT_EQ(counts(), (QList<quint64>{100, 50, 15, 15}));
     const std::pair<QPushButton *, QList<quint64>> steps[] = {
@@ -221,19 +207,16 @@ TEST_F(WindowTest, ClearButtons) {
     EXPECT_FALSE(window->isPPDOptionsUpdated());
 }
 
-// The MAC fields follow the Wake-on-LAN check; "Connect to Another Network" needs it
-// and some MAC text, and keeps its state while disabled.
+// MAC fields follow Wake-on-LAN; Another Network needs it and MAC text, keeps its state if off.
 TEST_F(WindowTest, WakeOnLanControls) {
     open();
     click(c->overstepTheRouter);
     const QList<QLineEdit *> macs = {c->macAddressText1, c->macAddressText2, c->macAddressText3,
                                      c->macAddressText4, c->macAddressText5, c->macAddressText6};
+    for (QLineEdit *field : macs)
+        erase(field);
     const std::tuple<std::function<void()>, bool, bool> steps[] = {
-        {[&] {
-             for (QLineEdit *field : macs)
-                 erase(field);
-         },
-         true, false},
+        {[] {}, true, false},
         {[&] { QTest::keyClicks(c->macAddressText5, "f"); }, true, true},
         {[&] { click(c->wakeOnLANCheck); }, false, false},
         {[&] { click(c->wakeOnLANCheck); }, true, true},
@@ -249,8 +232,7 @@ TEST_F(WindowTest, WakeOnLanControls) {
     }
 }
 
-// A custom community reaches the wake check and the queries as typed, U+200B
-// included: a printer that knows only that community answers all three requests.
+// A custom community (U+200B too) reaches the wake check and the queries exactly as typed.
 TEST_F(WindowTest, CustomCommunityReachesThePrinter) {
     P::Options options;
     options.listen = options.counterPeer = "udp:127.0.0.3:161";
@@ -263,16 +245,12 @@ TEST_F(WindowTest, CustomCommunityReachesThePrinter) {
     c->snmpCommunityText->setText(QString::fromUtf8("office\u200B"));
     c->macAddressText6->setText("cc"); // a MAC to wake: the flow asks the sleep mode
     type(c->printerIPAddressText, "127.0.0.3");
-    const int before = office.requestCount();
-    click(c->formGetPrinterInfoButton);
+    EXPECT_EQ(requestsDuring(office, [&] { click(c->formGetPrinterInfoButton); }), 3);
     EXPECT_EQ(alerts, QStringList());
-    EXPECT_EQ(office.requestCount() - before, 3);
     EXPECT_EQ(forms(), office.namesInUse(P::Table::Form));
 }
 
-// The personal-folder check is enabled exactly when the printer's administrator
-// login mode is 1, and a fetch never changes its state; an empty list from the
-// printer leaves the list as it was, without an alert.
+// Personal folder enabled only at admin login mode 1, its state kept; empty lists change nothing.
 TEST_F(WindowTest, FetchesKeepWhatThePrinterDoesNotChange) {
     openOnPrinter();
     const std::pair<long, bool> modes[] = {{1, true}, {2, false}, {1, true}, {0, false}};
@@ -294,26 +272,20 @@ TEST_F(WindowTest, FetchesKeepWhatThePrinterDoesNotChange) {
     EXPECT_EQ(alerts, QStringList());
 }
 
-// With the user's language German, the window's texts, its default folders and its
-// alert come from the German translation.
+// The window's texts, default folders and alerts follow the user's language.
 TEST_F(WindowTest, TextsInTheUsersLanguage) {
     OVPreferredLanguages::setOverride(QStringList{"de-DE"});
     open();
     click(c->folderGetPrinterInfoButton); // no address: fails
-    const std::pair<QString, QString> texts[] = {
-        {c->meinTabView->tabText(0), "Ordner"},
-        {c->folderClearButton->text(), "Leeren"},
-        {c->folderPersonalFolderCheck->text(), "Persönlichen Ordner verwenden"},
-        {window->registerFolderTableViewDataSource()->getElementAtRow(0), "Freigegebener Ordner 1"},
-        {alerts.value(0), "Die Informationen konnten nicht abgerufen werden."}};
-    for (const auto &[shown, expected] : texts)
-        EXPECT_EQ(shown, expected);
+    EXPECT_EQ(c->meinTabView->tabText(0), "Ordner");
+    EXPECT_EQ(c->folderClearButton->text(), "Leeren");
+    EXPECT_EQ(c->folderPersonalFolderCheck->text(), "Persönlichen Ordner verwenden");
+    EXPECT_EQ(window->registerFolderTableViewDataSource()->getElementAtRow(0),
+              "Freigegebener Ordner 1");
+    EXPECT_EQ(alerts, QStringList{"Die Informationen konnten nicht abgerufen werden."});
 }
 
-// The printer answers each request 0.3 s late, well within the 1 s timeout, so nothing
-// is asked twice. While the form fetch waits, clicks on every fetch button are dropped
-// for good and typing waits: the printer sees the form fetch's two requests only, and
-// the typed digit shows once the fetch is over.
+// During a slow fetch (0.3 s, the timeout 1 s) fetch clicks are dropped and typing waits.
 TEST_F(WindowTest, InputWaitsForAFetchAndFetchClicksAreDropped) {
     openOnPrinter();
     printer.setResponseDelayMs(300);
@@ -327,7 +299,7 @@ TEST_F(WindowTest, InputWaitsForAFetchAndFetchClicksAreDropped) {
         QTest::keyClicks(c->printerIPAddressText, "9");
         duringFetch = c->printerIPAddressText->text();
     });
-    EXPECT_EQ(requestsDuring([&] { click(c->formGetPrinterInfoButton); }), 2);
+    EXPECT_EQ(requestsDuring(printer, [&] { click(c->formGetPrinterInfoButton); }), 2);
     EXPECT_EQ(duringFetch, P::loopbackAddress());
     EXPECT_EQ(c->printerIPAddressText->text(), P::loopbackAddress() + "9");
     EXPECT_EQ(forms(), printer.namesInUse(P::Table::Form));

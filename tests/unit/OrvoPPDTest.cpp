@@ -31,9 +31,8 @@ struct TempPPD {
     QByteArray path = dir.filePath("test.ppd").toUtf8();
 };
 
-// One line per option, "<group index><group name and text> keyword 'text'
-// =default" and its choices as [key/text/code], "-" for no code; then one
-// "name: value" line per attribute.
+// Per option "<group index><group name, text> keyword 'text' =default [key/text/code]..."
+// ("-" for no code), then "name: value" per attribute.
 Lines describe(const ppd_file_t *ppd) {
     Lines lines;
     for (int g = 0; g < ppd->num_groups; ++g) {
@@ -60,8 +59,7 @@ std::string str(OrvoPPDRange r) {
     return " " + std::to_string(r.location) + "+" + std::to_string(r.length);
 }
 
-// The reader's rules done the slow way, every option scanning the text with
-// its own expressions. The one-pass index must give exactly these lines.
+// The reader's rules the slow way, each option with its own expressions: the index must agree.
 Lines naiveScan(const QString &text) {
     auto all = [&](QStringView pattern, const QString &keyword, OrvoPPDRange in) {
         return OrvoPPDRegex(OrvoPPDRegex::format(pattern, {keyword}))
@@ -160,18 +158,16 @@ std::string verdictOf(const char *path) {
            digest.result().toHex().left(12).toStdString();
 }
 
-// Death tests see standard error only; the reader's log line goes there.
-void openLoggingToStandardError(const char *path) {
-    OVSystemLog::setSink(
-        [](int, const QString &line) { fprintf(stderr, "%s\n", line.toUtf8().constData()); });
-    OrvoPPD::ppdOpenFile(path);
-}
-
-// A stop runs in a child process, which must end on the abort after its log line.
+// A stop aborts a child process after its log line, sent to stderr for the death test to see.
 void expectVerdict(const char *path, const std::string &verdict) {
     GTEST_FLAG_SET(death_test_style, "threadsafe");
+    const auto open = [path] {
+        OVSystemLog::setSink(
+            [](int, const QString &line) { fprintf(stderr, "%s\n", line.toUtf8().constData()); });
+        OrvoPPD::ppdOpenFile(path);
+    };
     if (verdict.starts_with("stops: "))
-        EXPECT_EXIT(openLoggingToStandardError(path), ::testing::KilledBySignal(SIGABRT),
+        EXPECT_EXIT(open(), ::testing::KilledBySignal(SIGABRT),
                     "\\[Driver\\] PPD field overflow: " + verdict.substr(7));
     else
         EXPECT_EQ(verdictOf(path), verdict.substr(0, verdict.find(':')));
@@ -192,8 +188,7 @@ TEST(OrvoPPDLanguage, FollowsTheSystemVersion) {
     }
 }
 
-// Own searches match names exactly; marking finds the option through libcups,
-// which ignores case, and an unknown choice leaves the marks alone.
+// Searches match names exactly; marking (via libcups) ignores case; unknown choices mark nothing.
 TEST(OrvoPPDQueries, FindAndMark) {
     const OpenedPPD ppd(OrvoPPD::ppdOpenFile(
         TempPPD("*DefaultPageSize: A4\n*OpenUI *PageSize/Size: PickOne\n*DefaultPageSize: A4\n"
@@ -255,8 +250,7 @@ TEST(OrvoPPDOpen, ReadsTheListedCases) {
     }
 }
 
-// Edge cases of the one-pass index, each with every line terminator the
-// expressions know, then the corpus.
+// Edge cases, each with every line terminator the expressions know, then the corpus.
 TEST(OrvoPPDScanEquivalence, IndexAnswersAsThePerKeywordExpressions) {
     QStringList texts;
     for (const QString &text :
@@ -271,24 +265,20 @@ TEST(OrvoPPDScanEquivalence, IndexAnswersAsThePerKeywordExpressions) {
     }
 }
 
-// Defaults and choice keywords of an option; Custom left out, which each
-// reader adds by rules of its own.
-void addOption(std::set<std::string> &items, const ppd_option_t &o) {
-    items.insert(std::string(o.keyword) + "=" + o.defchoice);
-    for (const ppd_choice_t &c : std::span(o.choices, size_t(o.num_choices)))
-        if (std::string_view(c.choice) != "Custom")
-            items.insert(std::string(o.keyword) + " " + c.choice);
-}
-
-// Options, defaults and choices only one of the readers finds, and the
-// attributes without option keyword or translation that libcups reads and
-// ours does not (ours reads many more).
+// Options, defaults, choices (not Custom: each reader adds its own) only one reader finds, and
+// attributes without option keyword or translation libcups reads and ours does not.
 std::string differenceFromLibcups(const char *path) {
     const OpenedPPD ours(OrvoPPD::ppdOpenFile(path));
     const std::unique_ptr<ppd_file_t, decltype(&ppdClose)> theirs(ppdOpenFile(path), &ppdClose);
     if (!ours || !theirs)
         return "-";
     std::set<std::string> here, there;
+    const auto addOption = [](std::set<std::string> &items, const ppd_option_t &o) {
+        items.insert(std::string(o.keyword) + "=" + o.defchoice);
+        for (const ppd_choice_t &c : std::span(o.choices, size_t(o.num_choices)))
+            if (std::string_view(c.choice) != "Custom")
+                items.insert(std::string(o.keyword) + " " + c.choice);
+    };
     for (const ppd_group_t &group : std::span(ours->groups, size_t(ours->num_groups)))
         for (const ppd_option_t &option : std::span(group.options, size_t(group.num_options)))
             addOption(here, option);

@@ -6,8 +6,7 @@
 #include <QFile>
 #include <QTemporaryDir>
 
-// The system version (no plist for none) and the preferred languages while
-// the object lives.
+// The system version (no plist for none) and the preferred languages while the object lives.
 struct Platform {
     Platform(const char *version, const QStringList &languages) {
         QFile file(dir.filePath("SystemVersion.plist"));
