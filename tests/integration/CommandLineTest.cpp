@@ -95,10 +95,14 @@ TEST(CommandLine, QueueAndPpdCommands) {
     check({"ppd", latin1}, 1, "is not UTF-8 text");
     // What show --json prints, save takes back unchanged but for the edits.
     QJsonObject settings = QJsonDocument::fromJson(cli({"show", "--json", "orvo"}).second).object();
-    settings["barcodeAreas"] = QJsonArray{"Zone \"1\"", "区域 2"};
+    // Names any user who may print can store: text output shows their control characters
+    // escaped, so none reaches the terminal; JSON keeps them exactly.
+    const QString forged = QString::fromUtf8("\x1b[2J\r\nforms: (0)\xc2\x9b\\");
+    settings["barcodeAreas"] = QJsonArray{"Zone \"1\"", "区域 2", forged};
     settings["chosenFolderIndexes"] = QJsonArray{6};
     EXPECT_EQ(cli({"save", "orvo", "--settings", "-"}, QJsonDocument(settings).toJson()).first, 0);
     EXPECT_EQ(QJsonDocument::fromJson(cli({"show", "--json", "orvo"}).second).object(), settings);
+    check({"show", "orvo"}, 0, "\n  \\x1b[2J\\x0d\\x0aforms: (0)\\x9b\\\\\n");
 }
 
 // Setting up needs a server that knows the update job's format and an administrator; without
