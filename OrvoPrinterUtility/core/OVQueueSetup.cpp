@@ -120,51 +120,46 @@ std::optional<QList<OVQueueSetup::Queue>> OVQueueSetup::queues() {
     return found;
 }
 
-std::optional<OVQueueSetup::Result> OVQueueSetup::current(http_t *http, const QString &queue,
-                                                          State &state, QByteArray &ppd) {
-    state = http ? OVQueueSetup::state(http, queue) : State::ServerUnreachable;
-    if (state == State::ServerUnreachable || state == State::QueueUnknown)
-        return Result{
-            state == State::QueueUnknown ? Outcome::QueueUnknown : Outcome::ServerUnreachable, {}};
-    ppd = queuePpd(http, queue);
+// One connection for the whole change, so that the administrator's password
+// is asked for at most once.
+OVQueueSetup::Result OVQueueSetup::changeQueue(const QString &queue, const Change &change) {
+    const OVCupsConnection connection;
+    http_t *http = connection.http();
+    const State before = http ? state(http, queue) : State::ServerUnreachable;
+    if (before == State::ServerUnreachable || before == State::QueueUnknown)
+        return {before == State::QueueUnknown ? Outcome::QueueUnknown : Outcome::ServerUnreachable,
+                {}};
+    const QByteArray ppd = queuePpd(http, queue);
     if (ppd.isEmpty())
-        return Result{Outcome::NoPPD, {}};
-    return std::nullopt;
+        return {Outcome::NoPPD, {}};
+    return change(http, before, ppd);
 }
 
 OVQueueSetup::Result OVQueueSetup::setUp(const QString &queue) {
-    const OVCupsConnection connection;
-    http_t *http = connection.http();
-    State before;
-    QByteArray ppd;
-    if (const auto failed = current(http, queue, before, ppd))
-        return *failed;
-    const QByteArray routed = OVSettingsRoute::added(ppd);
-    if (before == State::SetUp && routed == ppd)
-        return {Outcome::Unchanged, {}};
-    if (before != State::SetUp) {
-        if (const Result checked = checkServerRoutes(http, routed);
-            checked.outcome != Outcome::Changed)
-            return checked;
-    }
-    const Result installed = install(http, queue, routed, false);
-    if (installed.outcome == Outcome::Changed && state(http, queue) != State::SetUp) {
-        install(http, queue, ppd, false);
-        return {Outcome::Failed, QStringLiteral("the queue did not take the route; its PPD was "
-                                                "put back")};
-    }
-    return installed;
+    return changeQueue(queue, [&](http_t *http, State before, const QByteArray &ppd) -> Result {
+        const QByteArray routed = OVSettingsRoute::added(ppd);
+        if (before == State::SetUp && routed == ppd)
+            return {Outcome::Unchanged, {}};
+        if (before != State::SetUp) {
+            if (const Result checked = checkServerRoutes(http, routed);
+                checked.outcome != Outcome::Changed)
+                return checked;
+        }
+        const Result installed = install(http, queue, routed, false);
+        if (installed.outcome == Outcome::Changed && state(http, queue) != State::SetUp) {
+            install(http, queue, ppd, false);
+            return {Outcome::Failed,
+                    QStringLiteral("the queue did not take the route; its PPD was put back")};
+        }
+        return installed;
+    });
 }
 
 OVQueueSetup::Result OVQueueSetup::remove(const QString &queue) {
-    const OVCupsConnection connection;
-    http_t *http = connection.http();
-    State before;
-    QByteArray ppd;
-    if (const auto failed = current(http, queue, before, ppd))
-        return *failed;
-    const QByteArray plain = OVSettingsRoute::removed(ppd);
-    return plain == ppd ? Result{Outcome::Unchanged, {}} : install(http, queue, plain, false);
+    return changeQueue(queue, [&](http_t *http, State, const QByteArray &ppd) {
+        const QByteArray plain = OVSettingsRoute::removed(ppd);
+        return plain == ppd ? Result{Outcome::Unchanged, {}} : install(http, queue, plain, false);
+    });
 }
 
 QByteArray OVQueueSetup::queuePpd(http_t *http, const QString &queue) {

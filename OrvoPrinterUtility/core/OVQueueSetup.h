@@ -4,6 +4,7 @@
 #include <QList>
 #include <QString>
 
+#include <functional>
 #include <optional>
 
 #include <cups/http.h>
@@ -52,9 +53,10 @@ public:
 
 private:
     static State state(http_t *http, const QString &queue);
-    // The queue's state and PPD before a change; a result when it cannot change.
-    static std::optional<Result> current(http_t *http, const QString &queue, State &state,
-                                         QByteArray &ppd);
+    using Change = std::function<Result(http_t *http, State before, const QByteArray &ppd)>;
+    // Runs a change on the queue's PPD as the server has it, unless the
+    // server, the queue or its PPD is missing.
+    static Result changeQueue(const QString &queue, const Change &change);
     static QByteArray queuePpd(http_t *http, const QString &queue);
     static Result checkServerRoutes(http_t *http, const QByteArray &ppd);
     static Result install(http_t *http, const QString &queue, const QByteArray &ppd, bool create);

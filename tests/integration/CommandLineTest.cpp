@@ -38,13 +38,10 @@ QByteArray notSetUp(const QByteArray &ppd) {
 
 TEST(CommandLine, QueueAndPpdCommands) {
     QTemporaryDir dir;
-    QFile source(CupsServer::samplePpdPath());
-    ASSERT_TRUE(source.open(QIODevice::ReadOnly));
-    const QByteArray ppd = source.readAll();
+    const QByteArray ppd = CupsServer::readFile(CupsServer::samplePpdPath());
     const auto variant = [&](const char *name, const QByteArray &text) {
-        QFile file(dir.filePath(name));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(text) == text.size());
-        return file.fileName();
+        CupsServer::writeFile(dir.filePath(name), text);
+        return dir.filePath(name);
     };
     CupsServer &server = CupsServerEnvironment::server();
     ASSERT_TRUE(server.addQueue("orvo"));
@@ -119,11 +116,8 @@ TEST(CommandLine, SetupRefusalsLeaveTheQueueAsItWas) {
         {"NoPassword", true, true, 7, "needs a print administrator"},
     };
     QTemporaryDir dir;
-    QFile sample(CupsServer::samplePpdPath());
-    QFile plain(dir.filePath("plain.ppd"));
-    ASSERT_TRUE(sample.open(QIODevice::ReadOnly) && plain.open(QIODevice::WriteOnly));
-    plain.write(notSetUp(sample.readAll()));
-    plain.close();
+    const QString plain = dir.filePath("plain.ppd");
+    CupsServer::writeFile(plain, notSetUp(CupsServer::readFile(CupsServer::samplePpdPath())));
     for (const auto &[what, typesFile, password, exit, message] : refusals) {
         SCOPED_TRACE(what);
         CupsServer::Options options;
@@ -131,7 +125,7 @@ TEST(CommandLine, SetupRefusalsLeaveTheQueueAsItWas) {
         options.typesPath = typesFile ? options.typesPath : QString();
         options.adminNeedsPassword = password;
         CupsServer server(QStringLiteral(ORVO_PPD_UPDATE_FILTER), options);
-        ASSERT_TRUE(server.isRunning() && server.addQueue("plain", plain.fileName()));
+        ASSERT_TRUE(server.isRunning() && server.addQueue("plain", plain));
         const QByteArray before = server.queuePpd("plain");
         check({"setup", "-h", server.address(), "plain"}, exit, message);
         EXPECT_EQ(server.queuePpd("plain"), before);

@@ -16,11 +16,8 @@ namespace {
 
 namespace K = OrvoSettingsKeywords;
 using Outcome = OVQueueSetup::Outcome;
-
-QByteArray readFile(const QString &path) {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
+const auto readFile = CupsServer::readFile;
+const auto writeFile = CupsServer::writeFile;
 
 // What differs between two prints of the same file: job numbers, times, document IDs and the
 // random tags of embedded font subsets.
@@ -66,11 +63,6 @@ struct Style {
     const char *what;
     QString ppd; // empty: a driverless queue of the second server's printer
 };
-
-void writeFile(const QString &path, const QByteArray &content) {
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
-}
 
 // The command line's save, which must refuse a queue that is not set up before sending.
 int saveFromCommandLine(const QString &queue) {
