@@ -178,7 +178,9 @@ OVUpdateJob::JobOutcome OVUpdateJob::waitForJob(int jobId) {
     httpAssembleURIf(HTTP_URI_CODING_ALL, uri, sizeof uri, "ipp", nullptr, "localhost", ippPort(),
                      "/jobs/%d", jobId);
     ipp_jstate_t state = IPP_JSTATE_PENDING;
-    while (connection && !connection.expired()) {
+    if (!connection)
+        return {JobEnd::ServerLost, state};
+    while (!connection.expired()) {
         ipp_t *request = ippNewRequest(IPP_OP_GET_JOB_ATTRIBUTES);
         ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_URI, "job-uri", nullptr, uri);
         ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", nullptr,
