@@ -1,7 +1,7 @@
 #include "OVPrinterUtilityWindowController.h"
 
 #include "OVAlert.h"
-#include "OVBackgroundCall.h"
+#include "OVBackgroundTask.h"
 #include "OVCustomRestrictedTextField.h"
 #include "OVInputHold.h"
 #include "OVLaunchEvent.h"
@@ -640,7 +640,7 @@ bool OVPrinterUtilityWindowController::wakeOnLanWrapper() {
                                   : QString(OrvoSettingsKeywords::DefaultCommunity);
     const bool wake = c.wakeOnLANCheck->isChecked();
     const bool overRouter = c.overstepTheRouter->isChecked();
-    return OVBackgroundCall::value<bool>([&] {
+    return OVBackgroundTask::wait([&] {
         return OVWakeOnLanHelper::SnmpWakeUpOnLan(address, mac, community, wake, overRouter);
     });
 }
@@ -692,7 +692,7 @@ void OVPrinterUtilityWindowController::getPrinterInfoMacAddress(QObject *) {
     }
     const QByteArray address = queryAddress();
     const QString community = queryCommunity();
-    const QString mac = OVBackgroundCall::value<QString>(
+    const QString mac = OVBackgroundTask::wait(
         [&] { return OVSNMPHelper::getMacAddress(address.constData(), community); });
     if (mac.isNull()) {
         failFetch();
@@ -712,16 +712,16 @@ void OVPrinterUtilityWindowController::folderGetPrinterInfoButtonClicked(QObject
     const char *host = address.constData();
     // The community is read afresh for every query, on this thread.
     const auto community = [this] { return queryCommunity(); };
-    const int total = OVBackgroundCall::value<int>(
+    const int total = OVBackgroundTask::wait(
         [&, c = community()] { return OVSNMPHelper::snmpGetSharedBoxEntryForIPAddress(host, c); });
-    const auto names = OVBackgroundCall::value<std::optional<QStringList>>([&, c = community()] {
+    const auto names = OVBackgroundTask::wait([&, c = community()] {
         return OVSNMPHelper::getValidatedSharedBoxNameArrayForIPAddress(host, c, total);
     });
-    const auto states = OVBackgroundCall::value<std::optional<QStringList>>([&, c = community()] {
+    const auto states = OVBackgroundTask::wait([&, c = community()] {
         return OVSNMPHelper::getValidatedSharedBoxStateArrayForIPAddress(host, c, total);
     });
     applyFolderList(names, states);
-    bAdminLoginModeEnabled_ = OVBackgroundCall::value<bool>(
+    bAdminLoginModeEnabled_ = OVBackgroundTask::wait(
         [&, c = community()] { return OVSNMPHelper::getAdminLoginModeEnabled(host, c); });
     ui_->folderPersonalFolderCheck->setEnabled(bAdminLoginModeEnabled_);
     showProgress(false);
@@ -761,8 +761,7 @@ void OVPrinterUtilityWindowController::fetchList(ListQuery query,
     }
     const QByteArray address = queryAddress();
     const QString community = queryCommunity();
-    const auto list = OVBackgroundCall::value<std::optional<QStringList>>(
-        [&] { return query(address.constData(), community); });
+    const auto list = OVBackgroundTask::wait([&] { return query(address.constData(), community); });
     if (!list) {
         failFetch();
         return;
