@@ -1,13 +1,11 @@
 #include "OVQueueCommands.h"
 
 #include "OVCommandLine.h"
-#include "OVCupsConnection.h"
 #include "OVQueueSetup.h"
 #include "OVSettingsFields.h"
+#include "OVSettingsSave.h"
 #include "OVStoredSettings.h"
 #include "OVUpdateJob.h"
-#include "OrvoPPD_Interface.h"
-#include "OrvoSettingsKeywords.h"
 
 #include <QFile>
 #include <QJsonArray>
@@ -88,20 +86,17 @@ int notReadyToSave(const QString &queue) {
     }
 }
 
-// libcups reports a connection lost while sending as one of the last two
-// statuses, and a connection that could not be made as none at all; any other
-// is the server's refusal.
-int submissionFailure(ipp_status_t status) {
-    if (status <= IPP_STATUS_OK_EVENTS_COMPLETE || status == IPP_STATUS_ERROR_SERVICE_UNAVAILABLE ||
-        status == IPP_STATUS_ERROR_INTERNAL)
+// A job the server did not take: lost on the way, or refused.
+int submissionFailure(const OVSettingsSave::Outcome &outcome) {
+    if (OVSettingsSave::serverLost(outcome.refusal))
         return OVCommandLine::fail(Exit::ServerUnreachable,
                                    "the CUPS server stopped answering while the update job was "
                                    "sent; whether it arrived shows once the server is back "
                                    "(\"show\")");
-    return OVCommandLine::fail(Exit::Failed,
-                               QStringLiteral("the server refused the update job: %1 (%2)")
-                                   .arg(QString::fromUtf8(ippErrorString(status)),
-                                        QString::fromUtf8(cupsLastErrorString())));
+    return OVCommandLine::fail(
+        Exit::Failed,
+        QStringLiteral("the server refused the update job: %1 (%2)")
+            .arg(QString::fromUtf8(ippErrorString(outcome.refusal)), outcome.refusalText));
 }
 
 // A save that completed but left a PPD the server cannot use (a server that
@@ -113,19 +108,6 @@ int damaged(const QString &queue) {
                                    "\"orvo-printer-utility-cli setup " +
                                    queue + "\"; the server keeps the PPD it had before as ppd/" +
                                    queue + ".ppd.O in its configuration folder (/etc/cups)");
-}
-
-// The job's options that the PPD does not hold as attributes with the same
-// value (an empty value clears the attribute). The job marker is never stored.
-QStringList missingFrom(ppd_file_t *ppd, const OVUpdateJob::OptionList &sent) {
-    QStringList names;
-    for (const auto &[name, value] : sent) {
-        const ppd_attr_t *attribute = r_ppdFindAttr(ppd, name.constData(), nullptr);
-        const QByteArray held = attribute && attribute->value ? attribute->value : "";
-        if (name != OrvoSettingsKeywords::UpdatePPDOptions && held != value)
-            names << QString::fromLatin1(name);
-    }
-    return names;
 }
 
 QString readSettingsFile(const QString &path, QJsonObject &json) {
@@ -209,22 +191,21 @@ int OVQueueCommands::save(const QCommandLineParser &parser, bool json) {
     if (!OVUpdateJob::reachesFilter(settings))
         return OVCommandLine::fail(
             Exit::Refused, "the settings are too large for one update job; nothing was sent");
-    const int jobId = OVUpdateJob::saveOptionsToPPD(settings, queue);
-    if (jobId == 0)
-        return submissionFailure(cupsLastError());
-    if (const auto outcome = OVUpdateJob::waitForJob(jobId);
-        outcome.end != OVUpdateJob::JobEnd::Completed)
-        return jobFailure(outcome, jobId);
-    QStringList differing;
-    const auto status = OVStoredSettings::withQueuePPD(queue, [&](ppd_file_t *ppd) {
-        differing = missingFrom(ppd, OVUpdateJob::optionList(settings));
-    });
-    if (status == OVStoredSettings::Status::UnreadablePPD ||
-        (status == OVStoredSettings::Status::Loaded &&
-         OVQueueSetup::state(queue) == OVQueueSetup::State::NotSetUp))
+    const OVSettingsSave::Outcome outcome = OVSettingsSave::save(settings, queue);
+    switch (outcome.result) {
+    case OVSettingsSave::Result::NotSent:
+        return submissionFailure(outcome);
+    case OVSettingsSave::Result::JobNotCompleted:
+        return jobFailure(outcome.job, outcome.jobId);
+    case OVSettingsSave::Result::Damaged:
         return damaged(queue);
-    if (status != OVStoredSettings::Status::Loaded)
-        return loadFailure(status, queue);
+    case OVSettingsSave::Result::NotReadBack:
+        return loadFailure(outcome.readBack, queue);
+    default:
+        break;
+    }
+    const int jobId = outcome.jobId;
+    const QStringList &differing = outcome.differing;
     QJsonObject result{{"queue", queue},
                        {"job", jobId},
                        {"stored", differing.isEmpty()},

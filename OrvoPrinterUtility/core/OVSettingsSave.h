@@ -1,0 +1,49 @@
+#pragma once
+
+#include "OVSettingsSnapshot.h"
+#include "OVStoredSettings.h"
+#include "OVUpdateJob.h"
+
+#include <QString>
+#include <QStringList>
+
+#include <cups/ipp.h>
+
+// Saves the settings to a set-up queue and finds out whether they arrived:
+// the update job is sent, waited for, and the queue's PPD read back. A save
+// is only reported as stored when the PPD holds every value that was sent,
+// so that neither the window nor the command line ever claims a save that
+// the server dropped, printed, or left half written.
+class OVSettingsSave {
+public:
+    enum class Result {
+        Stored,
+        NotSent,         // refusal and refusalText say why
+        JobNotCompleted, // job says how it ended, or that it has not yet
+        NotHeld,         // the job completed but the PPD lacks differing
+        Damaged,         // the PPD is unreadable, or no longer routes saves
+        NotReadBack,     // the PPD could not be fetched again: readBack says why
+    };
+    struct Outcome {
+        Result result = Result::NotSent;
+        int jobId = 0;
+        ipp_status_t refusal = IPP_STATUS_OK;
+        QString refusalText;
+        OVUpdateJob::JobOutcome job{OVUpdateJob::JobEnd::Pending, IPP_JSTATE_PENDING};
+        OVStoredSettings::Status readBack = OVStoredSettings::Status::Loaded;
+        QStringList differing; // option names, with NotHeld
+    };
+
+    // The queue must be set up (OVQueueSetup): on any other queue the update
+    // job would be printed.
+    static Outcome save(const OVSettingsSnapshot &settings, const QString &queue);
+
+    // Whether a failed submission means the server stopped answering rather
+    // than refused the job: libcups reports a connection lost while sending
+    // as one of the last two statuses, and one never made as no error.
+    static bool serverLost(ipp_status_t refusal);
+
+private:
+    static void readBack(Outcome &outcome, const OVSettingsSnapshot &settings,
+                         const QString &queue);
+};
