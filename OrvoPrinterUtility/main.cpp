@@ -1,4 +1,6 @@
+#include "OVPasswordPrompt.h"
 #include "OVPrinterUtilityWindowController.h"
+#include "OVQueueChooser.h"
 
 #include <QApplication>
 #include <QTextStream>
@@ -9,6 +11,9 @@ constexpr char usage[] = "Usage: orvo-printer-utility [--printer QUEUE]\n"
                          "\n"
                          "Sets up the shared folders, forms, barcode area definitions, colour\n"
                          "profiles, SNMP community and Wake-on-LAN settings of one CUPS queue.\n"
+                         "Started without arguments it first lists the print server's queues to\n"
+                         "choose from; when exactly one queue is set up for the utility, that one\n"
+                         "opens at once.\n"
                          "\n"
                          "  -p, --printer QUEUE  the CUPS queue to set up\n"
                          "  -h, --help           show this help\n"
@@ -38,10 +43,28 @@ int main(int argc, char **argv) {
     if (answerInformationRequest(arguments))
         return 0;
 
+    OVPasswordPrompt passwordPrompt;
     OVPrinterUtilityWindowController controller;
     QObject::connect(&controller, &OVPrinterUtilityWindowController::applicationShouldTerminate,
                      &app, &QApplication::quit, Qt::QueuedConnection);
-    controller.applicationDidFinishLaunching(arguments);
-    controller.mainWindowObject()->show();
+    const auto openWindow = [&controller](const QStringList &launchArguments) {
+        controller.applicationDidFinishLaunching(launchArguments);
+        controller.mainWindowObject()->show();
+    };
+    // Arguments without a queue keep their old meaning (the test queue ID);
+    // only a start with no arguments at all, as from the desktop menu, asks.
+    if (!arguments.isEmpty()) {
+        openWindow(arguments);
+        return app.exec();
+    }
+    OVQueueChooser chooser;
+    // Its closing after a choice must not end the application before the
+    // window is up; Cancel quits explicitly.
+    chooser.setAttribute(Qt::WA_QuitOnClose, false);
+    QObject::connect(&chooser, &QDialog::accepted, &app, [&] {
+        openWindow({QStringLiteral("--printer"), chooser.chosenQueue()});
+    });
+    QObject::connect(&chooser, &QDialog::rejected, &app, &QApplication::quit);
+    chooser.start();
     return app.exec();
 }
