@@ -1,5 +1,7 @@
 #pragma once
 
+#include "OVPrinterUtilityHelper.h"
+
 #include <QRegularExpression>
 #include <QString>
 
@@ -63,6 +65,11 @@ inline constexpr const char *localizedKeys[] = {
     UserName,
     Password,
 };
+
+// The text in the user's language.
+inline QString localized(const char *key) {
+    return OVPrinterUtilityHelper::getLocalizedStringFor(QString::fromUtf8(key));
+}
 
 // A label's text as a field's accessible name: without its mnemonic
 // ("&Filter:", "フィルター(&F):") and its closing colon.

@@ -2,7 +2,6 @@
 
 #include "OVBackgroundTask.h"
 #include "OVChooserTexts.h"
-#include "OVPrinterUtilityHelper.h"
 #include "OVWindowTexts.h"
 
 #include <QApplication>
@@ -19,16 +18,24 @@ namespace T = OVChooserTexts;
 
 namespace {
 
-QString text(const char *key) {
-    return OVPrinterUtilityHelper::getLocalizedStringFor(QString::fromUtf8(key));
-}
-
 QLineEdit *addField(QFormLayout *form, const char *label, const char *objectName) {
     auto *field = new QLineEdit(form->parentWidget());
     field->setObjectName(QString::fromLatin1(objectName));
-    field->setAccessibleName(T::withoutMnemonic(text(label)));
-    form->addRow(text(label), field);
+    field->setAccessibleName(T::withoutMnemonic(T::localized(label)));
+    form->addRow(T::localized(label), field);
     return field;
+}
+
+// The host as the user named it, with its port when that is not the usual one.
+QString serverName(http_t *http) {
+    if (!http)
+        return QStringLiteral("localhost");
+    char host[256];
+    httpGetHostname(http, host, sizeof host);
+    const int port = httpAddrPort(httpGetAddress(http));
+    return port == IPP_PORT || port <= 0
+               ? QString::fromUtf8(host)
+               : QStringLiteral("%1:%2").arg(QString::fromUtf8(host)).arg(port);
 }
 
 } // namespace
@@ -63,10 +70,7 @@ const char *OVPasswordPrompt::answerOnWorker(http_t *http) {
     const bool again = triesLeft_ < tries;
     if (triesLeft_-- == 0)
         return giveUp();
-    char host[256] = "localhost";
-    if (http)
-        httpGetHostname(http, host, sizeof host);
-    const QString server = QString::fromUtf8(host);
+    const QString server = serverName(http);
     const QString queue = ForQueue::current;
     Answer answer;
     QMetaObject::invokeMethod(
@@ -86,12 +90,12 @@ const char *OVPasswordPrompt::giveUp() {
 OVPasswordPrompt::Answer OVPasswordPrompt::ask(const QString &server, const QString &queue,
                                                bool again) {
     QDialog dialog(QApplication::activeWindow());
-    dialog.setWindowTitle(text(T::PasswordTitle));
+    dialog.setWindowTitle(T::localized(T::PasswordTitle));
     auto *form = new QFormLayout(&dialog);
-    QString message = queue.isEmpty() ? text(T::PasswordForServer).arg(server)
-                                      : text(T::PasswordForQueue).arg(server, queue);
+    QString message = queue.isEmpty() ? T::localized(T::PasswordForServer).arg(server)
+                                      : T::localized(T::PasswordForQueue).arg(server, queue);
     if (again)
-        message += "\n\n" + text(T::PasswordRefused);
+        message += "\n\n" + T::localized(T::PasswordRefused);
     auto *explanation = new QLabel(message, &dialog);
     explanation->setObjectName(QStringLiteral("explanation"));
     explanation->setWordWrap(true);
@@ -102,8 +106,9 @@ OVPasswordPrompt::Answer OVPasswordPrompt::ask(const QString &server, const QStr
     user->setText(QString::fromUtf8(cupsUser()));
     (user->text().isEmpty() ? user : password)->setFocus();
     auto *buttons = new QDialogButtonBox(&dialog);
-    buttons->addButton(text(OVWindowTexts::OK), QDialogButtonBox::AcceptRole)->setDefault(true);
-    buttons->addButton(text(T::Cancel), QDialogButtonBox::RejectRole);
+    buttons->addButton(T::localized(OVWindowTexts::OK), QDialogButtonBox::AcceptRole)
+        ->setDefault(true);
+    buttons->addButton(T::localized(T::Cancel), QDialogButtonBox::RejectRole);
     connect(buttons, &QDialogButtonBox::accepted, &dialog, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
     form->addRow(buttons);

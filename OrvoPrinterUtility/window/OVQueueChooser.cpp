@@ -2,7 +2,6 @@
 
 #include "OVBackgroundTask.h"
 #include "OVChooserTexts.h"
-#include "OVPrinterUtilityHelper.h"
 
 #include <QDialogButtonBox>
 #include <QHBoxLayout>
@@ -28,10 +27,6 @@ enum Column { NameColumn, DescriptionColumn, MakeAndModelColumn, StateColumn, Co
 // What the filter matches: name, description, make and model in one text.
 constexpr int searchRole = Qt::UserRole + 1;
 
-QString text(const char *key) {
-    return OVPrinterUtilityHelper::getLocalizedStringFor(QString::fromUtf8(key));
-}
-
 // A local server is reached through its socket file, which means nothing to a
 // user; a port is named when it is not the usual one.
 QString serverName() {
@@ -44,7 +39,7 @@ QString serverName() {
 QList<QStandardItem *> queueRow(const OVQueueSetup::Queue &queue) {
     QList<QStandardItem *> row;
     for (const QString &cell : {queue.name, queue.description, queue.makeAndModel,
-                                text(queue.setUp ? T::SetUp : T::NotSetUp)}) {
+                                T::localized(queue.setUp ? T::SetUp : T::NotSetUp)}) {
         auto *item = new QStandardItem(cell);
         item->setEditable(false);
         row << item;
@@ -60,8 +55,9 @@ OVQueueChooser::OVQueueChooser(QWidget *parent)
     : QDialog(parent)
     , model_(new QStandardItemModel(0, ColumnCount, this))
     , visible_(new QSortFilterProxyModel(this)) {
-    model_->setHorizontalHeaderLabels({text(T::QueueColumn), text(T::DescriptionColumn),
-                                       text(T::MakeAndModelColumn), text(T::UtilityColumn)});
+    model_->setHorizontalHeaderLabels(
+        {T::localized(T::QueueColumn), T::localized(T::DescriptionColumn),
+         T::localized(T::MakeAndModelColumn), T::localized(T::UtilityColumn)});
     visible_->setSourceModel(model_);
     visible_->setFilterRole(searchRole);
     visible_->setFilterKeyColumn(NameColumn);
@@ -72,17 +68,17 @@ OVQueueChooser::OVQueueChooser(QWidget *parent)
 OVQueueChooser::~OVQueueChooser() = default;
 
 void OVQueueChooser::buildControls() {
-    setWindowTitle(text(T::ChooserTitle));
+    setWindowTitle(T::localized(T::ChooserTitle));
     auto *layout = new QVBoxLayout(this);
-    auto *intro = new QLabel(text(T::ChooserIntro), this);
+    auto *intro = new QLabel(T::localized(T::ChooserIntro), this);
     intro->setWordWrap(true);
     layout->addWidget(intro);
 
     auto *filterRow = new QHBoxLayout;
-    auto *filterLabel = new QLabel(text(T::FilterLabel), this);
+    auto *filterLabel = new QLabel(T::localized(T::FilterLabel), this);
     filter_ = new QLineEdit(this);
-    filter_->setPlaceholderText(text(T::FilterPlaceholder));
-    filter_->setAccessibleName(T::withoutMnemonic(text(T::FilterLabel)));
+    filter_->setPlaceholderText(T::localized(T::FilterPlaceholder));
+    filter_->setAccessibleName(T::withoutMnemonic(T::localized(T::FilterLabel)));
     filter_->setClearButtonEnabled(true);
     filterLabel->setBuddy(filter_);
     filterRow->addWidget(filterLabel);
@@ -91,26 +87,26 @@ void OVQueueChooser::buildControls() {
 
     table_ = new QTableView(this);
     table_->setModel(visible_);
-    table_->setAccessibleName(text(T::QueueList));
+    table_->setAccessibleName(T::localized(T::QueueList));
     table_->setSelectionBehavior(QAbstractItemView::SelectRows);
     table_->setSelectionMode(QAbstractItemView::SingleSelection);
     table_->setEditTriggers(QAbstractItemView::NoEditTriggers);
     table_->verticalHeader()->hide();
-    table_->horizontalHeader()->setStretchLastSection(true);
+    table_->horizontalHeader()->setSectionResizeMode(DescriptionColumn, QHeaderView::Stretch);
     layout->addWidget(table_, 1);
 
     auto *statusRow = new QHBoxLayout;
     status_ = new QLabel(this);
     status_->setWordWrap(true);
-    retry_ = new QPushButton(text(T::Retry), this);
+    retry_ = new QPushButton(T::localized(T::Retry), this);
     retry_->setAutoDefault(false);
     statusRow->addWidget(status_, 1);
     statusRow->addWidget(retry_);
     layout->addLayout(statusRow);
 
     auto *buttons = new QDialogButtonBox(this);
-    open_ = buttons->addButton(text(T::Open), QDialogButtonBox::AcceptRole);
-    buttons->addButton(text(T::Cancel), QDialogButtonBox::RejectRole);
+    open_ = buttons->addButton(T::localized(T::Open), QDialogButtonBox::AcceptRole);
+    buttons->addButton(T::localized(T::Cancel), QDialogButtonBox::RejectRole);
     open_->setDefault(true);
     layout->addWidget(buttons);
 
@@ -137,7 +133,7 @@ void OVQueueChooser::start() {
 
 void OVQueueChooser::load() {
     answered_ = false;
-    setStatus(text(T::Loading), false);
+    setStatus(T::localized(T::Loading), false);
     filter_->setEnabled(false);
     table_->setEnabled(false);
     updateOpenButton();
@@ -154,9 +150,9 @@ void OVQueueChooser::showListing(const Listing &listing) {
     const QList<OVQueueSetup::Queue> queues = listing.queues.value_or(QList<OVQueueSetup::Queue>());
     fillTable(queues);
     if (!listing.queues)
-        setStatus(text(T::Unreachable).arg(listing.server), true);
+        setStatus(T::localized(T::Unreachable).arg(listing.server), true);
     else if (queues.isEmpty())
-        setStatus(text(T::NoQueues).arg(listing.server), true);
+        setStatus(T::localized(T::NoQueues).arg(listing.server), true);
     else
         setStatus({}, false);
     const auto setUp = std::count_if(queues.begin(), queues.end(),

@@ -234,8 +234,7 @@ TEST_F(QueueChooserTest, PasswordPromptAnswersTheServer) {
         QObject::disconnect(answer);
         EXPECT_EQ(result->outcome, OVQueueSetup::Outcome::NotAuthorized);
         ASSERT_EQ(texts.size(), asked);
-        EXPECT_TRUE(texts.first().contains(server.address().section(':', 0, 0)) &&
-                    texts.first().contains("\"Plain\""))
+        EXPECT_TRUE(texts.first().contains(server.address()) && texts.first().contains("\"Plain\""))
             << texts.first().toStdString();
         EXPECT_EQ(texts.last().endsWith("Try again."), asked > 1);
         EXPECT_EQ(server.queuePpd("Plain"), before);
