@@ -19,7 +19,8 @@ constexpr char usage[] = "Usage: orvo-printer-utility [--printer QUEUE]\n"
                          "  -h, --help           show this help\n"
                          "  -v, --version        show the version\n";
 
-// Returns true when the arguments asked only for help or the version.
+// Returns true when the arguments asked only for help or the version. Asked
+// before the GUI starts, so that it answers without a display too.
 bool answerInformationRequest(const QStringList &arguments) {
     QTextStream out(stdout);
     if (arguments.contains("--help") || arguments.contains("-h")) {
@@ -27,7 +28,7 @@ bool answerInformationRequest(const QStringList &arguments) {
         return true;
     }
     if (arguments.contains("--version") || arguments.contains("-v")) {
-        out << "orvo-printer-utility " << QCoreApplication::applicationVersion() << '\n';
+        out << "orvo-printer-utility " << ORVO_VERSION << '\n';
         return true;
     }
     return false;
@@ -35,13 +36,17 @@ bool answerInformationRequest(const QStringList &arguments) {
 } // namespace
 
 int main(int argc, char **argv) {
+    QStringList given;
+    for (int i = 1; i < argc; ++i)
+        given << QString::fromLocal8Bit(argv[i]);
+    if (answerInformationRequest(given))
+        return 0;
     QApplication app(argc, argv);
     QApplication::setApplicationName("orvo-printer-utility");
     QApplication::setApplicationVersion(ORVO_VERSION);
     QApplication::setDesktopFileName("orvo-printer-utility");
+    // Qt's own options (-platform, -style) are taken out here.
     const QStringList arguments = app.arguments().mid(1);
-    if (answerInformationRequest(arguments))
-        return 0;
 
     OVPasswordPrompt passwordPrompt;
     OVPrinterUtilityWindowController controller;
