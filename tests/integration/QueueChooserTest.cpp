@@ -10,6 +10,7 @@
 #include "OVQueueChooser.h"
 
 #include <QDialogButtonBox>
+#include <QFileInfo>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -20,6 +21,10 @@
 #include <QTranslator>
 
 #include <gtest/gtest.h>
+
+#include <grp.h>
+#include <sched.h>
+#include <sys/mount.h>
 
 [[maybe_unused]] const auto cupsd = ::testing::AddGlobalTestEnvironment(new CupsServerEnvironment);
 
@@ -38,6 +43,39 @@ QString plainPpd(const QTemporaryDir &dir) {
                   .replace("*NickName: \"Orvo Printer\"", "*NickName: \"Lab Colour Laser\""));
     return path;
 }
+
+// cupsd checks a print administrator's password through PAM against the
+// machine's accounts. In a mount namespace of this test's own, which its cupsd
+// servers share, the account files are copies with one administrator added (in
+// the group cupsd counts as administrators); the machine's files stay as they
+// are. Done before any thread starts.
+constexpr char administratorName[] = "orvo-admin";
+constexpr char administratorPassword[] = "orvo-test-password";
+// The SHA-512 crypt of the password, with the salt "orvotest".
+constexpr char administratorHash[] =
+    "$6$orvotest$venweop9nWrRr7izjuU3uUUFOWYwLSqdun.lLQBIR.hoeDYgVgaL/"
+    "LfHuuIHih5kx.OPLb9lJtEOiOCG6VPOh1";
+
+bool bindCopyWithLine(const char *file, const QString &line) {
+    static QTemporaryDir copies;
+    const QString copy = copies.filePath(QFileInfo(file).fileName());
+    CupsServer::writeFile(copy, CupsServer::readFile(file) + line.toUtf8() + '\n');
+    return mount(copy.toLocal8Bit().constData(), file, nullptr, MS_BIND, nullptr) == 0;
+}
+
+bool addAdministrator() {
+    const group *administrators = getgrnam("lpadmin");
+    if (!administrators || unshare(CLONE_NEWNS) != 0 ||
+        mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0)
+        return false;
+    return bindCopyWithLine("/etc/passwd",
+                            QStringLiteral("%1:x:4242:%2::/nonexistent:/usr/sbin/nologin")
+                                .arg(administratorName)
+                                .arg(administrators->gr_gid)) &&
+           bindCopyWithLine("/etc/shadow", QStringLiteral("%1:%2:20000:0:99999:7:::")
+                                               .arg(administratorName, administratorHash));
+}
+const bool administrator = addAdministrator();
 
 // libcups keeps the server per thread: the worker's is the one that counts.
 void useServer(const QString &address) {
@@ -92,6 +130,7 @@ TEST_F(QueueChooserTest, ListsEveryQueueWithItsStateAndFilters) {
     EXPECT_EQ(column(table, 2), (QStringList{"Orvo Printer", "Orvo Printer", "Lab Colour Laser"}));
     EXPECT_EQ(column(table, 3), (QStringList{"Set up", "Set up", "Not set up"}));
     EXPECT_EQ(chooser.chosenQueue(), "Alpha");
+    EXPECT_EQ(chooser.filterField()->accessibleName(), "Filter");
     const std::pair<const char *, QStringList> filters[] = {
         {"second FLOOR", {"Gamma"}}, // description
         {"lab colour", {"Gamma"}},   // make and model
@@ -188,35 +227,44 @@ TEST_F(QueueChooserTest, ASlowServerNeverStallsTheChooser) {
     EXPECT_LT(meter.largestGap(), 100ms);
 }
 
-// The password is asked on the GUI thread while the set-up waits on the worker;
-// Cancel gives up at once, a refused password is asked three times, and the
-// queue stays as it was.
+// The password is asked on the GUI thread while the set-up waits on the worker.
+// Cancel gives up at once and a refused password is asked three times, leaving
+// the queue as it was; an administrator's password sets it up.
 TEST_F(QueueChooserTest, PasswordPromptAnswersTheServer) {
+    ASSERT_TRUE(administrator) << "the suite needs root for a mount namespace";
     CupsServer &server = *withPassword;
     useServer(server.address());
     const QByteArray before = server.queuePpd("Plain");
     OVPasswordPrompt prompt;
     struct Case {
         const char *what;
+        const char *user, *password;
         bool cancel;
         int asked;
+        OVQueueSetup::Outcome outcome;
     };
-    for (const auto &[what, cancel, asked] : {Case{"Cancel", true, 1}, Case{"Refused", false, 3}}) {
-        SCOPED_TRACE(what);
+    const Case cases[] = {
+        {"Cancel", "nobody", "wrong", true, 1, OVQueueSetup::Outcome::NotAuthorized},
+        {"Refused", "nobody", "wrong", false, 3, OVQueueSetup::Outcome::NotAuthorized},
+        {"Accepted", administratorName, administratorPassword, false, 1,
+         OVQueueSetup::Outcome::Changed},
+    };
+    for (const Case &c : cases) {
+        SCOPED_TRACE(c.what);
         QStringList texts;
         const auto answer =
-            QObject::connect(&prompt, &OVPasswordPrompt::asking, [&, cancel](QDialog *dialog) {
+            QObject::connect(&prompt, &OVPasswordPrompt::asking, [&](QDialog *dialog) {
                 texts << dialog->findChild<QLabel *>("explanation")->text();
                 QMetaObject::invokeMethod(
                     dialog,
-                    [dialog, cancel] {
-                        dialog->findChild<QLineEdit *>("userName")->setText("nobody");
-                        QTest::keyClicks(dialog->findChild<QLineEdit *>("password"), "wrong");
-                        if (cancel)
+                    [dialog, c] {
+                        QLineEdit *password = dialog->findChild<QLineEdit *>("password");
+                        dialog->findChild<QLineEdit *>("userName")->setText(c.user);
+                        QTest::keyClicks(password, c.password);
+                        if (c.cancel)
                             dialog->reject();
                         else
-                            QTest::keyClick(dialog->findChild<QLineEdit *>("password"),
-                                            Qt::Key_Return);
+                            QTest::keyClick(password, Qt::Key_Return);
                     },
                     Qt::QueuedConnection);
             });
@@ -230,13 +278,16 @@ TEST_F(QueueChooserTest, PasswordPromptAnswersTheServer) {
             [&](const OVQueueSetup::Result &done) { result = done; });
         ASSERT_TRUE(QTest::qWaitFor([&] { return result.has_value(); }, 60000));
         QObject::disconnect(answer);
-        EXPECT_EQ(result->outcome, OVQueueSetup::Outcome::NotAuthorized);
-        ASSERT_EQ(texts.size(), asked);
+        EXPECT_EQ(result->outcome, c.outcome);
+        ASSERT_EQ(texts.size(), c.asked);
         EXPECT_TRUE(texts.first().contains(server.address()) && texts.first().contains("\"Plain\""))
             << texts.first().toStdString();
-        EXPECT_EQ(texts.last().endsWith("Try again."), asked > 1);
-        EXPECT_EQ(server.queuePpd("Plain"), before);
+        EXPECT_EQ(texts.last().endsWith("Try again."), c.asked > 1);
+        EXPECT_EQ(server.queuePpd("Plain") == before, c.outcome != OVQueueSetup::Outcome::Changed);
     }
+    // The other tests want the queue as it was.
+    QTemporaryDir dir;
+    EXPECT_TRUE(server.lpadmin({"-p", "Plain", "-P", plainPpd(dir)}));
 }
 
 // Every text of the chooser and the prompt has a translation in every shipped language.
