@@ -507,5 +507,97 @@
         <source>Shared Folder 100</source>
         <translation>Freigegebener Ordner 100</translation>
     </message>
+    <message>
+        <source>Choose a Print Queue</source>
+        <translation>Druckwarteschlange auswählen</translation>
+    </message>
+    <message>
+        <source>Choose the print queue whose printer settings you want to change.</source>
+        <translation>Wählen Sie die Druckwarteschlange, deren Druckereinstellungen Sie ändern möchten.</translation>
+    </message>
+    <message>
+        <source>&amp;Filter:</source>
+        <translation>&amp;Filter:</translation>
+    </message>
+    <message>
+        <source>Name, description, make or model</source>
+        <translation>Name, Beschreibung, Hersteller oder Modell</translation>
+    </message>
+    <message>
+        <source>Print queues</source>
+        <translation>Druckwarteschlangen</translation>
+    </message>
+    <message>
+        <source>Queue</source>
+        <translation>Warteschlange</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Beschreibung</translation>
+    </message>
+    <message>
+        <source>Make and Model</source>
+        <translation>Hersteller und Modell</translation>
+    </message>
+    <message>
+        <source>Utility</source>
+        <translation>Dienstprogramm</translation>
+    </message>
+    <message>
+        <source>Set up</source>
+        <translation>Eingerichtet</translation>
+    </message>
+    <message>
+        <source>Not set up</source>
+        <translation>Nicht eingerichtet</translation>
+    </message>
+    <message>
+        <source>Asking the print server for its queues...</source>
+        <translation>Die Warteschlangen werden beim Druckserver abgefragt...</translation>
+    </message>
+    <message>
+        <source>The print server %1 cannot be reached. Check that it is running, then try again.</source>
+        <translation>Der Druckserver %1 ist nicht erreichbar. Prüfen Sie, ob er läuft, und versuchen Sie es dann erneut.</translation>
+    </message>
+    <message>
+        <source>The print server %1 has no print queues. Add a printer, then try again.</source>
+        <translation>Der Druckserver %1 hat keine Druckwarteschlangen. Fügen Sie einen Drucker hinzu und versuchen Sie es dann erneut.</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Öffnen</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Retry</source>
+        <translation>Erneut versuchen</translation>
+    </message>
+    <message>
+        <source>Password Required</source>
+        <translation>Passwort erforderlich</translation>
+    </message>
+    <message>
+        <source>The print server %1 asks for a user name and password to change the queue &quot;%2&quot;.</source>
+        <translation>Der Druckserver %1 verlangt einen Benutzernamen und ein Passwort, um die Warteschlange „%2“ zu ändern.</translation>
+    </message>
+    <message>
+        <source>The print server %1 asks for a user name and password.</source>
+        <translation>Der Druckserver %1 verlangt einen Benutzernamen und ein Passwort.</translation>
+    </message>
+    <message>
+        <source>The user name or password was not accepted. Try again.</source>
+        <translation>Benutzername oder Passwort wurde nicht akzeptiert. Versuchen Sie es erneut.</translation>
+    </message>
+    <message>
+        <source>&amp;User name:</source>
+        <translation>&amp;Benutzername:</translation>
+    </message>
+    <message>
+        <source>&amp;Password:</source>
+        <translation>&amp;Passwort:</translation>
+    </message>
 </context>
 </TS>

@@ -507,5 +507,97 @@
         <source>Shared Folder 100</source>
         <translation>Shared Folder 100</translation>
     </message>
+    <message>
+        <source>Choose a Print Queue</source>
+        <translation>Choose a Print Queue</translation>
+    </message>
+    <message>
+        <source>Choose the print queue whose printer settings you want to change.</source>
+        <translation>Choose the print queue whose printer settings you want to change.</translation>
+    </message>
+    <message>
+        <source>&amp;Filter:</source>
+        <translation>&amp;Filter:</translation>
+    </message>
+    <message>
+        <source>Name, description, make or model</source>
+        <translation>Name, description, make or model</translation>
+    </message>
+    <message>
+        <source>Print queues</source>
+        <translation>Print queues</translation>
+    </message>
+    <message>
+        <source>Queue</source>
+        <translation>Queue</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Description</translation>
+    </message>
+    <message>
+        <source>Make and Model</source>
+        <translation>Make and Model</translation>
+    </message>
+    <message>
+        <source>Utility</source>
+        <translation>Utility</translation>
+    </message>
+    <message>
+        <source>Set up</source>
+        <translation>Set up</translation>
+    </message>
+    <message>
+        <source>Not set up</source>
+        <translation>Not set up</translation>
+    </message>
+    <message>
+        <source>Asking the print server for its queues...</source>
+        <translation>Asking the print server for its queues...</translation>
+    </message>
+    <message>
+        <source>The print server %1 cannot be reached. Check that it is running, then try again.</source>
+        <translation>The print server %1 cannot be reached. Check that it is running, then try again.</translation>
+    </message>
+    <message>
+        <source>The print server %1 has no print queues. Add a printer, then try again.</source>
+        <translation>The print server %1 has no print queues. Add a printer, then try again.</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Open</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Retry</source>
+        <translation>Retry</translation>
+    </message>
+    <message>
+        <source>Password Required</source>
+        <translation>Password Required</translation>
+    </message>
+    <message>
+        <source>The print server %1 asks for a user name and password to change the queue &quot;%2&quot;.</source>
+        <translation>The print server %1 asks for a user name and password to change the queue &quot;%2&quot;.</translation>
+    </message>
+    <message>
+        <source>The print server %1 asks for a user name and password.</source>
+        <translation>The print server %1 asks for a user name and password.</translation>
+    </message>
+    <message>
+        <source>The user name or password was not accepted. Try again.</source>
+        <translation>The user name or password was not accepted. Try again.</translation>
+    </message>
+    <message>
+        <source>&amp;User name:</source>
+        <translation>&amp;User name:</translation>
+    </message>
+    <message>
+        <source>&amp;Password:</source>
+        <translation>&amp;Password:</translation>
+    </message>
 </context>
 </TS>

@@ -507,5 +507,97 @@
         <source>Shared Folder 100</source>
         <translation>Dossier partagé 100</translation>
     </message>
+    <message>
+        <source>Choose a Print Queue</source>
+        <translation>Choisir une file d&apos;impression</translation>
+    </message>
+    <message>
+        <source>Choose the print queue whose printer settings you want to change.</source>
+        <translation>Choisissez la file d&apos;impression dont vous voulez modifier les réglages d&apos;imprimante.</translation>
+    </message>
+    <message>
+        <source>&amp;Filter:</source>
+        <translation>&amp;Filtrer :</translation>
+    </message>
+    <message>
+        <source>Name, description, make or model</source>
+        <translation>Nom, description, fabricant ou modèle</translation>
+    </message>
+    <message>
+        <source>Print queues</source>
+        <translation>Files d&apos;impression</translation>
+    </message>
+    <message>
+        <source>Queue</source>
+        <translation>File</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Description</translation>
+    </message>
+    <message>
+        <source>Make and Model</source>
+        <translation>Fabricant et modèle</translation>
+    </message>
+    <message>
+        <source>Utility</source>
+        <translation>Utilitaire</translation>
+    </message>
+    <message>
+        <source>Set up</source>
+        <translation>Configurée</translation>
+    </message>
+    <message>
+        <source>Not set up</source>
+        <translation>Non configurée</translation>
+    </message>
+    <message>
+        <source>Asking the print server for its queues...</source>
+        <translation>Interrogation du serveur d&apos;impression sur ses files...</translation>
+    </message>
+    <message>
+        <source>The print server %1 cannot be reached. Check that it is running, then try again.</source>
+        <translation>Le serveur d&apos;impression %1 est injoignable. Vérifiez qu&apos;il fonctionne, puis réessayez.</translation>
+    </message>
+    <message>
+        <source>The print server %1 has no print queues. Add a printer, then try again.</source>
+        <translation>Le serveur d&apos;impression %1 n&apos;a aucune file d&apos;impression. Ajoutez une imprimante, puis réessayez.</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Ouvrir</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Retry</source>
+        <translation>Réessayer</translation>
+    </message>
+    <message>
+        <source>Password Required</source>
+        <translation>Mot de passe requis</translation>
+    </message>
+    <message>
+        <source>The print server %1 asks for a user name and password to change the queue &quot;%2&quot;.</source>
+        <translation>Le serveur d&apos;impression %1 demande un nom d&apos;utilisateur et un mot de passe pour modifier la file « %2 ».</translation>
+    </message>
+    <message>
+        <source>The print server %1 asks for a user name and password.</source>
+        <translation>Le serveur d&apos;impression %1 demande un nom d&apos;utilisateur et un mot de passe.</translation>
+    </message>
+    <message>
+        <source>The user name or password was not accepted. Try again.</source>
+        <translation>Le nom d&apos;utilisateur ou le mot de passe a été refusé. Réessayez.</translation>
+    </message>
+    <message>
+        <source>&amp;User name:</source>
+        <translation>Nom d&apos;&amp;utilisateur :</translation>
+    </message>
+    <message>
+        <source>&amp;Password:</source>
+        <translation>Mot de &amp;passe :</translation>
+    </message>
 </context>
 </TS>

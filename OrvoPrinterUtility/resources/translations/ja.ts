@@ -507,5 +507,97 @@
         <source>Shared Folder 100</source>
         <translation>共有フォルダー 100</translation>
     </message>
+    <message>
+        <source>Choose a Print Queue</source>
+        <translation>プリントキューの選択</translation>
+    </message>
+    <message>
+        <source>Choose the print queue whose printer settings you want to change.</source>
+        <translation>プリンター設定を変更するプリントキューを選択してください。</translation>
+    </message>
+    <message>
+        <source>&amp;Filter:</source>
+        <translation>フィルター(&amp;F):</translation>
+    </message>
+    <message>
+        <source>Name, description, make or model</source>
+        <translation>名前、説明、メーカー、モデル</translation>
+    </message>
+    <message>
+        <source>Print queues</source>
+        <translation>プリントキュー</translation>
+    </message>
+    <message>
+        <source>Queue</source>
+        <translation>キュー</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>説明</translation>
+    </message>
+    <message>
+        <source>Make and Model</source>
+        <translation>メーカーとモデル</translation>
+    </message>
+    <message>
+        <source>Utility</source>
+        <translation>ユーティリティ</translation>
+    </message>
+    <message>
+        <source>Set up</source>
+        <translation>設定済み</translation>
+    </message>
+    <message>
+        <source>Not set up</source>
+        <translation>未設定</translation>
+    </message>
+    <message>
+        <source>Asking the print server for its queues...</source>
+        <translation>プリントサーバーにキューを問い合わせています...</translation>
+    </message>
+    <message>
+        <source>The print server %1 cannot be reached. Check that it is running, then try again.</source>
+        <translation>プリントサーバー %1 に接続できません。サーバーが動作していることを確認してから、もう一度お試しください。</translation>
+    </message>
+    <message>
+        <source>The print server %1 has no print queues. Add a printer, then try again.</source>
+        <translation>プリントサーバー %1 にはプリントキューがありません。プリンターを追加してから、もう一度お試しください。</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>開く</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>Retry</source>
+        <translation>再試行</translation>
+    </message>
+    <message>
+        <source>Password Required</source>
+        <translation>パスワードが必要です</translation>
+    </message>
+    <message>
+        <source>The print server %1 asks for a user name and password to change the queue &quot;%2&quot;.</source>
+        <translation>プリントサーバー %1 でキュー「%2」を変更するには、ユーザー名とパスワードが必要です。</translation>
+    </message>
+    <message>
+        <source>The print server %1 asks for a user name and password.</source>
+        <translation>プリントサーバー %1 がユーザー名とパスワードを求めています。</translation>
+    </message>
+    <message>
+        <source>The user name or password was not accepted. Try again.</source>
+        <translation>ユーザー名またはパスワードが受け付けられませんでした。もう一度お試しください。</translation>
+    </message>
+    <message>
+        <source>&amp;User name:</source>
+        <translation>ユーザー名(&amp;U):</translation>
+    </message>
+    <message>
+        <source>&amp;Password:</source>
+        <translation>パスワード(&amp;P):</translation>
+    </message>
 </context>
 </TS>

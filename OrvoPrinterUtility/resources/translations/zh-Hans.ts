@@ -507,5 +507,97 @@
         <source>Shared Folder 100</source>
         <translation>共享文件夹 100</translation>
     </message>
+    <message>
+        <source>Choose a Print Queue</source>
+        <translation>选择打印队列</translation>
+    </message>
+    <message>
+        <source>Choose the print queue whose printer settings you want to change.</source>
+        <translation>请选择要更改其打印机设置的打印队列。</translation>
+    </message>
+    <message>
+        <source>&amp;Filter:</source>
+        <translation>筛选(&amp;F):</translation>
+    </message>
+    <message>
+        <source>Name, description, make or model</source>
+        <translation>名称、描述、制造商或型号</translation>
+    </message>
+    <message>
+        <source>Print queues</source>
+        <translation>打印队列</translation>
+    </message>
+    <message>
+        <source>Queue</source>
+        <translation>队列</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>描述</translation>
+    </message>
+    <message>
+        <source>Make and Model</source>
+        <translation>制造商和型号</translation>
+    </message>
+    <message>
+        <source>Utility</source>
+        <translation>实用程序</translation>
+    </message>
+    <message>
+        <source>Set up</source>
+        <translation>已设置</translation>
+    </message>
+    <message>
+        <source>Not set up</source>
+        <translation>未设置</translation>
+    </message>
+    <message>
+        <source>Asking the print server for its queues...</source>
+        <translation>正在向打印服务器查询其队列...</translation>
+    </message>
+    <message>
+        <source>The print server %1 cannot be reached. Check that it is running, then try again.</source>
+        <translation>无法连接打印服务器 %1。请确认它正在运行，然后重试。</translation>
+    </message>
+    <message>
+        <source>The print server %1 has no print queues. Add a printer, then try again.</source>
+        <translation>打印服务器 %1 没有打印队列。请添加打印机，然后重试。</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>打开</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Retry</source>
+        <translation>重试</translation>
+    </message>
+    <message>
+        <source>Password Required</source>
+        <translation>需要密码</translation>
+    </message>
+    <message>
+        <source>The print server %1 asks for a user name and password to change the queue &quot;%2&quot;.</source>
+        <translation>打印服务器 %1 要求提供用户名和密码才能更改队列“%2”。</translation>
+    </message>
+    <message>
+        <source>The print server %1 asks for a user name and password.</source>
+        <translation>打印服务器 %1 要求提供用户名和密码。</translation>
+    </message>
+    <message>
+        <source>The user name or password was not accepted. Try again.</source>
+        <translation>用户名或密码未被接受。请重试。</translation>
+    </message>
+    <message>
+        <source>&amp;User name:</source>
+        <translation>用户名(&amp;U):</translation>
+    </message>
+    <message>
+        <source>&amp;Password:</source>
+        <translation>密码(&amp;P):</translation>
+    </message>
 </context>
 </TS>

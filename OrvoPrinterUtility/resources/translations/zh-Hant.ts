@@ -507,5 +507,97 @@
         <source>Shared Folder 100</source>
         <translation>共用資料夾 100</translation>
     </message>
+    <message>
+        <source>Choose a Print Queue</source>
+        <translation>選擇列印佇列</translation>
+    </message>
+    <message>
+        <source>Choose the print queue whose printer settings you want to change.</source>
+        <translation>請選擇要變更其印表機設定的列印佇列。</translation>
+    </message>
+    <message>
+        <source>&amp;Filter:</source>
+        <translation>篩選(&amp;F):</translation>
+    </message>
+    <message>
+        <source>Name, description, make or model</source>
+        <translation>名稱、描述、製造商或型號</translation>
+    </message>
+    <message>
+        <source>Print queues</source>
+        <translation>列印佇列</translation>
+    </message>
+    <message>
+        <source>Queue</source>
+        <translation>佇列</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>描述</translation>
+    </message>
+    <message>
+        <source>Make and Model</source>
+        <translation>製造商和型號</translation>
+    </message>
+    <message>
+        <source>Utility</source>
+        <translation>公用程式</translation>
+    </message>
+    <message>
+        <source>Set up</source>
+        <translation>已設定</translation>
+    </message>
+    <message>
+        <source>Not set up</source>
+        <translation>未設定</translation>
+    </message>
+    <message>
+        <source>Asking the print server for its queues...</source>
+        <translation>正在向列印伺服器查詢其佇列...</translation>
+    </message>
+    <message>
+        <source>The print server %1 cannot be reached. Check that it is running, then try again.</source>
+        <translation>無法連線至列印伺服器 %1。請確認它正在執行，然後再試一次。</translation>
+    </message>
+    <message>
+        <source>The print server %1 has no print queues. Add a printer, then try again.</source>
+        <translation>列印伺服器 %1 沒有列印佇列。請新增印表機，然後再試一次。</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>開啟</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Retry</source>
+        <translation>重試</translation>
+    </message>
+    <message>
+        <source>Password Required</source>
+        <translation>需要密碼</translation>
+    </message>
+    <message>
+        <source>The print server %1 asks for a user name and password to change the queue &quot;%2&quot;.</source>
+        <translation>列印伺服器 %1 要求提供使用者名稱和密碼才能變更佇列「%2」。</translation>
+    </message>
+    <message>
+        <source>The print server %1 asks for a user name and password.</source>
+        <translation>列印伺服器 %1 要求提供使用者名稱和密碼。</translation>
+    </message>
+    <message>
+        <source>The user name or password was not accepted. Try again.</source>
+        <translation>使用者名稱或密碼未被接受。請再試一次。</translation>
+    </message>
+    <message>
+        <source>&amp;User name:</source>
+        <translation>使用者名稱(&amp;U):</translation>
+    </message>
+    <message>
+        <source>&amp;Password:</source>
+        <translation>密碼(&amp;P):</translation>
+    </message>
 </context>
 </TS>

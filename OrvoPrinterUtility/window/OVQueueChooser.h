@@ -1,0 +1,73 @@
+#pragma once
+
+#include "OVQueueSetup.h"
+
+#include <QDialog>
+
+#include <optional>
+
+class QLabel;
+class QLineEdit;
+class QPushButton;
+class QSortFilterProxyModel;
+class QStandardItemModel;
+class QTableView;
+
+// What the utility shows first when it is started without naming a queue: the
+// print server's queues, whether each is set up for the utility, and a filter.
+// Accepted, chosenQueue() names the queue to open; rejected, nothing was
+// chosen. The list is asked for in the background, so a slow server never
+// freezes the chooser.
+class OVQueueChooser : public QDialog {
+    Q_OBJECT
+
+public:
+    // How long the answer may take before the chooser shows its loading
+    // state: on a quick server that opens its one set-up queue at once, the
+    // chooser never flashes up.
+    static constexpr int showDelayMs = 200;
+
+    explicit OVQueueChooser(QWidget *parent = nullptr);
+    ~OVQueueChooser() override;
+
+    // Asks the server for its queues. When exactly one of them is set up for
+    // the utility it is chosen at once: that is the queue the utility can save
+    // to, and a quick server then never shows the chooser. Otherwise the
+    // chooser shows the list.
+    void start();
+    QString chosenQueue() const;
+    // What is said above the list (asking, server unreachable, no queues);
+    // empty while the list is shown.
+    QString statusText() const;
+    QTableView *queueTable() const { return table_; }
+    QLineEdit *filterField() const { return filter_; }
+    QPushButton *openButton() const { return open_; }
+    QPushButton *retryButton() const { return retry_; }
+
+signals:
+    // The server's answer, or its failure, is on show (or a queue was chosen).
+    void listed();
+
+private:
+    struct Listing {
+        std::optional<QList<OVQueueSetup::Queue>> queues;
+        QString server;
+    };
+
+    void buildControls();
+    void load();
+    void showListing(const Listing &listing);
+    void fillTable(const QList<OVQueueSetup::Queue> &queues);
+    void setStatus(const QString &text, bool offerRetry);
+    void selectFirstVisibleRow();
+    void updateOpenButton();
+
+    QStandardItemModel *model_;
+    QSortFilterProxyModel *visible_;
+    QLabel *status_ = nullptr;
+    QPushButton *retry_ = nullptr;
+    QLineEdit *filter_ = nullptr;
+    QTableView *table_ = nullptr;
+    QPushButton *open_ = nullptr;
+    bool answered_ = false;
+};

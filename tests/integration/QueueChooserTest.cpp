@@ -1,0 +1,304 @@
+// The queue chooser and the password prompt against private cupsd servers, also
+// through a proxy that makes the server slow.
+#include "CupsServerEnvironment.h"
+#include "DelayingProxy.h"
+#include "EventLoopStallMeter.h"
+#include "OVBackgroundTask.h"
+#include "OVChooserTexts.h"
+#include "OVPasswordPrompt.h"
+#include "OVPrinterUtilityHelper.h"
+#include "OVQueueChooser.h"
+
+#include <QDialogButtonBox>
+#include <QFileInfo>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTableView>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTranslator>
+
+#include <gtest/gtest.h>
+
+#include <grp.h>
+#include <sched.h>
+#include <sys/mount.h>
+
+[[maybe_unused]] const auto cupsd = ::testing::AddGlobalTestEnvironment(new CupsServerEnvironment);
+
+namespace {
+
+using namespace std::chrono_literals;
+
+// A PPD of another model that is not set up for the utility.
+QString plainPpd(const QTemporaryDir &dir) {
+    const QString path = dir.filePath("plain.ppd");
+    CupsServer::writeFile(
+        path, CupsServer::readFile(CupsServer::samplePpdPath())
+                  .replace("*cupsFilter: \"application/vnd.orvo-settings-update 0 "
+                           "orvo-ppd-update\"\n",
+                           "")
+                  .replace("*NickName: \"Orvo Printer\"", "*NickName: \"Lab Colour Laser\""));
+    return path;
+}
+
+// cupsd checks a print administrator's password through PAM against the
+// machine's accounts. In a mount namespace of this test's own, which its cupsd
+// servers share, the account files are copies with one administrator added (in
+// the group cupsd counts as administrators); the machine's files stay as they
+// are. Done before any thread starts.
+constexpr char administratorName[] = "orvo-admin";
+constexpr char administratorPassword[] = "orvo-test-password";
+// The SHA-512 crypt of the password, with the salt "orvotest".
+constexpr char administratorHash[] =
+    "$6$orvotest$venweop9nWrRr7izjuU3uUUFOWYwLSqdun.lLQBIR.hoeDYgVgaL/"
+    "LfHuuIHih5kx.OPLb9lJtEOiOCG6VPOh1";
+
+bool bindCopyWithLine(const char *file, const QString &line) {
+    static QTemporaryDir copies;
+    const QString copy = copies.filePath(QFileInfo(file).fileName());
+    CupsServer::writeFile(copy, CupsServer::readFile(file) + line.toUtf8() + '\n');
+    return mount(copy.toLocal8Bit().constData(), file, nullptr, MS_BIND, nullptr) == 0;
+}
+
+bool addAdministrator() {
+    const group *administrators = getgrnam("lpadmin");
+    if (!administrators || unshare(CLONE_NEWNS) != 0 ||
+        mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0)
+        return false;
+    return bindCopyWithLine("/etc/passwd",
+                            QStringLiteral("%1:x:4242:%2::/nonexistent:/usr/sbin/nologin")
+                                .arg(administratorName)
+                                .arg(administrators->gr_gid)) &&
+           bindCopyWithLine("/etc/shadow", QStringLiteral("%1:%2:20000:0:99999:7:::")
+                                               .arg(administratorName, administratorHash));
+}
+const bool administrator = addAdministrator();
+
+// libcups keeps the server per thread: the worker's is the one that counts.
+void useServer(const QString &address) {
+    OVBackgroundTask::wait([address] { cupsSetServer(address.toUtf8().constData()); });
+}
+
+QStringList column(const QTableView *table, int column) {
+    QStringList cells;
+    for (int row = 0; row < table->model()->rowCount(); ++row)
+        cells << table->model()->index(row, column).data().toString();
+    return cells;
+}
+
+class QueueChooserTest : public ::testing::Test {
+protected:
+    static void SetUpTestSuite() {
+        CupsServer &cups = CupsServerEnvironment::server();
+        QTemporaryDir dir;
+        ASSERT_TRUE(cups.addQueue("Alpha") && cups.addQueue("Beta") &&
+                    cups.addQueue("Gamma", plainPpd(dir)) &&
+                    cups.lpadmin({"-p", "Gamma", "-D", "Lab on the second floor"}));
+        // A second server whose queue changes need an administrator's
+        // password, with exactly one queue set up.
+        CupsServer::Options options;
+        options.clientsUseIt = false;
+        options.adminNeedsPassword = true;
+        withPassword =
+            std::make_unique<CupsServer>(QStringLiteral(ORVO_PPD_UPDATE_FILTER), options);
+        ASSERT_TRUE(withPassword->isRunning() && withPassword->addQueue("Only") &&
+                    withPassword->addQueue("Plain", plainPpd(dir)));
+    }
+    static void TearDownTestSuite() { withPassword.reset(); }
+    void SetUp() override { useServer(CupsServerEnvironment::server().address()); }
+
+    // Starts the chooser and waits for the server's answer.
+    void list() {
+        QSignalSpy listed(&chooser, &OVQueueChooser::listed);
+        chooser.start();
+        ASSERT_TRUE(listed.wait(30000));
+    }
+
+    static inline std::unique_ptr<CupsServer> withPassword;
+    OVQueueChooser chooser;
+};
+
+TEST_F(QueueChooserTest, ListsEveryQueueWithItsStateAndFilters) {
+    list();
+    ASSERT_TRUE(chooser.isVisible());
+    const QTableView *table = chooser.queueTable();
+    EXPECT_EQ(column(table, 0), (QStringList{"Alpha", "Beta", "Gamma"}));
+    EXPECT_EQ(column(table, 1).last(), "Lab on the second floor");
+    EXPECT_EQ(column(table, 2), (QStringList{"Orvo Printer", "Orvo Printer", "Lab Colour Laser"}));
+    EXPECT_EQ(column(table, 3), (QStringList{"Set up", "Set up", "Not set up"}));
+    EXPECT_EQ(chooser.chosenQueue(), "Alpha");
+    EXPECT_EQ(chooser.filterField()->accessibleName(), "Filter");
+    const std::pair<const char *, QStringList> filters[] = {
+        {"second FLOOR", {"Gamma"}}, // description
+        {"lab colour", {"Gamma"}},   // make and model
+        {"bet", {"Beta"}},           // name
+        {"orvo", {"Alpha", "Beta"}},
+        {"not set up", {}}, // the state is not searched
+        {"", {"Alpha", "Beta", "Gamma"}},
+    };
+    for (const auto &[filter, shown] : filters) {
+        SCOPED_TRACE(filter);
+        chooser.filterField()->setText(filter);
+        EXPECT_EQ(column(table, 0), shown);
+        // A choice that stays in sight stays chosen.
+        EXPECT_TRUE(shown.isEmpty() ? chooser.chosenQueue().isEmpty()
+                                    : shown.contains(chooser.chosenQueue()));
+        EXPECT_EQ(chooser.openButton()->isEnabled(), !shown.isEmpty());
+    }
+}
+
+// Open, a double click and Enter all choose the queue; Cancel chooses none.
+TEST_F(QueueChooserTest, OpensTheChosenQueue) {
+    const std::function<void(QTableView *, int row)> ways[] = {
+        [this](QTableView *table, int row) {
+            table->selectRow(row);
+            QTest::mouseClick(chooser.openButton(), Qt::LeftButton);
+        },
+        [](QTableView *table, int row) {
+            const QRect cell = table->visualRect(table->model()->index(row, 1));
+            QTest::mouseDClick(table->viewport(), Qt::LeftButton, {}, cell.center());
+        },
+        [](QTableView *table, int row) {
+            table->selectRow(row);
+            QTest::keyClick(table, Qt::Key_Return);
+        },
+    };
+    for (const auto &open : ways) {
+        list();
+        open(chooser.queueTable(), 2);
+        EXPECT_EQ(chooser.result(), QDialog::Accepted);
+        EXPECT_EQ(chooser.chosenQueue(), "Gamma");
+    }
+    list();
+    QTest::keyClick(chooser.queueTable(), Qt::Key_Escape);
+    EXPECT_EQ(chooser.result(), QDialog::Rejected);
+}
+
+TEST_F(QueueChooserTest, TheOneSetUpQueueOpensAtOnce) {
+    useServer(withPassword->address());
+    QSignalSpy accepted(&chooser, &QDialog::accepted);
+    list();
+    EXPECT_EQ(accepted.count(), 1);
+    EXPECT_EQ(chooser.chosenQueue(), "Only");
+    EXPECT_FALSE(chooser.isVisible());
+}
+
+// An unreachable server is said, with a Retry that lists the queues once it answers.
+TEST_F(QueueChooserTest, SaysWhenTheServerCannotBeReached) {
+    useServer("127.0.0.1:1");
+    list();
+    EXPECT_TRUE(chooser.isVisible());
+    EXPECT_EQ(chooser.statusText(), "The print server 127.0.0.1:1 cannot be reached. Check that it "
+                                    "is running, then try again.");
+    EXPECT_FALSE(chooser.openButton()->isEnabled());
+    EXPECT_EQ(chooser.queueTable()->model()->rowCount(), 0);
+    useServer(CupsServerEnvironment::server().address());
+    QSignalSpy listed(&chooser, &OVQueueChooser::listed);
+    QTest::mouseClick(chooser.retryButton(), Qt::LeftButton);
+    ASSERT_TRUE(listed.wait(30000));
+    EXPECT_EQ(chooser.statusText(), "");
+    EXPECT_EQ(chooser.queueTable()->model()->rowCount(), 3);
+}
+
+// Every answer of the server comes half a second late; the chooser shows its
+// loading state meanwhile and its event loop keeps turning. The bound is the
+// GUI thread's own work only (the network waits are on the worker), so it holds
+// on a loaded machine too; the first window of the process is shown beforehand,
+// as loading fonts is not the chooser's doing.
+TEST_F(QueueChooserTest, ASlowServerNeverStallsTheChooser) {
+    QDialog warmUp;
+    warmUp.show();
+    QTest::qWait(50);
+    warmUp.hide();
+    const DelayingProxy proxy(CupsServerEnvironment::server().address(), 500ms);
+    ASSERT_TRUE(proxy.isListening());
+    useServer(proxy.address());
+    const EventLoopStallMeter meter;
+    QSignalSpy listed(&chooser, &OVQueueChooser::listed);
+    chooser.start();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return chooser.isVisible(); }, 5000));
+    EXPECT_EQ(chooser.statusText(), "Asking the print server for its queues...");
+    EXPECT_TRUE(listed.isEmpty());
+    ASSERT_TRUE(listed.wait(30000));
+    EXPECT_EQ(chooser.queueTable()->model()->rowCount(), 3);
+    EXPECT_LT(meter.largestGap(), 100ms);
+}
+
+// The password is asked on the GUI thread while the set-up waits on the worker.
+// Cancel gives up at once and a refused password is asked three times, leaving
+// the queue as it was; an administrator's password sets it up.
+TEST_F(QueueChooserTest, PasswordPromptAnswersTheServer) {
+    ASSERT_TRUE(administrator) << "the suite needs root for a mount namespace";
+    CupsServer &server = *withPassword;
+    useServer(server.address());
+    const QByteArray before = server.queuePpd("Plain");
+    OVPasswordPrompt prompt;
+    struct Case {
+        const char *what;
+        const char *user, *password;
+        bool cancel;
+        int asked;
+        OVQueueSetup::Outcome outcome;
+    };
+    const Case cases[] = {
+        {"Cancel", "nobody", "wrong", true, 1, OVQueueSetup::Outcome::NotAuthorized},
+        {"Refused", "nobody", "wrong", false, 3, OVQueueSetup::Outcome::NotAuthorized},
+        {"Accepted", administratorName, administratorPassword, false, 1,
+         OVQueueSetup::Outcome::Changed},
+    };
+    for (const Case &c : cases) {
+        SCOPED_TRACE(c.what);
+        QStringList texts;
+        const auto answer =
+            QObject::connect(&prompt, &OVPasswordPrompt::asking, [&](QDialog *dialog) {
+                texts << dialog->findChild<QLabel *>("explanation")->text();
+                QMetaObject::invokeMethod(
+                    dialog,
+                    [dialog, c] {
+                        QLineEdit *password = dialog->findChild<QLineEdit *>("password");
+                        dialog->findChild<QLineEdit *>("userName")->setText(c.user);
+                        QTest::keyClicks(password, c.password);
+                        if (c.cancel)
+                            dialog->reject();
+                        else
+                            QTest::keyClick(password, Qt::Key_Return);
+                    },
+                    Qt::QueuedConnection);
+            });
+        std::optional<OVQueueSetup::Result> result;
+        OVBackgroundTask::run(
+            &prompt,
+            [] {
+                const OVPasswordPrompt::ForQueue forQueue("Plain");
+                return OVQueueSetup::setUp("Plain");
+            },
+            [&](const OVQueueSetup::Result &done) { result = done; });
+        ASSERT_TRUE(QTest::qWaitFor([&] { return result.has_value(); }, 60000));
+        QObject::disconnect(answer);
+        EXPECT_EQ(result->outcome, c.outcome);
+        ASSERT_EQ(texts.size(), c.asked);
+        EXPECT_TRUE(texts.first().contains(server.address()) && texts.first().contains("\"Plain\""))
+            << texts.first().toStdString();
+        EXPECT_EQ(texts.last().endsWith("Try again."), c.asked > 1);
+        EXPECT_EQ(server.queuePpd("Plain") == before, c.outcome != OVQueueSetup::Outcome::Changed);
+    }
+    // The other tests want the queue as it was.
+    QTemporaryDir dir;
+    EXPECT_TRUE(server.lpadmin({"-p", "Plain", "-P", plainPpd(dir)}));
+}
+
+// Every text of the chooser and the prompt has a translation in every shipped language.
+TEST(ChooserTexts, EveryLanguageHasEveryKey) {
+    for (const QString &folder : OVPrinterUtilityHelper::shippedLocalizations()) {
+        QTranslator table;
+        ASSERT_TRUE(table.load(":/" + folder + "/Localizable.qm"));
+        for (const char *key : OVChooserTexts::localizedKeys)
+            EXPECT_FALSE(table.translate("Localizable", key).isEmpty())
+                << folder.toStdString() << " lacks " << key;
+    }
+}
+
+} // namespace
