@@ -1,6 +1,6 @@
 #include "OrvoPPDScanIndex.h"
 
-#include "OrvoPPD.h"
+#include "OrvoPPDKeywordScan.h"
 #include "OrvoPPDRegex.h"
 
 #include <QSet>
@@ -163,7 +163,7 @@ void OrvoPPDScanIndex::indexGroups() {
             nextLine = lineEnd(stop);
         }
     }
-    groups.prepend(QStringLiteral("General"));
+    groups.prepend(QString::fromLatin1(OrvoPPDKeywordScan::generalGroup));
     const QList<qsizetype> lengths = plainLengths(groups);
     for (const qsizetype at : occurrences(view, closeGroupTag)) {
         const qsizetype name = skipBlanks(at + closeGroupTag.size());
@@ -253,7 +253,7 @@ void OrvoPPDScanIndex::indexCustomLines() {
 
 OrvoPPDRange OrvoPPDScanIndex::groupRange(const QString &name) const {
     if (!isPlain(name))
-        return OrvoPPD::groupRange(text, name);
+        return OrvoPPDKeywordScan::groupRange(text, name);
     const auto whole = openGroupFirst.constFind(name);
     const auto shorter = openGroupFirst.constFind(QStringView(name).chopped(1));
     const auto close = closeGroupFirst.constFind(name);
@@ -269,7 +269,7 @@ OrvoPPDRange OrvoPPDScanIndex::groupRange(const QString &name) const {
 
 OrvoPPDRange OrvoPPDScanIndex::optionRange(const QString &keyword) const {
     if (!isPlain(keyword))
-        return OrvoPPD::optionRagne(text, keyword);
+        return OrvoPPDKeywordScan::optionRange(text, keyword);
     const qsizetype line = qMax(lastOf(openLinesByName, keyword),
                                 lastOf(openLinesByName, QStringView(keyword).chopped(1)));
     OrvoPPDRange start;
@@ -287,20 +287,8 @@ OrvoPPDRange OrvoPPDScanIndex::followingOpenEnd(OrvoPPDRange start) const {
     const auto next = std::lower_bound(openOccurrences.begin(), openOccurrences.end(), start.end());
     if (next == openOccurrences.end())
         return OrvoPPDRange::unite(start, {});
-    return uniteWithLineBefore(text, start,
-                               QStringView(text).sliced(*next, lineEnd(*next) - *next));
-}
-
-// The option without a close line ends on the character before the first
-// place where the following "*OpenUI" line's text occurs. When that place is
-// the text's very start there is no character before it, and the option is
-// its start line alone.
-OrvoPPDRange OrvoPPDScanIndex::uniteWithLineBefore(QStringView text, OrvoPPDRange start,
-                                                   QStringView followingLine) {
-    const qsizetype first = text.indexOf(followingLine);
-    if (first == 0)
-        return start;
-    return OrvoPPDRange::unite(start, {first - 1, 1});
+    return OrvoPPDKeywordScan::uniteWithLineBefore(
+        text, start, QStringView(text).sliced(*next, lineEnd(*next) - *next));
 }
 
 OrvoPPDScanIndex::Line OrvoPPDScanIndex::lineWithin(qsizetype position, OrvoPPDRange range) const {
