@@ -11,6 +11,10 @@ constexpr QStringView optionKeywordPattern = u"OpenUI \\*(.*?)/";
 constexpr QStringView optionStartPattern = u"\\*OpenUI.*(\\*%@?)/.*";
 constexpr QStringView optionEndPattern = u"\\*CloseUI:.*%@[ ]*\\n";
 constexpr QStringView anyOpenUIPattern = u"\\*OpenUI.*";
+constexpr QStringView optionTextPattern = u"\\*OpenUI.*\\*%@?/(.*):";
+constexpr QStringView defaultChoicePattern = u"\\*Default%@:[ ]*(.*)";
+constexpr QStringView choicePattern = u"\\*%@[ ]+(.*?)/(.*?):.*\"(.*)\"";
+constexpr QStringView customChoicePattern = u"\\*Custom%@[ ]+(.*?):.*\"(.*)\"";
 
 OrvoPPDRange wholeRange(const std::optional<OrvoPPDRegex::Match> &match) {
     if (!match)
@@ -23,6 +27,15 @@ QStringList firstCaptures(const QString &text, QStringView pattern) {
     for (const OrvoPPDRegex::Match &match : OrvoPPDRegex(pattern.toString()).findAll(text))
         captures.append(match.capture(text, 1).toString());
     return captures;
+}
+
+std::optional<QStringView> lastCapture(const QString &text, OrvoPPDRange range, QStringView pattern,
+                                       const QString &keyword) {
+    const auto match = OrvoPPDRegex(OrvoPPDRegex::format(pattern, {keyword}))
+                           .findLast(text, range.location, range.end());
+    if (!match || !match->has(1))
+        return std::nullopt;
+    return match->capture(text, 1);
 }
 
 } // namespace
@@ -69,6 +82,33 @@ OrvoPPDRange OrvoPPDKeywordScan::optionRange(const QString &text, const QString 
         return OrvoPPDRange::unite(start, {});
     const OrvoPPDRange line = wholeRange(following);
     return uniteWithLineBefore(text, start, QStringView(text).sliced(line.location, line.length));
+}
+
+std::optional<QStringView>
+OrvoPPDKeywordScan::optionText(const QString &text, const QString &keyword, OrvoPPDRange range) {
+    return lastCapture(text, range, optionTextPattern, keyword);
+}
+
+std::optional<QStringView>
+OrvoPPDKeywordScan::defaultChoice(const QString &text, const QString &keyword, OrvoPPDRange range) {
+    return lastCapture(text, range, defaultChoicePattern, keyword);
+}
+
+QList<OrvoPPDModel::Choice> OrvoPPDKeywordScan::choices(const QString &text, const QString &keyword,
+                                                        OrvoPPDRange range) {
+    QList<OrvoPPDModel::Choice> found;
+    const OrvoPPDRegex choice(OrvoPPDRegex::format(choicePattern, {keyword}));
+    for (const OrvoPPDRegex::Match &match : choice.findAll(text, range.location, range.end()))
+        found.append({match.capture(text, 1), match.capture(text, 2), match.capture(text, 3)});
+    return found;
+}
+
+QList<QStringView> OrvoPPDKeywordScan::customCodes(const QString &text, const QString &keyword) {
+    QList<QStringView> codes;
+    const OrvoPPDRegex custom(OrvoPPDRegex::format(customChoicePattern, {keyword}));
+    for (const OrvoPPDRegex::Match &match : custom.findAll(text))
+        codes.append(match.capture(text, 2));
+    return codes;
 }
 
 // The option without a close line ends on the character before the first

@@ -1,7 +1,6 @@
 #include "OrvoPPDScanIndex.h"
 
 #include "OrvoPPDKeywordScan.h"
-#include "OrvoPPDRegex.h"
 
 #include <QSet>
 
@@ -15,10 +14,6 @@ constexpr QStringView openUITag = u"*OpenUI";
 constexpr QStringView closeUITag = u"*CloseUI:";
 constexpr QStringView customTag = u"*Custom";
 constexpr QStringView optionKeywordTag = u"OpenUI *";
-constexpr QStringView optionTextPattern = u"\\*OpenUI.*\\*%@?/(.*):";
-constexpr QStringView defaultChoicePattern = u"\\*Default%@:[ ]*(.*)";
-constexpr QStringView choicePattern = u"\\*%@[ ]+(.*?)/(.*?):.*\"(.*)\"";
-constexpr QStringView customChoicePattern = u"\\*Custom%@[ ]+(.*?):.*\"(.*)\"";
 constexpr QStringView expressionSyntax = u"\\^$.|?*+()[]{}#/";
 
 // Every position of a literal in the text, in order.
@@ -59,15 +54,6 @@ template <typename Key, typename Value>
 void insertFirst(QHash<Key, Value> &hash, const Key &key, const Value &value) {
     if (!hash.contains(key))
         hash.insert(key, value);
-}
-
-std::optional<QStringView> lastCapture(const QString &text, OrvoPPDRange range, QStringView pattern,
-                                       const QString &keyword) {
-    const auto match = OrvoPPDRegex(OrvoPPDRegex::format(pattern, {keyword}))
-                           .findLast(text, range.location, range.end());
-    if (!match || !match->has(1))
-        return std::nullopt;
-    return match->capture(text, 1);
 }
 
 void addLine(std::vector<qsizetype> &lines, qsizetype line) {
@@ -334,7 +320,7 @@ qsizetype OrvoPPDScanIndex::translationSlash(qsizetype from, qsizetype before,
 std::optional<QStringView> OrvoPPDScanIndex::optionText(const QString &keyword,
                                                         OrvoPPDRange range) const {
     if (!isPlain(keyword))
-        return lastCapture(text, range, optionTextPattern, keyword);
+        return OrvoPPDKeywordScan::optionText(text, keyword, range);
     auto next = std::lower_bound(openOccurrences.begin(), openOccurrences.end(),
                                  range.end() - openUITag.size() + 1);
     const auto first =
@@ -358,7 +344,7 @@ std::optional<QStringView> OrvoPPDScanIndex::optionText(const QString &keyword,
 std::optional<QStringView> OrvoPPDScanIndex::defaultChoice(const QString &keyword,
                                                            OrvoPPDRange range) const {
     if (!isPlain(keyword))
-        return lastCapture(text, range, defaultChoicePattern, keyword);
+        return OrvoPPDKeywordScan::defaultChoice(text, keyword, range);
     const QString needle = QStringLiteral("*Default") + keyword + u':';
     const QStringView own = QStringView(text).sliced(range.location, range.length);
     const qsizetype last = own.lastIndexOf(needle);
@@ -374,16 +360,9 @@ std::optional<QStringView> OrvoPPDScanIndex::defaultChoice(const QString &keywor
 
 QList<OrvoPPDModel::Choice> OrvoPPDScanIndex::choices(const QString &keyword,
                                                       OrvoPPDRange range) const {
+    if (!isPlain(keyword))
+        return OrvoPPDKeywordScan::choices(text, keyword, range);
     QList<OrvoPPDModel::Choice> found;
-    auto add = [&](QStringView key, QStringView text, QStringView code) {
-        found.append({key, text, code});
-    };
-    if (!isPlain(keyword)) {
-        const OrvoPPDRegex choice(OrvoPPDRegex::format(choicePattern, {keyword}));
-        for (const OrvoPPDRegex::Match &match : choice.findAll(text, range.location, range.end()))
-            add(match.capture(text, 1), match.capture(text, 2), match.capture(text, 3));
-        return found;
-    }
     // One match at most per line, from the line's first "*keyword ".
     const QString needle = u'*' + keyword + u' ';
     const QStringView own = QStringView(text).sliced(range.location, range.length);
@@ -395,9 +374,10 @@ QList<OrvoPPDModel::Choice> OrvoPPDScanIndex::choices(const QString &keyword,
         const qsizetype slash = QStringView(text).sliced(key, line.end - key).indexOf(u'/');
         if (slash >= 0) {
             if (const auto code = quotedCode(line, key + slash + 1))
-                add(QStringView(text).sliced(key, slash),
-                    QStringView(text).sliced(key + slash + 1, code->colon - key - slash - 1),
-                    QStringView(text).sliced(code->start, code->end - code->start));
+                found.append(
+                    {QStringView(text).sliced(key, slash),
+                     QStringView(text).sliced(key + slash + 1, code->colon - key - slash - 1),
+                     QStringView(text).sliced(code->start, code->end - code->start)});
         }
         at = line.end - range.location < own.size() ? own.indexOf(needle, line.end - range.location)
                                                     : -1;
@@ -406,13 +386,9 @@ QList<OrvoPPDModel::Choice> OrvoPPDScanIndex::choices(const QString &keyword,
 }
 
 QList<QStringView> OrvoPPDScanIndex::customCodes(const QString &keyword) const {
+    if (!isPlain(keyword))
+        return OrvoPPDKeywordScan::customCodes(text, keyword);
     QList<QStringView> codes;
-    if (!isPlain(keyword)) {
-        const OrvoPPDRegex custom(OrvoPPDRegex::format(customChoicePattern, {keyword}));
-        for (const OrvoPPDRegex::Match &match : custom.findAll(text))
-            codes.append(match.capture(text, 2));
-        return codes;
-    }
     const auto lines = customLinesByName.constFind(keyword);
     if (lines == customLinesByName.constEnd())
         return codes;

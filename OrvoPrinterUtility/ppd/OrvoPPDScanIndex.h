@@ -12,10 +12,11 @@
 
 // The reader's scans, answered from one pass over the text instead of one pass
 // per option with several expressions. Each answer is the one the per-keyword
-// expression of OrvoPPDKeywordScan gives: the same last (or first) match, the keyword's optional
-// last character, the custom lines of the whole text. Every expression here
-// matches within one line, so the lines that hold its literal parts are the
-// only places to look. Keywords holding expression syntax take the expression.
+// expression of OrvoPPDKeywordScan gives: the same last (or first) match, the
+// keyword's optional last character, the custom lines of the whole text. Every
+// such expression matches within one line, so the lines that hold its literal
+// parts are the only places to look. Keywords holding expression syntax take
+// the expression.
 class OrvoPPDScanIndex {
 public:
     struct Attribute {
