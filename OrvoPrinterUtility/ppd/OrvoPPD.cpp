@@ -13,6 +13,7 @@
 
 #include <cstring>
 #include <syslog.h>
+#include <utility>
 
 namespace {
 
@@ -56,7 +57,7 @@ ppd_file_t *OrvoPPD::ppdOpenFile(const char *path) {
                                         .arg(path ? QString::fromUtf8(path) : QString("(null)")));
         return nullptr;
     }
-    return OrvoPPDReader::createStructure(text);
+    return OrvoPPDReader::createStructure(std::move(text));
 }
 
 void OrvoPPD::ppdClose(ppd_file_t *ppd) {

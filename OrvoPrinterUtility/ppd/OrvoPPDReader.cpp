@@ -19,8 +19,8 @@ QString OrvoPPDReader::readPart(QString text) {
     return text;
 }
 
-ppd_file_t *OrvoPPDReader::createStructure(const QString &text) {
-    const QString part = readPart(text);
+ppd_file_t *OrvoPPDReader::createStructure(QString text) {
+    const QString part = readPart(std::move(text));
     const OrvoPPDScanIndex index(part);
     const std::optional<OrvoPPDModel> model = read(part, index);
     if (!model) {

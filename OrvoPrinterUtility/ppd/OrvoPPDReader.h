@@ -16,7 +16,7 @@ public:
     static QString readPart(QString text);
     // The structure for the read part of a whole PPD text; null as read() is
     // empty, or when the structure cannot be allocated.
-    static ppd_file_t *createStructure(const QString &text);
+    static ppd_file_t *createStructure(QString text);
     // For a text already cut to its read part. Empty when the text has no
     // option or an option has no choice.
     static std::optional<OrvoPPDModel> read(const QString &text, const OrvoPPDScanIndex &index);
