@@ -3,6 +3,7 @@
 // ratios, the time-against-size growth exponent and one RESULT line.
 //   orvoppd_bench [DIR]   (every *.ppd of DIR)
 #include "OrvoPPD.h"
+#include "OrvoPPD_Interface.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -56,8 +57,8 @@ Measured measure(const QFileInfo &file) {
     Measured measured{file.fileName(), file.size(), INFINITY, INFINITY};
     for (int i = 0; i < repetitions; ++i) {
         measured.libcups = std::min(measured.libcups, timed([&] {
-                                        if (ppd_file_t *ppd = ::ppdOpenFile(path.constData()))
-                                            ::ppdClose(ppd);
+                                        if (ppd_file_t *ppd = r_ppdOpenFile(path.constData()))
+                                            r_ppdClose(ppd);
                                     }));
         measured.orvo =
             std::min(measured.orvo,

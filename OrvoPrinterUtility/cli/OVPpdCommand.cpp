@@ -1,5 +1,6 @@
 #include "OVPpdCommand.h"
 
+#include "OVCliLogging.h"
 #include "OVCommandLine.h"
 #include "OVPreferredLanguages.h"
 #include "OVSystemLog.h"
@@ -14,7 +15,9 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <csignal>
+#include <cstring>
 
 namespace {
 
@@ -66,6 +69,11 @@ void writeAll(int fd, const QByteArray &bytes) {
     }
 }
 
+int cannotStartReader() {
+    qCInfo(orvoCli) << "the PPD reader's process:" << std::strerror(errno);
+    return OVCommandLine::fail(Exit::Failed, "cannot start the PPD reader");
+}
+
 QByteArray readAllFrom(int fd) {
     QByteArray bytes;
     char buffer[65536];
@@ -109,7 +117,7 @@ int OVPpdCommand::run(const QCommandLineParser &parser, bool json) {
     // result.
     int toParent[2];
     if (pipe(toParent) != 0)
-        return OVCommandLine::fail(Exit::Failed, "cannot start the PPD reader");
+        return cannotStartReader();
     const pid_t child = fork();
     if (child == 0) {
         // A refusal aborts: no core file for it.
@@ -126,13 +134,15 @@ int OVPpdCommand::run(const QCommandLineParser &parser, bool json) {
     close(toParent[0]);
     int status = 0;
     if (child < 0 || waitpid(child, &status, 0) != child)
-        return OVCommandLine::fail(Exit::Failed, "cannot start the PPD reader");
-    if (WIFSIGNALED(status))
+        return cannotStartReader();
+    if (WIFSIGNALED(status)) {
+        qCInfo(orvoCli) << "the PPD reader stopped on signal" << WTERMSIG(status);
         return OVCommandLine::fail(Exit::Failed,
                                    path +
                                        " holds a text longer than the PPD reader's fixed fields "
                                        "allow, which it refuses: " +
                                        QString::fromUtf8(output).trimmed());
+    }
     const QJsonObject ppd =
         QJsonDocument::fromJson(output.mid(output.lastIndexOf('\n') + 1)).object();
     if (ppd.contains(errorKey))

@@ -49,8 +49,8 @@ QStringList candidateFolders(const QString &language) {
 } // namespace
 
 QString OVPrinterUtilityHelper::getSystemLanguage(bool fullName) {
-    int major = 0, middle = 0, minor = 0;
-    OVSystemVersion::components(major, middle, minor);
+    int major = 0, middle = 0;
+    OVSystemVersion::components(&major, &middle, nullptr);
     const QString language = OVPreferredLanguages::first();
     if (major != 10 || middle < 12 || fullName)
         return language;

@@ -1,5 +1,7 @@
 #include "OVSNMPHelper.h"
 
+#include "OVCoreLogging.h"
+
 #include <QStringDecoder>
 
 #include <net-snmp/net-snmp-config.h>
@@ -7,6 +9,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
 #include <map>
 #include <mutex>
@@ -146,6 +149,22 @@ void readResponse(const netsnmp_pdu *response, u_char type, Answer &answer) {
         answer.values.append(readVariable(var, type));
 }
 
+// Net-SNMP's own words for why a session did not open or a request failed.
+void logSessionError(const char *address, netsnmp_session *session) {
+    int libraryError = 0;
+    int systemError = 0;
+    char *text = nullptr;
+    snmp_error(session, &systemError, &libraryError, &text);
+    qCInfo(orvoCore) << "SNMP request to" << address << "failed:" << text;
+    std::free(text);
+}
+
+void logResponseError(const char *address, const netsnmp_pdu *response) {
+    if (response && response->errstat != SNMP_ERR_NOERROR)
+        qCInfo(orvoCore) << "SNMP request to" << address
+                         << "refused:" << snmp_errstring(int(response->errstat));
+}
+
 netsnmp_pdu *buildRequest(const Identifiers &names) {
     netsnmp_pdu *request = snmp_pdu_create(SNMP_MSG_GET);
     for (const std::vector<oid> &name : names) {
@@ -174,10 +193,15 @@ Answer exchange(const char *address, const QString &community, SessionSettings s
     settingsRecord.retries = settings.retries;
     settingsRecord.peername = peerName.data();
     netsnmp_session *session = snmp_open(&settingsRecord);
-    if (!session)
+    if (!session) {
+        logSessionError(address, &settingsRecord);
         return answer;
+    }
     netsnmp_pdu *response = nullptr;
     answer.status = snmp_synch_response(session, buildRequest(names), &response);
+    if (answer.status != STAT_SUCCESS)
+        logSessionError(address, session);
+    logResponseError(address, response);
     readResponse(response, type, answer);
     if (response)
         snmp_free_pdu(response);

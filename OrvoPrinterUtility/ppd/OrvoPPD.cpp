@@ -5,7 +5,6 @@
 #include "OVSystemVersion.h"
 #include "OrvoPPDReader.h"
 #include "OrvoPPDRegex.h"
-#include "OrvoPPDScanIndex.h"
 #include "OrvoPPDStructure.h"
 #include "OrvoPPD_Interface.h"
 
@@ -14,17 +13,10 @@
 
 #include <cstring>
 #include <syslog.h>
+#include <utility>
 
 namespace {
 
-constexpr QStringView advancedGroupEnd = u"*CloseGroup: Advanced";
-constexpr QStringView groupNamePattern = u"\\*OpenGroup:[ ]*(.*?)/.*";
-constexpr QStringView groupOpenPattern = u"\\*OpenGroup:[ ]*%@?/.*";
-constexpr QStringView groupClosePattern = u"\\*CloseGroup:[ ]*%@";
-constexpr QStringView optionKeywordPattern = u"OpenUI \\*(.*?)/";
-constexpr QStringView optionStartPattern = u"\\*OpenUI.*(\\*%@?)/.*";
-constexpr QStringView optionEndPattern = u"\\*CloseUI:.*%@[ ]*\\n";
-constexpr QStringView anyOpenUIPattern = u"\\*OpenUI.*";
 constexpr QStringView optionTranslationPattern = u"(\u00A5*%@.Translation) (%@)/(.*?):";
 constexpr QStringView choiceTranslationPattern = u"(\u00A5*%@.%@) (%@)/(.*?):";
 constexpr QStringView languageBlockPattern = u"\\*%@\\..*";
@@ -37,12 +29,6 @@ constexpr std::pair<QStringView, QStringView> ppdLanguages[] = {
     {u"zh-Hant", u"zh_TW"},    {u"zh_HANT", u"zh_TW"}, {u"zh-Hant_CN", u"zh_TW"},
     {u"zh-Hant-HK", u"zh_HK"},
 };
-
-OrvoPPDRange wholeRange(const std::optional<OrvoPPDRegex::Match> &match) {
-    if (!match)
-        return {};
-    return {match->spans[0].first, match->spans[0].second - match->spans[0].first};
-}
 
 QString capturedOrEmpty(const std::optional<OrvoPPDRegex::Match> &match, const QString &text,
                         int group) {
@@ -71,14 +57,7 @@ ppd_file_t *OrvoPPD::ppdOpenFile(const char *path) {
                                         .arg(path ? QString::fromUtf8(path) : QString("(null)")));
         return nullptr;
     }
-    const qsizetype cut = text.indexOf(advancedGroupEnd);
-    if (cut >= 0)
-        text.truncate(cut + advancedGroupEnd.size());
-    const OrvoPPDScanIndex index(text);
-    const std::optional<OrvoPPDModel> model = OrvoPPDReader::read(text, index);
-    if (!model)
-        return nullptr;
-    return OrvoPPDStructure::create(*model, index.attributes());
+    return OrvoPPDReader::createStructure(std::move(text));
 }
 
 void OrvoPPD::ppdClose(ppd_file_t *ppd) {
@@ -86,66 +65,27 @@ void OrvoPPD::ppdClose(ppd_file_t *ppd) {
 }
 
 QStringList OrvoPPD::groupKeyword(const QString &text) {
-    QStringList names{QString::fromLatin1(generalGroup)};
-    for (const OrvoPPDRegex::Match &match : OrvoPPDRegex(groupNamePattern.toString()).findAll(text))
-        names.append(match.capture(text, 1).toString());
-    return names;
+    return OrvoPPDKeywordScan::groupNames(text);
 }
 
 OrvoPPDRange OrvoPPD::groupRange(const QString &text, const QString &keyword) {
-    const OrvoPPDRange open =
-        wholeRange(OrvoPPDRegex(OrvoPPDRegex::format(groupOpenPattern, {keyword}))
-                       .findFirst(text, 0, text.size()));
-    const OrvoPPDRange close =
-        wholeRange(OrvoPPDRegex(OrvoPPDRegex::format(groupClosePattern, {keyword}))
-                       .findFirst(text, 0, text.size()));
-    if (open.isNotFound() || close.isNotFound())
-        return {};
-    return OrvoPPDRange::unite(open, close);
+    return OrvoPPDKeywordScan::groupRange(text, keyword);
 }
 
 QString OrvoPPD::findGroupKey(const GroupRanges &groupRanges, OrvoPPDRange itemRange) {
-    for (const auto &[name, range] : groupRanges)
-        if (range.containsLocation(itemRange.location))
-            return name;
-    return QString::fromLatin1(generalGroup);
+    return OrvoPPDKeywordScan::findGroupKey(groupRanges, itemRange);
 }
 
 QStringList OrvoPPD::optionKeywords(const QString &text) {
-    QStringList keywords;
-    for (const OrvoPPDRegex::Match &match :
-         OrvoPPDRegex(optionKeywordPattern.toString()).findAll(text))
-        keywords.append(match.capture(text, 1).toString());
-    return keywords;
+    return OrvoPPDKeywordScan::optionKeywords(text);
 }
 
 OrvoPPDRange OrvoPPD::optionRagne(const QString &text, const QString &keyword) {
-    const OrvoPPDRange start =
-        wholeRange(OrvoPPDRegex(OrvoPPDRegex::format(optionStartPattern, {keyword}))
-                       .findLast(text, 0, text.size()));
-    const OrvoPPDRange end =
-        wholeRange(OrvoPPDRegex(OrvoPPDRegex::format(optionEndPattern, {keyword}))
-                       .findLast(text, 0, text.size()));
-    if (!end.isNotFound())
-        return OrvoPPDRange::unite(start, end);
-    const auto following =
-        OrvoPPDRegex(anyOpenUIPattern.toString()).findFirst(text, start.end(), text.size());
-    if (!following)
-        return OrvoPPDRange::unite(start, {});
-    const OrvoPPDRange line = wholeRange(following);
-    return OrvoPPDScanIndex::uniteWithLineBefore(
-        text, start, QStringView(text).sliced(line.location, line.length));
+    return OrvoPPDKeywordScan::optionRange(text, keyword);
 }
 
 void OrvoPPD::getSystemVersion(int32_t *major, int32_t *middle, int32_t *minor) {
-    const QString version = OVSystemVersion::productVersion();
-    if (version.isEmpty())
-        return;
-    const QStringList parts = version.split(u'.');
-    int32_t *targets[] = {major, middle, minor};
-    for (qsizetype i = 0; i < 3 && i < parts.size(); ++i)
-        if (targets[i])
-            *targets[i] = parts[i].toInt();
+    OVSystemVersion::components(major, middle, minor);
 }
 
 QString OrvoPPD::getSystemLanguage(bool fullName) {

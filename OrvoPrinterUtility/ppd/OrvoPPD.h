@@ -1,15 +1,12 @@
 #pragma once
 
-#include "OrvoPPDRange.h"
+#include "OrvoPPDKeywordScan.h"
 
 #include <QByteArray>
-#include <QList>
 #include <QString>
 #include <QStringList>
 
 #include <cups/ppd.h>
-
-#include <utility>
 
 // A PPD reader apart from the libcups parser: it reads the file as text with
 // regular expressions and fills a structure in the libcups layout, which only
@@ -17,10 +14,9 @@
 // structure. Holds no state.
 class OrvoPPD {
 public:
-    using GroupRanges = QList<std::pair<QString, OrvoPPDRange>>;
+    using GroupRanges = OrvoPPDKeywordScan::GroupRanges;
 
     static constexpr char openErrorFormat[] = "[Driver] PPD file open Error!!! - %1";
-    static constexpr char generalGroup[] = "General";
     static constexpr char installedPPDFormat[] = "/etc/cups/ppd/%1.ppd";
 
     // Reading. Null when the file is not UTF-8 text, has no option, or has an
@@ -28,7 +24,7 @@ public:
     static ppd_file_t *ppdOpenFile(const char *path);
     static void ppdClose(ppd_file_t *ppd);
 
-    // Scanning a PPD text.
+    // Scanning a PPD text (OrvoPPDKeywordScan's scans).
     static QStringList groupKeyword(const QString &text);
     static OrvoPPDRange groupRange(const QString &text, const QString &keyword);
     // The group whose range holds the item's location, else "General".

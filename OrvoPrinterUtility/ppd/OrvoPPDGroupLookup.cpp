@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <set>
 
-OrvoPPDGroupLookup::OrvoPPDGroupLookup(const OrvoPPD::GroupRanges &ranges)
+OrvoPPDGroupLookup::OrvoPPDGroupLookup(const OrvoPPDKeywordScan::GroupRanges &ranges)
     : ranges(ranges) {
     // (position, group, opens) for every non-empty range, swept in order.
     std::vector<std::tuple<qsizetype, qsizetype, bool>> events;
@@ -34,6 +34,6 @@ QString OrvoPPDGroupLookup::find(OrvoPPDRange itemRange) const {
         pieces.begin(), pieces.end(), itemRange.location,
         [](qsizetype location, const Piece &piece) { return location < piece.start; });
     if (after == pieces.begin() || (after - 1)->group < 0)
-        return QString::fromLatin1(OrvoPPD::generalGroup);
+        return QString::fromLatin1(OrvoPPDKeywordScan::generalGroup);
     return ranges[(after - 1)->group].first;
 }

@@ -1,16 +1,16 @@
 #pragma once
 
-#include "OrvoPPD.h"
+#include "OrvoPPDKeywordScan.h"
 
 #include <vector>
 
-// The group an option belongs to, as OrvoPPD::findGroupKey finds it (the
+// The group an option belongs to, as OrvoPPDKeywordScan::findGroupKey finds it (the
 // first group in order whose range holds the location), without trying every
 // group for every option: the ranges are cut once into pieces, each knowing
 // its first containing group, and a location is found by binary search.
 class OrvoPPDGroupLookup {
 public:
-    explicit OrvoPPDGroupLookup(const OrvoPPD::GroupRanges &ranges);
+    explicit OrvoPPDGroupLookup(const OrvoPPDKeywordScan::GroupRanges &ranges);
     QString find(OrvoPPDRange itemRange) const;
 
 private:
@@ -19,6 +19,6 @@ private:
         qsizetype group; // index into ranges, -1 for none
     };
 
-    OrvoPPD::GroupRanges ranges;
+    OrvoPPDKeywordScan::GroupRanges ranges;
     std::vector<Piece> pieces;
 };

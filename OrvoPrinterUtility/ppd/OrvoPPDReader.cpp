@@ -1,19 +1,41 @@
 #include "OrvoPPDReader.h"
 
 #include "OrvoPPDGroupLookup.h"
+#include "OrvoPPDLogging.h"
+#include "OrvoPPDStructure.h"
 
 namespace {
 
 constexpr QStringView customChoice = u"Custom";
 constexpr QStringView pageRegion = u"PageRegion";
+constexpr QStringView advancedGroupEnd = u"*CloseGroup: Advanced";
 
 } // namespace
+
+QString OrvoPPDReader::readPart(QString text) {
+    const qsizetype cut = text.indexOf(advancedGroupEnd);
+    if (cut >= 0)
+        text.truncate(cut + advancedGroupEnd.size());
+    return text;
+}
+
+ppd_file_t *OrvoPPDReader::createStructure(QString text) {
+    const QString part = readPart(std::move(text));
+    const OrvoPPDScanIndex index(part);
+    const std::optional<OrvoPPDModel> model = read(part, index);
+    if (!model) {
+        qCInfo(orvoPPD) << "no option, or an option without choices, in" << part.size()
+                        << "characters read";
+        return nullptr;
+    }
+    return OrvoPPDStructure::create(*model, index.attributes());
+}
 
 std::optional<OrvoPPDModel> OrvoPPDReader::read(const QString &text,
                                                 const OrvoPPDScanIndex &index) {
     OrvoPPDModel model;
     model.groupNames = index.groupKeywords();
-    OrvoPPD::GroupRanges ranges;
+    OrvoPPDKeywordScan::GroupRanges ranges;
     for (const QString &name : std::as_const(model.groupNames)) {
         if (model.groups.contains(name))
             continue;

@@ -1,7 +1,6 @@
 #include "OrvoPPDScanIndex.h"
 
-#include "OrvoPPD.h"
-#include "OrvoPPDRegex.h"
+#include "OrvoPPDKeywordScan.h"
 
 #include <QSet>
 
@@ -15,10 +14,6 @@ constexpr QStringView openUITag = u"*OpenUI";
 constexpr QStringView closeUITag = u"*CloseUI:";
 constexpr QStringView customTag = u"*Custom";
 constexpr QStringView optionKeywordTag = u"OpenUI *";
-constexpr QStringView optionTextPattern = u"\\*OpenUI.*\\*%@?/(.*):";
-constexpr QStringView defaultChoicePattern = u"\\*Default%@:[ ]*(.*)";
-constexpr QStringView choicePattern = u"\\*%@[ ]+(.*?)/(.*?):.*\"(.*)\"";
-constexpr QStringView customChoicePattern = u"\\*Custom%@[ ]+(.*?):.*\"(.*)\"";
 constexpr QStringView expressionSyntax = u"\\^$.|?*+()[]{}#/";
 
 // Every position of a literal in the text, in order.
@@ -59,15 +54,6 @@ template <typename Key, typename Value>
 void insertFirst(QHash<Key, Value> &hash, const Key &key, const Value &value) {
     if (!hash.contains(key))
         hash.insert(key, value);
-}
-
-std::optional<QStringView> lastCapture(const QString &text, OrvoPPDRange range, QStringView pattern,
-                                       const QString &keyword) {
-    const auto match = OrvoPPDRegex(OrvoPPDRegex::format(pattern, {keyword}))
-                           .findLast(text, range.location, range.end());
-    if (!match || !match->has(1))
-        return std::nullopt;
-    return match->capture(text, 1);
 }
 
 void addLine(std::vector<qsizetype> &lines, qsizetype line) {
@@ -163,7 +149,7 @@ void OrvoPPDScanIndex::indexGroups() {
             nextLine = lineEnd(stop);
         }
     }
-    groups.prepend(QStringLiteral("General"));
+    groups.prepend(QString::fromLatin1(OrvoPPDKeywordScan::generalGroup));
     const QList<qsizetype> lengths = plainLengths(groups);
     for (const qsizetype at : occurrences(view, closeGroupTag)) {
         const qsizetype name = skipBlanks(at + closeGroupTag.size());
@@ -253,7 +239,7 @@ void OrvoPPDScanIndex::indexCustomLines() {
 
 OrvoPPDRange OrvoPPDScanIndex::groupRange(const QString &name) const {
     if (!isPlain(name))
-        return OrvoPPD::groupRange(text, name);
+        return OrvoPPDKeywordScan::groupRange(text, name);
     const auto whole = openGroupFirst.constFind(name);
     const auto shorter = openGroupFirst.constFind(QStringView(name).chopped(1));
     const auto close = closeGroupFirst.constFind(name);
@@ -269,7 +255,7 @@ OrvoPPDRange OrvoPPDScanIndex::groupRange(const QString &name) const {
 
 OrvoPPDRange OrvoPPDScanIndex::optionRange(const QString &keyword) const {
     if (!isPlain(keyword))
-        return OrvoPPD::optionRagne(text, keyword);
+        return OrvoPPDKeywordScan::optionRange(text, keyword);
     const qsizetype line = qMax(lastOf(openLinesByName, keyword),
                                 lastOf(openLinesByName, QStringView(keyword).chopped(1)));
     OrvoPPDRange start;
@@ -287,20 +273,8 @@ OrvoPPDRange OrvoPPDScanIndex::followingOpenEnd(OrvoPPDRange start) const {
     const auto next = std::lower_bound(openOccurrences.begin(), openOccurrences.end(), start.end());
     if (next == openOccurrences.end())
         return OrvoPPDRange::unite(start, {});
-    return uniteWithLineBefore(text, start,
-                               QStringView(text).sliced(*next, lineEnd(*next) - *next));
-}
-
-// The option without a close line ends on the character before the first
-// place where the following "*OpenUI" line's text occurs. When that place is
-// the text's very start there is no character before it, and the option is
-// its start line alone.
-OrvoPPDRange OrvoPPDScanIndex::uniteWithLineBefore(QStringView text, OrvoPPDRange start,
-                                                   QStringView followingLine) {
-    const qsizetype first = text.indexOf(followingLine);
-    if (first == 0)
-        return start;
-    return OrvoPPDRange::unite(start, {first - 1, 1});
+    return OrvoPPDKeywordScan::uniteWithLineBefore(
+        text, start, QStringView(text).sliced(*next, lineEnd(*next) - *next));
 }
 
 OrvoPPDScanIndex::Line OrvoPPDScanIndex::lineWithin(qsizetype position, OrvoPPDRange range) const {
@@ -346,7 +320,7 @@ qsizetype OrvoPPDScanIndex::translationSlash(qsizetype from, qsizetype before,
 std::optional<QStringView> OrvoPPDScanIndex::optionText(const QString &keyword,
                                                         OrvoPPDRange range) const {
     if (!isPlain(keyword))
-        return lastCapture(text, range, optionTextPattern, keyword);
+        return OrvoPPDKeywordScan::optionText(text, keyword, range);
     auto next = std::lower_bound(openOccurrences.begin(), openOccurrences.end(),
                                  range.end() - openUITag.size() + 1);
     const auto first =
@@ -370,7 +344,7 @@ std::optional<QStringView> OrvoPPDScanIndex::optionText(const QString &keyword,
 std::optional<QStringView> OrvoPPDScanIndex::defaultChoice(const QString &keyword,
                                                            OrvoPPDRange range) const {
     if (!isPlain(keyword))
-        return lastCapture(text, range, defaultChoicePattern, keyword);
+        return OrvoPPDKeywordScan::defaultChoice(text, keyword, range);
     const QString needle = QStringLiteral("*Default") + keyword + u':';
     const QStringView own = QStringView(text).sliced(range.location, range.length);
     const qsizetype last = own.lastIndexOf(needle);
@@ -386,16 +360,9 @@ std::optional<QStringView> OrvoPPDScanIndex::defaultChoice(const QString &keywor
 
 QList<OrvoPPDModel::Choice> OrvoPPDScanIndex::choices(const QString &keyword,
                                                       OrvoPPDRange range) const {
+    if (!isPlain(keyword))
+        return OrvoPPDKeywordScan::choices(text, keyword, range);
     QList<OrvoPPDModel::Choice> found;
-    auto add = [&](QStringView key, QStringView text, QStringView code) {
-        found.append({key, text, code});
-    };
-    if (!isPlain(keyword)) {
-        const OrvoPPDRegex choice(OrvoPPDRegex::format(choicePattern, {keyword}));
-        for (const OrvoPPDRegex::Match &match : choice.findAll(text, range.location, range.end()))
-            add(match.capture(text, 1), match.capture(text, 2), match.capture(text, 3));
-        return found;
-    }
     // One match at most per line, from the line's first "*keyword ".
     const QString needle = u'*' + keyword + u' ';
     const QStringView own = QStringView(text).sliced(range.location, range.length);
@@ -407,9 +374,10 @@ QList<OrvoPPDModel::Choice> OrvoPPDScanIndex::choices(const QString &keyword,
         const qsizetype slash = QStringView(text).sliced(key, line.end - key).indexOf(u'/');
         if (slash >= 0) {
             if (const auto code = quotedCode(line, key + slash + 1))
-                add(QStringView(text).sliced(key, slash),
-                    QStringView(text).sliced(key + slash + 1, code->colon - key - slash - 1),
-                    QStringView(text).sliced(code->start, code->end - code->start));
+                found.append(
+                    {QStringView(text).sliced(key, slash),
+                     QStringView(text).sliced(key + slash + 1, code->colon - key - slash - 1),
+                     QStringView(text).sliced(code->start, code->end - code->start)});
         }
         at = line.end - range.location < own.size() ? own.indexOf(needle, line.end - range.location)
                                                     : -1;
@@ -418,13 +386,9 @@ QList<OrvoPPDModel::Choice> OrvoPPDScanIndex::choices(const QString &keyword,
 }
 
 QList<QStringView> OrvoPPDScanIndex::customCodes(const QString &keyword) const {
+    if (!isPlain(keyword))
+        return OrvoPPDKeywordScan::customCodes(text, keyword);
     QList<QStringView> codes;
-    if (!isPlain(keyword)) {
-        const OrvoPPDRegex custom(OrvoPPDRegex::format(customChoicePattern, {keyword}));
-        for (const OrvoPPDRegex::Match &match : custom.findAll(text))
-            codes.append(match.capture(text, 2));
-        return codes;
-    }
     const auto lines = customLinesByName.constFind(keyword);
     if (lines == customLinesByName.constEnd())
         return codes;

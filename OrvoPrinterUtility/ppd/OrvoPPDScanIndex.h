@@ -12,10 +12,11 @@
 
 // The reader's scans, answered from one pass over the text instead of one pass
 // per option with several expressions. Each answer is the one the per-keyword
-// expression gives: the same last (or first) match, the keyword's optional
-// last character, the custom lines of the whole text. Every expression here
-// matches within one line, so the lines that hold its literal parts are the
-// only places to look. Keywords holding expression syntax take the expression.
+// expression of OrvoPPDKeywordScan gives: the same last (or first) match, the
+// keyword's optional last character, the custom lines of the whole text. Every
+// such expression matches within one line, so the lines that hold its literal
+// parts are the only places to look. Keywords holding expression syntax take
+// the expression.
 class OrvoPPDScanIndex {
 public:
     struct Attribute {
@@ -42,10 +43,6 @@ public:
     static bool isLineTerminator(QChar c);
     // Literal in an expression, so the keyword's lines can be found by text.
     static bool isPlain(QStringView keyword);
-    // The start range united with the character before the first occurrence
-    // of the following "*OpenUI" line.
-    static OrvoPPDRange uniteWithLineBefore(QStringView text, OrvoPPDRange start,
-                                            QStringView followingLine);
 
 private:
     struct Line {

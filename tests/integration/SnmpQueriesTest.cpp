@@ -3,6 +3,8 @@
 #include "OVSNMPHelper.h"
 #include "SimulatedPrinter.h"
 
+#include <QLoggingCategory>
+
 #include <gtest/gtest.h>
 
 #include <arpa/inet.h>
@@ -114,6 +116,33 @@ TEST(SnmpQueries, AnswersOfHealthyFaultyAndSlowPrinters) {
         const int requests = printer.requestCount() - before;
         EXPECT_TRUE(boxes == 100 ? requests == 1 : requests > 1) << boxes << ": " << requests;
     }
+}
+
+// A failed request logs Net-SNMP's own reason to the core's category.
+TEST(SnmpQueries, FailuresLogNetSnmpsReason) {
+    P printer;
+    ASSERT_TRUE(printer.start()) << printer.errorText().toStdString();
+    const QByteArray ip = P::loopbackAddress().toLatin1();
+    static QStringList lines;
+    QLoggingCategory::setFilterRules("orvo.core.info=true");
+    const QtMessageHandler previous = qInstallMessageHandler(
+        [](QtMsgType, const QMessageLogContext &context, const QString &line) {
+            if (qstrcmp(context.category, "orvo.core") == 0)
+                lines << line;
+        });
+    const std::tuple<QByteArray, P::Value, Query, const char *> cases[] = {
+        {P::nameOid(P::Table::Form, 50), {}, Forms, "refused: (noSuchName)"},
+        {"silent", 1L, SleepMode, "failed: Timeout"}};
+    for (const auto &[oid, value, query, reason] : cases) {
+        printer.setDefaults();
+        printer.set(oid, value);
+        lines.clear();
+        ask(query, ip);
+        EXPECT_TRUE(lines.join('|').startsWith("SNMP request to " + ip + ' ' + reason))
+            << lines.join('|').toStdString();
+    }
+    qInstallMessageHandler(previous);
+    QLoggingCategory::setFilterRules({});
 }
 
 // The elements inside a constructed BER element of a request Net-SNMP built

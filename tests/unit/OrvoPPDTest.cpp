@@ -4,6 +4,7 @@
 #include "OrvoPPDRegex.h"
 #include "OrvoPPDScanIndex.h"
 #include "OrvoPPDTestSupport.h"
+#include "OrvoPPD_Interface.h"
 
 #include <QCoreApplication>
 #include <QCryptographicHash>
@@ -269,7 +270,8 @@ TEST(OrvoPPDScanEquivalence, IndexAnswersAsThePerKeywordExpressions) {
 // attributes without option keyword or translation libcups reads and ours does not.
 std::string differenceFromLibcups(const char *path) {
     const OpenedPPD ours(OrvoPPD::ppdOpenFile(path));
-    const std::unique_ptr<ppd_file_t, decltype(&ppdClose)> theirs(ppdOpenFile(path), &ppdClose);
+    const std::unique_ptr<ppd_file_t, decltype(&r_ppdClose)> theirs(r_ppdOpenFile(path),
+                                                                    &r_ppdClose);
     if (!ours || !theirs)
         return "-";
     std::set<std::string> here, there;
@@ -282,8 +284,8 @@ std::string differenceFromLibcups(const char *path) {
     for (const ppd_group_t &group : std::span(ours->groups, size_t(ours->num_groups)))
         for (const ppd_option_t &option : std::span(group.options, size_t(group.num_options)))
             addOption(here, option);
-    for (ppd_option_t *option = ppdFirstOption(theirs.get()); option;
-         option = ppdNextOption(theirs.get()))
+    for (ppd_option_t *option = r_ppdFirstOption(theirs.get()); option;
+         option = r_ppdNextOption(theirs.get()))
         addOption(there, *option);
     for (const ppd_attr_t *a : std::span(theirs->attrs, size_t(theirs->num_attrs)))
         if (!*a->spec && !*a->text)

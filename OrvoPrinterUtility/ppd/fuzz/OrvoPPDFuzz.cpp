@@ -20,12 +20,9 @@ bool fits(QStringView value, int limit) {
 // Whether the reader would stop on this text: the same reading, sizes only.
 bool readerStops(const QByteArray &bytes) {
     QStringDecoder decoder(QStringConverter::Utf8, QStringConverter::Flag::Stateless);
-    QString text = decoder.decode(bytes);
+    const QString text = OrvoPPDReader::readPart(decoder.decode(bytes));
     if (decoder.hasError())
         return false;
-    const qsizetype cut = text.indexOf(u"*CloseGroup: Advanced");
-    if (cut >= 0)
-        text.truncate(cut + 21);
     const OrvoPPDScanIndex index(text);
     const std::optional<OrvoPPDModel> model = OrvoPPDReader::read(text, index);
     if (!model)

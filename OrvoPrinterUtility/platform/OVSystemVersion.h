@@ -16,6 +16,8 @@ public:
     static void setPlistPath(const QString &path);
     // The "ProductVersion" string, or "" when the file or key is missing.
     static QString productVersion();
-    // major, middle and minor components; missing ones are 0.
-    static void components(int &major, int &middle, int &minor);
+    // The major, middle and minor components into the targets given (a null
+    // target is skipped). A component the version lacks leaves its target as
+    // it was, and so does a missing version.
+    static void components(int *major, int *middle, int *minor);
 };

@@ -47,9 +47,13 @@ QString OVSystemVersion::productVersion() {
     return readProductVersion(file);
 }
 
-void OVSystemVersion::components(int &major, int &middle, int &minor) {
-    const QStringList parts = productVersion().split('.');
-    int *targets[] = {&major, &middle, &minor};
-    for (int i = 0; i < 3; ++i)
-        *targets[i] = i < parts.size() ? parts[i].toInt() : 0;
+void OVSystemVersion::components(int *major, int *middle, int *minor) {
+    const QString version = productVersion();
+    if (version.isEmpty())
+        return;
+    const QStringList parts = version.split(u'.');
+    int *targets[] = {major, middle, minor};
+    for (qsizetype i = 0; i < 3 && i < parts.size(); ++i)
+        if (targets[i])
+            *targets[i] = parts[i].toInt();
 }

@@ -1,7 +1,16 @@
 #include "OrvoPPD_Interface.h"
 
+#include "OVPlatformLogging.h"
+
 ppd_file_t *r_ppdOpenFile(const char *filename) {
-    return ppdOpenFile(filename);
+    ppd_file_t *ppd = ppdOpenFile(filename);
+    if (!ppd) {
+        int line = 0;
+        const ppd_status_t status = ppdLastError(&line);
+        qCInfo(orvoPlatform) << "libcups cannot read the PPD" << filename << ":"
+                             << ppdErrorString(status) << "on line" << line;
+    }
+    return ppd;
 }
 
 void r_ppdClose(ppd_file_t *ppd) {
@@ -18,6 +27,14 @@ ppd_attr_t *r_ppdFindAttr(ppd_file_t *ppd, const char *name, const char *qualifi
 
 ppd_option_t *r_ppdFindOption(ppd_file_t *ppd, const char *keyword) {
     return ppdFindOption(ppd, keyword);
+}
+
+ppd_option_t *r_ppdFirstOption(ppd_file_t *ppd) {
+    return ppdFirstOption(ppd);
+}
+
+ppd_option_t *r_ppdNextOption(ppd_file_t *ppd) {
+    return ppdNextOption(ppd);
 }
 
 ppd_choice_t *r_ppdFindChoice(ppd_option_t *option, const char *choice) {
@@ -37,7 +54,11 @@ ppd_choice_t *r_ppdFindMarkedChoice(ppd_file_t *ppd, const char *keyword) {
 }
 
 const char *r_cupsGetPPD2(http_t *http, const char *name) {
-    return cupsGetPPD2(http, name);
+    const char *path = cupsGetPPD2(http, name);
+    if (!path)
+        qCInfo(orvoPlatform) << "libcups cannot fetch the PPD of" << name << ":"
+                             << cupsLastErrorString();
+    return path;
 }
 
 int r_cupsMarkOptions(ppd_file_t *ppd, int numOptions, cups_option_t *options) {

@@ -1,0 +1,3 @@
+#include "OVCliLogging.h"
+
+Q_LOGGING_CATEGORY(orvoCli, "orvo.cli", QtWarningMsg)

@@ -1,0 +1,3 @@
+#include "OVCoreLogging.h"
+
+Q_LOGGING_CATEGORY(orvoCore, "orvo.core", QtWarningMsg)

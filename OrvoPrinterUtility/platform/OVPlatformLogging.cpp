@@ -1,0 +1,3 @@
+#include "OVPlatformLogging.h"
+
+Q_LOGGING_CATEGORY(orvoPlatform, "orvo.platform", QtWarningMsg)

@@ -1,0 +1,3 @@
+#include "OrvoPPDLogging.h"
+
+Q_LOGGING_CATEGORY(orvoPPD, "orvo.ppd", QtWarningMsg)
