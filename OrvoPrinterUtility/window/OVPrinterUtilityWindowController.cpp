@@ -2,45 +2,31 @@
 
 #include "OVAlert.h"
 #include "OVBackgroundTask.h"
+#include "OVControlsLock.h"
 #include "OVCustomRestrictedTextField.h"
 #include "OVInputHold.h"
 #include "OVLaunchEvent.h"
 #include "OVNotificationCenter.h"
 #include "OVPrinterUtilityHelper.h"
-#include "OVQueueSetup.h"
-#include "OVRestrictedTextField.h"
-#include "OVSNMPHelper.h"
 #include "OVSaveSizeCheck.h"
 #include "OVSettingsSnapshot.h"
+#include "OVSleep.h"
 #include "OVStoredSettings.h"
 #include "OVTableViewDataSource.h"
-#include "OVUpdateJob.h"
-#include "OVWakeOnLanHelper.h"
+#include "OVWindowLog.h"
+#include "OVWindowSetUp.h"
 #include "OVWindowTexts.h"
-#include "OrvoSNMPHelper.h"
 #include "OrvoSettingsKeywords.h"
 #include "ui_MainUtilityWindiw.h"
 
 #include <QCloseEvent>
 #include <QCoreApplication>
-#include <QGuiApplication>
-#include <QStyleHints>
 
 #include <mutex>
-#include <unistd.h>
 
 namespace {
 using namespace OVWindowTexts;
-
-const QString communityValidCharacters =
-    QStringLiteral(",./:;@[\\") + QChar(0x00A5) + QStringLiteral("]^_0123456789abcdefghijklmn") +
-    QChar(0x200B) + QStringLiteral("opqrstuvwxyzABCDEFGHIJKLMN") + QChar(0x200B) +
-    QStringLiteral("OPQRSTUVWXYZ");
-const QString communityInvalidCharacters = QStringLiteral("!\"#%%&'()*+-<=>?`{|}~");
-const QString hexDigits = QStringLiteral("0123456789ABCDEFabcdef");
-constexpr int communityMaxLength = 32;
-constexpr int macFieldMaxLength = 2;
-constexpr int ipAddressMaxLength = 39;
+using Step = OVPrinterInfoFetch::Step;
 
 std::mutex dictionaryMutex;
 std::optional<QVariantMap> &informationDictionary() {
@@ -59,7 +45,8 @@ OVPrinterUtilityWindowController::OVPrinterUtilityWindowController(QObject *pare
     connectActions();
 }
 
-// Observers registered with this controller as context leave with it.
+// Observers registered with this controller as context leave with it, and
+// so do the callbacks of its background calls.
 OVPrinterUtilityWindowController::~OVPrinterUtilityWindowController() = default;
 
 QWidget *OVPrinterUtilityWindowController::mainWindowObject() const {
@@ -105,9 +92,14 @@ void OVPrinterUtilityWindowController::applicationDidFinishLaunching(const QStri
     loadControls();
 }
 
+// A wake flow under way would keep the closing window for minutes: its sleeps
+// end now, and what it finds is no longer shown.
 void OVPrinterUtilityWindowController::windowWillClose(const QString &identifier) {
-    if (identifier == windowIdentifier)
-        closeButtonClicked(ui_->closeButton);
+    if (identifier != windowIdentifier)
+        return;
+    closing_ = true;
+    OVSleep::setInterrupted(true);
+    closeButtonClicked(ui_->closeButton);
 }
 
 bool OVPrinterUtilityWindowController::eventFilter(QObject *watched, QEvent *event) {
@@ -123,11 +115,17 @@ QString OVPrinterUtilityWindowController::localized(const char *key) const {
 // ---- controls ---------------------------------------------------------------
 
 void OVPrinterUtilityWindowController::loadControls() {
-    setUpWindowTitle();
-    setUpTexts();
-    setUpSettingsFields();
+    std::optional<QVariantMap> dictionary;
+    {
+        std::lock_guard lock(dictionaryMutex);
+        dictionary = informationDictionary();
+    }
+    OVWindowSetUp::setUpWindowTitle(window_.get(), dictionary);
+    OVWindowSetUp::setUpTexts(*ui_);
+    OVWindowSetUp::setUpSettingsFields(*ui_);
     showProgress(false);
-    setUpFolderTab();
+    OVWindowSetUp::setUpFolderTab(*ui_);
+    bAdminLoginModeEnabled_ = false;
     createDataSources();
     OVNotificationCenter::defaultCenter().addObserver(
         OVCustomRestrictedTextField::Notification,
@@ -135,93 +133,36 @@ void OVPrinterUtilityWindowController::loadControls() {
     loadDefaultFolderValues();
     loadDefaultSelectedFolderValues();
     loadOptionsFromPPD();
+}
+
+// The steps after the stored settings are in.
+void OVPrinterUtilityWindowController::finishLoading(
+    const std::optional<OVSettingsSnapshot> &settings) {
+    if (loading_)
+        loading_->release();
+    loading_.reset();
+    ui_->progressIndicatorText->setText(localized(GettingInformation));
+    showProgress(false);
+    if (settings)
+        applySettings(*settings);
     initAddDeleteState();
     registerFolderTableViewDataSource_->selectFirstRow();
     loadFormValues();
     loadBarcodeAreaDefinitionValues();
     loadColorProfileValues();
     setTabOrder();
+    emit settingsLoaded();
 }
 
-void OVPrinterUtilityWindowController::setUpWindowTitle() {
-    std::optional<QVariantMap> dictionary;
-    {
-        std::lock_guard lock(dictionaryMutex);
-        dictionary = informationDictionary();
-    }
-    if (!dictionary) {
-        window_->setWindowTitle(localized(DefaultTitle));
-        return;
-    }
-    const auto modelName = dictionary->constFind(ModelNameKey);
-    if (modelName != dictionary->constEnd())
-        window_->setWindowTitle(modelName->toString() + localized(UtilitySuffix));
-}
-
-void OVPrinterUtilityWindowController::setUpTexts() {
+QList<QWidget *> OVPrinterUtilityWindowController::settingsControls() const {
     Ui::MainUtilityWindiw &c = *ui_;
-    c.okButton->setText(localized(OK));
-    c.closeButton->setText(localized(Close));
-    c.introTextLabel->setText(localized(IntroText));
-    c.snmpCommunityCheck->setText(localized(SnmpCommunityName));
-    c.wakeOnLANCheck->setText(localized(WakeOnLan));
-    c.macAddressLabel->setText(localized(MacAddressLabel));
-    c.overstepTheRouter->setText(localized(OverTheRouter));
-    c.printerIPAddressLabel->setText(localized(IPAddressLabel));
-    c.printerGetPrinterInfoButton->setText(localized(GetPrinterInfo));
-    c.progressIndicatorText->setText(localized(GettingInformation));
-    c.meinTabView->setTabText(c.meinTabView->indexOf(c.folderTabViewItem), localized(FolderTab));
-    c.meinTabView->setTabText(c.meinTabView->indexOf(c.formTabViewItem), localized(FormTab));
-    c.meinTabView->setTabText(c.meinTabView->indexOf(c.barcodeAreaDefinitionTabViewItem),
-                              localized(BarcodeTab));
-    c.meinTabView->setTabText(c.meinTabView->indexOf(c.colorProfileTabViewItem),
-                              localized(ColorProfileTab));
-    c.formLabel->setText(localized(FormTab));
-    c.barcodeAreaDefinitionLabel->setText(localized(BarcodeTab));
-    c.colorProfileLabel->setText(localized(ColorProfileTab));
-    for (QPushButton *button :
-         {c.folderGetPrinterInfoButton, c.formGetPrinterInfoButton,
-          c.barcodeAreaDefinitionGetPrinterInfoButton, c.colorProfileGetPrinterInfoButton})
-        button->setText(localized(GetPrinterInfo));
-    for (QPushButton *button : {c.folderClearButton, c.formClearButton,
-                                c.barcodeAreaDefinitionClearButton, c.colorProfileClearButton})
-        button->setText(localized(Clear));
-}
-
-void OVPrinterUtilityWindowController::setUpSettingsFields() {
-    Ui::MainUtilityWindiw &c = *ui_;
-    c.snmpCommunityCheck->setChecked(false);
-    c.snmpCommunityText->setValidCharacters(communityValidCharacters);
-    c.snmpCommunityText->setInvalidCharacters(communityInvalidCharacters);
-    c.snmpCommunityText->setMaxLength(communityMaxLength);
-    c.snmpCommunityText->showMessageIfInvalid(true);
-    c.snmpCommunityText->setInvalidMessageString(localized(ProhibitCharacter), QString(""));
-    c.snmpCommunityText->setText(OrvoSettingsKeywords::DefaultCommunity);
-    c.snmpCommunityText->setEnabled(false);
-    c.wakeOnLANCheck->setChecked(true);
-    for (OVCustomRestrictedTextField *field :
-         {c.macAddressText1, c.macAddressText2, c.macAddressText3, c.macAddressText4,
-          c.macAddressText5, c.macAddressText6}) {
-        field->setValidCharacters(hexDigits);
-        field->setMaxEditableTextLength(macFieldMaxLength);
-        field->setText("00");
-        field->setSendNotification(true);
-    }
-    c.overstepTheRouter->setChecked(false);
-    c.printerIPAddressText->setMaxEditableTextLength(ipAddressMaxLength);
-    c.printerIPAddressText->setText(QString(""));
-}
-
-void OVPrinterUtilityWindowController::setUpFolderTab() {
-    Ui::MainUtilityWindiw &c = *ui_;
-    c.folderSharedFolderLabel->setText(localized(SharedFolderInPrinter));
-    c.folderRegisterFolderLabel->setText(localized(RegisterFolder));
-    c.folderAddButton->setText(localized(Add));
-    c.folderDeleteButton->setText(localized(Delete));
-    c.folderPersonalFolderCheck->setText(localized(UsePersonalFolder));
-    c.folderPersonalFolderCheck->setEnabled(false);
-    c.folderPersonalFolderCheck->setChecked(false);
-    bAdminLoginModeEnabled_ = false;
+    QList<QWidget *> controls = {c.snmpCommunityCheck,   c.snmpCommunityText,
+                                 c.wakeOnLANCheck,       c.overstepTheRouter,
+                                 c.printerIPAddressText, c.printerGetPrinterInfoButton,
+                                 c.meinTabView,          c.okButton};
+    for (QLineEdit *field : macAddressFields())
+        controls << field;
+    return controls;
 }
 
 void OVPrinterUtilityWindowController::createDataSources() {
@@ -230,9 +171,7 @@ void OVPrinterUtilityWindowController::createDataSources() {
           &formTableViewDataSource_, &barcodeAreaDefinitionTableViewDataSource_,
           &colorProfileTableViewDataSource_})
         *dataSource = std::make_unique<OVTableViewDataSource>();
-    allSharedBoxNames_.clear();
-    selectedSharedBoxNames_.clear();
-    selectedSharedBoxIndex_.clear();
+    folders_ = OVFolderSelection();
 }
 
 void OVPrinterUtilityWindowController::connectActions() {
@@ -334,34 +273,8 @@ QByteArray OVPrinterUtilityWindowController::getSnmpCommunityFromUI() const {
     return text.toUtf8();
 }
 
-QString OVPrinterUtilityWindowController::queryCommunity() const {
-    return QString::fromUtf8(getSnmpCommunityFromUI());
-}
-
-QByteArray OVPrinterUtilityWindowController::queryAddress() const {
-    return ui_->printerIPAddressText->text().toUtf8();
-}
-
-// With "tab focus reaches all controls" every control is in the chain;
-// otherwise Tab moves between the text fields only.
 void OVPrinterUtilityWindowController::setTabOrder() {
-    Ui::MainUtilityWindiw &c = *ui_;
-    const bool allControls =
-        QGuiApplication::styleHints()->tabFocusBehavior() == Qt::TabFocusAllControls;
-    QList<QWidget *> chain;
-    if (allControls)
-        chain = {c.snmpCommunityCheck, c.snmpCommunityText,    c.wakeOnLANCheck,
-                 c.macAddressText1,    c.macAddressText2,      c.macAddressText3,
-                 c.macAddressText4,    c.macAddressText5,      c.macAddressText6,
-                 c.overstepTheRouter,  c.printerIPAddressText, c.printerGetPrinterInfoButton,
-                 c.meinTabView,        c.closeButton,          c.okButton};
-    else
-        chain = {c.snmpCommunityText, c.macAddressText1, c.macAddressText2, c.macAddressText3,
-                 c.macAddressText4,   c.macAddressText5, c.macAddressText6, c.printerIPAddressText};
-    for (qsizetype i = 0; i + 1 < chain.size(); ++i)
-        QWidget::setTabOrder(chain[i], chain[i + 1]);
-    QWidget::setTabOrder(chain.last(), chain.first());
-    chain.first()->setFocus();
+    OVWindowSetUp::setTabOrder(*ui_);
 }
 
 // ---- loading ----------------------------------------------------------------
@@ -379,11 +292,8 @@ void OVPrinterUtilityWindowController::loadDefaultFolderValues() {
 }
 
 void OVPrinterUtilityWindowController::loadDefaultSelectedFolderValues() {
-    selectedSharedBoxIndex_ = {0};
-    selectedFolderTableViewDataSource_->setElementsArray(
-        QStringList{OVStoredSettings::defaultFolderName(1)});
-    loadSelectedFolderValues();
-    selectedFolderTableViewDataSource_->selectLastRow();
+    folders_.clear();
+    showSelectedFolders();
 }
 
 void OVPrinterUtilityWindowController::bindTable(OVTableViewDataSource *dataSource,
@@ -413,63 +323,58 @@ void OVPrinterUtilityWindowController::loadColorProfileValues() {
     bindTable(colorProfileTableViewDataSource_.get(), ui_->colorProfileTable);
 }
 
-// A missing server, queue, PPD or attribute is never an error: the window
-// keeps its defaults.
+// The window shows at once with its settings off while the print server is
+// asked. A missing server, queue, PPD or attribute is never an error: the
+// window keeps its defaults.
 void OVPrinterUtilityWindowController::loadOptionsFromPPD() {
-    OVStoredSettings::withQueuePPD(printerID_, [this](ppd_file_t *ppd) { readSettings(ppd); });
+    if (!loading_)
+        loading_ = std::make_unique<OVControlsLock>(settingsControls());
+    ui_->progressIndicatorText->setText(localized(LoadingSettings));
+    showProgress(true);
+    OVBackgroundTask::run(
+        this,
+        [printerID = printerID_]() -> std::optional<OVSettingsSnapshot> {
+            OVSettingsSnapshot settings;
+            const auto status = OVStoredSettings::load(printerID, settings);
+            qCDebug(orvoWindow) << "settings of" << printerID << "loaded:" << int(status);
+            if (status != OVStoredSettings::Status::Loaded)
+                return std::nullopt;
+            return settings;
+        },
+        [this](const std::optional<OVSettingsSnapshot> &settings) { finishLoading(settings); });
 }
 
-void OVPrinterUtilityWindowController::readSettings(ppd_file_t *ppd) {
+void OVPrinterUtilityWindowController::applySettings(const OVSettingsSnapshot &s) {
     Ui::MainUtilityWindiw &c = *ui_;
-    c.snmpCommunityCheck->setChecked(OrvoSNMPHelper::isCustomSnmpCommunity(ppd));
-    c.snmpCommunityText->setText(OrvoSNMPHelper::snmpCommunityName(ppd));
+    c.snmpCommunityCheck->setChecked(s.snmpCommunityCheck);
+    c.snmpCommunityText->setText(s.snmpCommunityText);
     constraintsSnmpItems();
-    c.wakeOnLANCheck->setChecked(OrvoSNMPHelper::isWakeOnLan(ppd));
-    setMacAddressStr(OrvoSNMPHelper::getPrinterMacAddress(ppd));
+    c.wakeOnLANCheck->setChecked(s.wakeOnLANCheck);
+    for (int i = 0; i < macFieldCount; ++i)
+        macAddressFields()[i]->setText(s.macAddressFields[i]);
     constraintsWakeOnLanItems();
-    c.overstepTheRouter->setChecked(OrvoSNMPHelper::isOverTheRouter(ppd));
-    c.printerIPAddressText->setText(OrvoSNMPHelper::getPrinterIPAddress(ppd));
-    readFolderSettings(ppd);
-    readListSettings(ppd);
+    c.overstepTheRouter->setChecked(s.overstepTheRouter);
+    c.printerIPAddressText->setText(s.printerIPAddressText);
+    applyFolderSettings(s);
+    applyListSettings(s);
 }
 
-void OVPrinterUtilityWindowController::readFolderSettings(ppd_file_t *ppd) {
-    const QStringList shared = OrvoSNMPHelper::getSharedBoxDetailsArray(ppd);
-    if (!shared.isEmpty()) {
-        registerFolderTableViewDataSource_->setElementsArray(shared);
-        loadFolderValues();
-        registerFolderTableViewDataSource_->selectLastRow();
-    } else {
-        loadDefaultFolderValues();
-    }
-    isPPDOptionsUpdated_ = OrvoSNMPHelper::isPPDOptionsUpdated(ppd);
-    const QStringList chosen = isPPDOptionsUpdated_
-                                   ? OrvoSNMPHelper::getSelectedSharedBoxDetailsArray(ppd)
-                                   : QStringList{OVStoredSettings::defaultFolderName(1)};
-    selectedFolderTableViewDataSource_->setElementsArray(chosen);
-    loadSelectedFolderValues();
-    selectedFolderTableViewDataSource_->selectLastRow();
-    const QList<qint32> indices = OrvoSNMPHelper::getSelectedSharedBoxIndexArray(ppd);
-    if (!indices.isEmpty())
-        selectedSharedBoxIndex_ = indices;
-    updateStringArrays();
-    ui_->folderPersonalFolderCheck->setChecked(OrvoSNMPHelper::isPersonalFolderSelected(ppd));
-    bAdminLoginModeEnabled_ = OrvoSNMPHelper::isAdminLoginModeEnabled(ppd);
+void OVPrinterUtilityWindowController::applyFolderSettings(const OVSettingsSnapshot &s) {
+    isPPDOptionsUpdated_ = s.isPPDOptionsUpdated;
+    folders_.load(s);
+    showRegisterFolders();
+    registerFolderTableViewDataSource_->selectLastRow();
+    showSelectedFolders();
+    ui_->folderPersonalFolderCheck->setChecked(s.folderPersonalFolderCheck);
+    bAdminLoginModeEnabled_ = s.bAdminLoginModeEnabled;
     ui_->folderPersonalFolderCheck->setEnabled(bAdminLoginModeEnabled_);
-    if (!bAdminLoginModeEnabled_)
-        ui_->folderPersonalFolderCheck->setChecked(false);
 }
 
-void OVPrinterUtilityWindowController::readListSettings(ppd_file_t *ppd) {
-    showList(formTableViewDataSource_.get(), ui_->formTable,
-             OrvoSNMPHelper::getFormDetailsArray(ppd));
-    loadFormValues();
+void OVPrinterUtilityWindowController::applyListSettings(const OVSettingsSnapshot &s) {
+    showList(formTableViewDataSource_.get(), ui_->formTable, s.formNames);
     showList(barcodeAreaDefinitionTableViewDataSource_.get(), ui_->barcodeAreaDefinitionTable,
-             OrvoSNMPHelper::getBarcodeAreaDefinitionDetailsArray(ppd));
-    loadBarcodeAreaDefinitionValues();
-    showList(colorProfileTableViewDataSource_.get(), ui_->colorProfileTable,
-             OrvoSNMPHelper::getColorProfileDetailsArray(ppd));
-    loadColorProfileValues();
+             s.barcodeAreaDefinitionNames);
+    showList(colorProfileTableViewDataSource_.get(), ui_->colorProfileTable, s.colorProfileNames);
 }
 
 void OVPrinterUtilityWindowController::showList(OVTableViewDataSource *dataSource,
@@ -479,9 +384,22 @@ void OVPrinterUtilityWindowController::showList(OVTableViewDataSource *dataSourc
     dataSource->selectFirstRow();
 }
 
+void OVPrinterUtilityWindowController::showRegisterFolders() {
+    registerFolderTableViewDataSource_->setElementsArray(folders_.allSharedBoxNames());
+    loadFolderValues();
+}
+
+void OVPrinterUtilityWindowController::showSelectedFolders() {
+    selectedFolderTableViewDataSource_->setElementsArray(folders_.selectedSharedBoxNames());
+    loadSelectedFolderValues();
+    selectedFolderTableViewDataSource_->selectLastRow();
+}
+
 // ---- saving -----------------------------------------------------------------
 
 void OVPrinterUtilityWindowController::okButtonClicked(QObject *) {
+    if (saving_)
+        return;
     updateStringArrays();
     isPPDOptionsUpdated_ = true;
     // cupsd hands all job options to the filter in one argument, which the
@@ -493,16 +411,20 @@ void OVPrinterUtilityWindowController::okButtonClicked(QObject *) {
         showTooLongMessage(tooLong);
         return;
     }
-    // On a queue that is not set up the update job would be printed, and the
-    // settings lost: say so and keep the window open with everything set.
-    if (OVQueueSetup::state(printerID_) == OVQueueSetup::State::NotSetUp) {
-        OVAlert::alertWithMessageText(localized(QueueNotSetUp).arg(printerID_), localized(OK),
-                                      QString(), QString(), OVAlert::PlainMessageFormat, {})
-            ->runModal();
+    saveOptionsToPPD();
+}
+
+// On a queue that is not set up the settings would be lost: say so and keep
+// the window open with everything set. Otherwise the job is on its way.
+void OVPrinterUtilityWindowController::saved(OVSettingsSave::Outcome outcome) {
+    saving_ = false;
+    if (outcome == OVSettingsSave::Outcome::Submitted) {
+        closeButtonClicked(ui_->closeButton);
         return;
     }
-    saveOptionsToPPD();
-    closeButtonClicked(ui_->closeButton);
+    OVAlert::alertWithMessageText(localized(QueueNotSetUp).arg(printerID_), localized(OK),
+                                  QString(), QString(), OVAlert::PlainMessageFormat, {})
+        ->runModal();
 }
 
 void OVPrinterUtilityWindowController::showTooLongMessage(const QStringList &listKeys) {
@@ -520,7 +442,9 @@ void OVPrinterUtilityWindowController::closeButtonClicked(QObject *) {
 }
 
 void OVPrinterUtilityWindowController::saveOptionsToPPD() {
-    OVUpdateJob::saveOptionsToPPD(settingsSnapshot(), printerID_);
+    saving_ = true;
+    OVSettingsSave::save(this, settingsSnapshot(), printerID_,
+                         [this](OVSettingsSave::Outcome outcome) { saved(outcome); });
 }
 
 OVSettingsSnapshot OVPrinterUtilityWindowController::settingsSnapshot() const {
@@ -534,9 +458,9 @@ OVSettingsSnapshot OVPrinterUtilityWindowController::settingsSnapshot() const {
         s.macAddressFields[i] = macAddressFields()[i]->text();
     s.overstepTheRouter = c.overstepTheRouter->isChecked();
     s.printerIPAddressText = c.printerIPAddressText->text();
-    s.allSharedBoxNames = allSharedBoxNames_;
-    s.selectedSharedBoxNames = selectedSharedBoxNames_;
-    s.selectedSharedBoxIndex = selectedSharedBoxIndex_;
+    s.allSharedBoxNames = folders_.allSharedBoxNames();
+    s.selectedSharedBoxNames = folders_.selectedSharedBoxNames();
+    s.selectedSharedBoxIndex = folders_.selectedSharedBoxIndex();
     s.folderPersonalFolderCheck = c.folderPersonalFolderCheck->isChecked();
     s.bAdminLoginModeEnabled = bAdminLoginModeEnabled_;
     s.formNames = formTableViewDataSource_->getElementsArray();
@@ -548,19 +472,14 @@ OVSettingsSnapshot OVPrinterUtilityWindowController::settingsSnapshot() const {
 // ---- folder selection -------------------------------------------------------
 
 void OVPrinterUtilityWindowController::folderAddButtonClicked(QObject *) {
-    const qint32 row = registerFolderTableViewDataSource_->getSelectedRow();
-    selectedFolderTableViewDataSource_->addElement(
-        registerFolderTableViewDataSource_->getSelectedRowValue());
-    loadSelectedFolderValues();
-    selectedFolderTableViewDataSource_->selectLastRow();
-    selectedSharedBoxIndex_.append(row);
+    folders_.add(registerFolderTableViewDataSource_->getSelectedRow(),
+                 registerFolderTableViewDataSource_->getSelectedRowValue());
+    showSelectedFolders();
 }
 
 void OVPrinterUtilityWindowController::folderDeleteButtonClicked(QObject *) {
-    const qint32 row = selectedFolderTableViewDataSource_->getSelectedRow();
-    if (row >= 0 && row < selectedSharedBoxIndex_.size())
-        selectedSharedBoxIndex_.removeAt(row);
-    selectedFolderTableViewDataSource_->removeSelectedRow();
+    folders_.remove(selectedFolderTableViewDataSource_->getSelectedRow());
+    selectedFolderTableViewDataSource_->setElementsArray(folders_.selectedSharedBoxNames());
 }
 
 void OVPrinterUtilityWindowController::folderClearButtonClicked(QObject *) {
@@ -599,210 +518,14 @@ void OVPrinterUtilityWindowController::receiveTextFieldNotification() {
 }
 
 void OVPrinterUtilityWindowController::updateStringArrays() {
-    allSharedBoxNames_ = registerFolderTableViewDataSource_->getElementsArray();
-    selectedSharedBoxNames_ = selectedFolderTableViewDataSource_->getElementsArray();
+    OVSettingsSnapshot shown;
+    shown.allSharedBoxNames = registerFolderTableViewDataSource_->getElementsArray();
+    shown.selectedSharedBoxNames = selectedFolderTableViewDataSource_->getElementsArray();
+    shown.selectedSharedBoxIndex = folders_.selectedSharedBoxIndex();
+    folders_.load(shown);
 }
 
 void OVPrinterUtilityWindowController::updateSelectedArrayStrings() {
-    if (selectedSharedBoxIndex_.size() == selectedSharedBoxNames_.size()) {
-        for (qsizetype i = 0; i < selectedSharedBoxIndex_.size(); ++i) {
-            const qint32 n = selectedSharedBoxIndex_[i];
-            if (n >= 0 && n < allSharedBoxNames_.size())
-                selectedSharedBoxNames_[i] = allSharedBoxNames_[n];
-        }
-    }
-    selectedFolderTableViewDataSource_->setElementsArray(selectedSharedBoxNames_);
-    loadSelectedFolderValues();
-    selectedFolderTableViewDataSource_->selectLastRow();
-}
-
-// ---- fetching from the printer ----------------------------------------------
-
-void OVPrinterUtilityWindowController::showProgress(bool show) {
-    ui_->progressIndicatorText->setHidden(!show);
-    ui_->progressIndicatorText->repaint();
-    ui_->progressIndicator->setHidden(!show);
-}
-
-void OVPrinterUtilityWindowController::showFailedMessage() {
-    const QString text = localized(FailedToObtain);
-    auto alert = OVAlert::alertWithMessageText(text, localized(OK), QString(), QString(),
-                                               OVAlert::PlainMessageFormat, {text});
-    alert->runModal();
-}
-
-bool OVPrinterUtilityWindowController::wakeOnLanWrapper() {
-    Ui::MainUtilityWindiw &c = *ui_;
-    const QString address = c.printerIPAddressText->text();
-    const QString mac = macAddressFromFields();
-    const QString community = c.snmpCommunityCheck->isChecked()
-                                  ? c.snmpCommunityText->text()
-                                  : QString(OrvoSettingsKeywords::DefaultCommunity);
-    const bool wake = c.wakeOnLANCheck->isChecked();
-    const bool overRouter = c.overstepTheRouter->isChecked();
-    return OVBackgroundTask::wait([&] {
-        return OVWakeOnLanHelper::SnmpWakeUpOnLan(address, mac, community, wake, overRouter);
-    });
-}
-
-QString OVPrinterUtilityWindowController::macAddressFromFields() const {
-    QStringList texts;
-    for (const QLineEdit *field : macAddressFields())
-        texts << field->text();
-    return texts.join(':');
-}
-
-bool OVPrinterUtilityWindowController::passesFetchGuard() {
-    showProgress(true);
-    return ui_->printerIPAddressText->text() != QString("") && wakeOnLanWrapper();
-}
-
-void OVPrinterUtilityWindowController::failFetch() {
-    showProgress(false);
-    showFailedMessage();
-    bError_ = true;
-}
-
-void OVPrinterUtilityWindowController::getPrinterInfoButtonClicked(QObject *) {
-    showProgress(true);
-    bError_ = false;
-    Ui::MainUtilityWindiw &c = *ui_;
-    const std::pair<void (OVPrinterUtilityWindowController::*)(QObject *), QObject *> steps[] = {
-        {&OVPrinterUtilityWindowController::getPrinterInfoMacAddress, nullptr},
-        {&OVPrinterUtilityWindowController::folderGetPrinterInfoButtonClicked,
-         c.folderGetPrinterInfoButton},
-        {&OVPrinterUtilityWindowController::formGetPrinterInfoButtonClicked,
-         c.formGetPrinterInfoButton},
-        {&OVPrinterUtilityWindowController::barcodeAreaDefinitionGetPrinterInfoButtonClicked,
-         c.barcodeAreaDefinitionGetPrinterInfoButton},
-        {&OVPrinterUtilityWindowController::colorProfileGetPrinterInfoButtonClicked,
-         c.colorProfileGetPrinterInfoButton}};
-    for (const auto &[step, sender] : steps) {
-        if (bError_)
-            break;
-        (this->*step)(sender);
-    }
-    showProgress(false);
-}
-
-void OVPrinterUtilityWindowController::getPrinterInfoMacAddress(QObject *) {
-    if (!passesFetchGuard()) {
-        failFetch();
-        return;
-    }
-    const QByteArray address = queryAddress();
-    const QString community = queryCommunity();
-    const QString mac = OVBackgroundTask::wait(
-        [&] { return OVSNMPHelper::getMacAddress(address.constData(), community); });
-    if (mac.isNull()) {
-        failFetch();
-        return;
-    }
-    if (setMacAddressStr(mac))
-        constraintsWakeOnLanItems();
-    showProgress(false);
-}
-
-void OVPrinterUtilityWindowController::folderGetPrinterInfoButtonClicked(QObject *) {
-    if (!passesFetchGuard()) {
-        failFolderFetch();
-        return;
-    }
-    const QByteArray address = queryAddress();
-    const char *host = address.constData();
-    // The community is read afresh for every query, on this thread.
-    const auto community = [this] { return queryCommunity(); };
-    const int total = OVBackgroundTask::wait(
-        [&, c = community()] { return OVSNMPHelper::snmpGetSharedBoxEntryForIPAddress(host, c); });
-    const auto names = OVBackgroundTask::wait([&, c = community()] {
-        return OVSNMPHelper::getValidatedSharedBoxNameArrayForIPAddress(host, c, total);
-    });
-    const auto states = OVBackgroundTask::wait([&, c = community()] {
-        return OVSNMPHelper::getValidatedSharedBoxStateArrayForIPAddress(host, c, total);
-    });
-    applyFolderList(names, states);
-    bAdminLoginModeEnabled_ = OVBackgroundTask::wait(
-        [&, c = community()] { return OVSNMPHelper::getAdminLoginModeEnabled(host, c); });
-    ui_->folderPersonalFolderCheck->setEnabled(bAdminLoginModeEnabled_);
-    showProgress(false);
-    if (!names || !states)
-        failFolderFetch();
-}
-
-// Only folders in use (state "1") are offered; lists of different lengths
-// are left alone without a message.
-void OVPrinterUtilityWindowController::applyFolderList(const std::optional<QStringList> &names,
-                                                       const std::optional<QStringList> &states) {
-    if (!names || !states || names->isEmpty() || states->isEmpty() ||
-        names->size() != states->size())
-        return;
-    QStringList inUse;
-    for (qsizetype i = 0; i < states->size(); ++i) {
-        if (states->at(i) == QLatin1String("1"))
-            inUse << names->at(i);
-    }
-    allSharedBoxNames_ = inUse;
-    registerFolderTableViewDataSource_->setElementsArray(inUse);
-    updateStringArrays();
-    updateSelectedArrayStrings();
-}
-
-void OVPrinterUtilityWindowController::failFolderFetch() {
-    failFetch();
-    loadDefaultFolderValues();
-    loadDefaultSelectedFolderValues();
-}
-
-void OVPrinterUtilityWindowController::fetchList(ListQuery query,
-                                                 OVTableViewDataSource *dataSource) {
-    if (!passesFetchGuard()) {
-        failFetch();
-        return;
-    }
-    const QByteArray address = queryAddress();
-    const QString community = queryCommunity();
-    const auto list = OVBackgroundTask::wait([&] { return query(address.constData(), community); });
-    if (!list) {
-        failFetch();
-        return;
-    }
-    if (!list->isEmpty()) {
-        dataSource->setElementsArray(*list);
-        dataSource->selectFirstRow();
-    }
-    showProgress(false);
-}
-
-void OVPrinterUtilityWindowController::formGetPrinterInfoButtonClicked(QObject *) {
-    fetchList(&OVSNMPHelper::getValidatedFormNameArrayForIPAddress, formTableViewDataSource_.get());
-}
-
-void OVPrinterUtilityWindowController::barcodeAreaDefinitionGetPrinterInfoButtonClicked(QObject *) {
-    fetchList(&OVSNMPHelper::getValidatedBarcodeAreaNameArrayForIPAddress,
-              barcodeAreaDefinitionTableViewDataSource_.get());
-}
-
-void OVPrinterUtilityWindowController::colorProfileGetPrinterInfoButtonClicked(QObject *) {
-    fetchList(&OVSNMPHelper::getValidatedColorProfileForIPAddress,
-              colorProfileTableViewDataSource_.get());
-}
-
-void OVPrinterUtilityWindowController::formClearButtonClicked(QObject *) {
-    formTableViewDataSource_->setElementsArray(std::nullopt);
-}
-
-void OVPrinterUtilityWindowController::barcodeAreaDefinitionClearButtonClicked(QObject *) {
-    barcodeAreaDefinitionTableViewDataSource_->setElementsArray(std::nullopt);
-}
-
-void OVPrinterUtilityWindowController::colorProfileClearButtonClicked(QObject *) {
-    colorProfileTableViewDataSource_->setElementsArray(std::nullopt);
-}
-
-void OVPrinterUtilityWindowController::customSnmpCommunityClicked(QObject *) {
-    constraintsSnmpItems();
-}
-
-void OVPrinterUtilityWindowController::wakeOnLANCheckClicked(QObject *) {
-    constraintsWakeOnLanItems();
+    folders_.updateSelectedArrayStrings();
+    showSelectedFolders();
 }

@@ -507,5 +507,9 @@
         <source>Shared Folder 100</source>
         <translation>Freigegebener Ordner 100</translation>
     </message>
+    <message>
+        <source>Loading settings...</source>
+        <translation>Einstellungen werden geladen...</translation>
+    </message>
 </context>
 </TS>

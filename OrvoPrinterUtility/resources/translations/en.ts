@@ -507,5 +507,9 @@
         <source>Shared Folder 100</source>
         <translation>Shared Folder 100</translation>
     </message>
+    <message>
+        <source>Loading settings...</source>
+        <translation>Loading settings...</translation>
+    </message>
 </context>
 </TS>

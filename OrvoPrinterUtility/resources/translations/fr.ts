@@ -507,5 +507,9 @@
         <source>Shared Folder 100</source>
         <translation>Dossier partagé 100</translation>
     </message>
+    <message>
+        <source>Loading settings...</source>
+        <translation>Chargement des réglages...</translation>
+    </message>
 </context>
 </TS>

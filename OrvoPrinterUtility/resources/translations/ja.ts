@@ -507,5 +507,9 @@
         <source>Shared Folder 100</source>
         <translation>共有フォルダー 100</translation>
     </message>
+    <message>
+        <source>Loading settings...</source>
+        <translation>設定を読み込んでいます...</translation>
+    </message>
 </context>
 </TS>

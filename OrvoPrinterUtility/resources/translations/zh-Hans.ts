@@ -507,5 +507,9 @@
         <source>Shared Folder 100</source>
         <translation>共享文件夹 100</translation>
     </message>
+    <message>
+        <source>Loading settings...</source>
+        <translation>正在载入设置...</translation>
+    </message>
 </context>
 </TS>

@@ -507,5 +507,9 @@
         <source>Shared Folder 100</source>
         <translation>共用資料夾 100</translation>
     </message>
+    <message>
+        <source>Loading settings...</source>
+        <translation>正在載入設定...</translation>
+    </message>
 </context>
 </TS>
