@@ -1,21 +1,15 @@
 #include "OVPrinterUtilityWindowController.h"
 
-#include "OVAlert.h"
-#include "OVBackgroundTask.h"
 #include "OVControlsLock.h"
 #include "OVCustomRestrictedTextField.h"
 #include "OVInputHold.h"
 #include "OVLaunchEvent.h"
 #include "OVNotificationCenter.h"
 #include "OVPrinterUtilityHelper.h"
-#include "OVSaveSizeCheck.h"
-#include "OVSettingsSnapshot.h"
 #include "OVSleep.h"
 #include "OVStoredSettings.h"
 #include "OVTableViewDataSource.h"
-#include "OVWindowLog.h"
 #include "OVWindowSetUp.h"
-#include "OVWindowTexts.h"
 #include "OrvoSettingsKeywords.h"
 #include "ui_MainUtilityWindiw.h"
 
@@ -25,8 +19,6 @@
 #include <mutex>
 
 namespace {
-using namespace OVWindowTexts;
-using Step = OVPrinterInfoFetch::Step;
 
 std::mutex dictionaryMutex;
 std::optional<QVariantMap> &informationDictionary() {
@@ -112,7 +104,7 @@ QString OVPrinterUtilityWindowController::localized(const char *key) const {
     return OVPrinterUtilityHelper::getLocalizedStringFor(QString::fromUtf8(key));
 }
 
-// ---- controls ---------------------------------------------------------------
+// ---- set-up and controls ----------------------------------------------------
 
 void OVPrinterUtilityWindowController::loadControls() {
     std::optional<QVariantMap> dictionary;
@@ -133,36 +125,6 @@ void OVPrinterUtilityWindowController::loadControls() {
     loadDefaultFolderValues();
     loadDefaultSelectedFolderValues();
     loadOptionsFromPPD();
-}
-
-// The steps after the stored settings are in.
-void OVPrinterUtilityWindowController::finishLoading(
-    const std::optional<OVSettingsSnapshot> &settings) {
-    if (loading_)
-        loading_->release();
-    loading_.reset();
-    ui_->progressIndicatorText->setText(localized(GettingInformation));
-    showProgress(false);
-    if (settings)
-        applySettings(*settings);
-    initAddDeleteState();
-    registerFolderTableViewDataSource_->selectFirstRow();
-    loadFormValues();
-    loadBarcodeAreaDefinitionValues();
-    loadColorProfileValues();
-    setTabOrder();
-    emit settingsLoaded();
-}
-
-QList<QWidget *> OVPrinterUtilityWindowController::settingsControls() const {
-    Ui::MainUtilityWindiw &c = *ui_;
-    QList<QWidget *> controls = {c.snmpCommunityCheck,   c.snmpCommunityText,
-                                 c.wakeOnLANCheck,       c.overstepTheRouter,
-                                 c.printerIPAddressText, c.printerGetPrinterInfoButton,
-                                 c.meinTabView,          c.okButton};
-    for (QLineEdit *field : macAddressFields())
-        controls << field;
-    return controls;
 }
 
 void OVPrinterUtilityWindowController::createDataSources() {
@@ -275,257 +237,4 @@ QByteArray OVPrinterUtilityWindowController::getSnmpCommunityFromUI() const {
 
 void OVPrinterUtilityWindowController::setTabOrder() {
     OVWindowSetUp::setTabOrder(*ui_);
-}
-
-// ---- loading ----------------------------------------------------------------
-
-void OVPrinterUtilityWindowController::loadDefaultFolderValues() {
-    QStringList names;
-    for (int n = 1; n <= OVStoredSettings::defaultFolderCount; ++n)
-        names << OVStoredSettings::defaultFolderName(n);
-    loadFolderValues();
-    registerFolderTableViewDataSource_->setElementsArray(names);
-    registerFolderTableViewDataSource_->selectFirstRow();
-    OVNotificationCenter::defaultCenter().addObserver(
-        OVTableViewDataSource::SelectionChangedNotification,
-        [this](const OVNotification &) { receiveTableViewNotification(); }, this);
-}
-
-void OVPrinterUtilityWindowController::loadDefaultSelectedFolderValues() {
-    folders_.clear();
-    showSelectedFolders();
-}
-
-void OVPrinterUtilityWindowController::bindTable(OVTableViewDataSource *dataSource,
-                                                 QTableView *table) {
-    dataSource->setTableView(table);
-}
-
-void OVPrinterUtilityWindowController::loadFolderValues() {
-    bindTable(registerFolderTableViewDataSource_.get(), ui_->folderSharedFolderTable);
-    registerFolderTableViewDataSource_->selectFirstRow();
-}
-
-void OVPrinterUtilityWindowController::loadSelectedFolderValues() {
-    bindTable(selectedFolderTableViewDataSource_.get(), ui_->folderSelectedFolderTable);
-    selectedFolderTableViewDataSource_->selectFirstRow();
-}
-
-void OVPrinterUtilityWindowController::loadFormValues() {
-    bindTable(formTableViewDataSource_.get(), ui_->formTable);
-}
-
-void OVPrinterUtilityWindowController::loadBarcodeAreaDefinitionValues() {
-    bindTable(barcodeAreaDefinitionTableViewDataSource_.get(), ui_->barcodeAreaDefinitionTable);
-}
-
-void OVPrinterUtilityWindowController::loadColorProfileValues() {
-    bindTable(colorProfileTableViewDataSource_.get(), ui_->colorProfileTable);
-}
-
-// The window shows at once with its settings off while the print server is
-// asked. A missing server, queue, PPD or attribute is never an error: the
-// window keeps its defaults.
-void OVPrinterUtilityWindowController::loadOptionsFromPPD() {
-    if (!loading_)
-        loading_ = std::make_unique<OVControlsLock>(settingsControls());
-    ui_->progressIndicatorText->setText(localized(LoadingSettings));
-    showProgress(true);
-    OVBackgroundTask::run(
-        this,
-        [printerID = printerID_]() -> std::optional<OVSettingsSnapshot> {
-            OVSettingsSnapshot settings;
-            const auto status = OVStoredSettings::load(printerID, settings);
-            qCDebug(orvoWindow) << "settings of" << printerID << "loaded:" << int(status);
-            if (status != OVStoredSettings::Status::Loaded)
-                return std::nullopt;
-            return settings;
-        },
-        [this](const std::optional<OVSettingsSnapshot> &settings) { finishLoading(settings); });
-}
-
-void OVPrinterUtilityWindowController::applySettings(const OVSettingsSnapshot &s) {
-    Ui::MainUtilityWindiw &c = *ui_;
-    c.snmpCommunityCheck->setChecked(s.snmpCommunityCheck);
-    c.snmpCommunityText->setText(s.snmpCommunityText);
-    constraintsSnmpItems();
-    c.wakeOnLANCheck->setChecked(s.wakeOnLANCheck);
-    for (int i = 0; i < macFieldCount; ++i)
-        macAddressFields()[i]->setText(s.macAddressFields[i]);
-    constraintsWakeOnLanItems();
-    c.overstepTheRouter->setChecked(s.overstepTheRouter);
-    c.printerIPAddressText->setText(s.printerIPAddressText);
-    applyFolderSettings(s);
-    applyListSettings(s);
-}
-
-void OVPrinterUtilityWindowController::applyFolderSettings(const OVSettingsSnapshot &s) {
-    isPPDOptionsUpdated_ = s.isPPDOptionsUpdated;
-    folders_.load(s);
-    showRegisterFolders();
-    registerFolderTableViewDataSource_->selectLastRow();
-    showSelectedFolders();
-    ui_->folderPersonalFolderCheck->setChecked(s.folderPersonalFolderCheck);
-    bAdminLoginModeEnabled_ = s.bAdminLoginModeEnabled;
-    ui_->folderPersonalFolderCheck->setEnabled(bAdminLoginModeEnabled_);
-}
-
-void OVPrinterUtilityWindowController::applyListSettings(const OVSettingsSnapshot &s) {
-    showList(formTableViewDataSource_.get(), ui_->formTable, s.formNames);
-    showList(barcodeAreaDefinitionTableViewDataSource_.get(), ui_->barcodeAreaDefinitionTable,
-             s.barcodeAreaDefinitionNames);
-    showList(colorProfileTableViewDataSource_.get(), ui_->colorProfileTable, s.colorProfileNames);
-}
-
-void OVPrinterUtilityWindowController::showList(OVTableViewDataSource *dataSource,
-                                                QTableView *table, const QStringList &list) {
-    dataSource->setElementsArray(list);
-    bindTable(dataSource, table);
-    dataSource->selectFirstRow();
-}
-
-void OVPrinterUtilityWindowController::showRegisterFolders() {
-    registerFolderTableViewDataSource_->setElementsArray(folders_.allSharedBoxNames());
-    loadFolderValues();
-}
-
-void OVPrinterUtilityWindowController::showSelectedFolders() {
-    selectedFolderTableViewDataSource_->setElementsArray(folders_.selectedSharedBoxNames());
-    loadSelectedFolderValues();
-    selectedFolderTableViewDataSource_->selectLastRow();
-}
-
-// ---- saving -----------------------------------------------------------------
-
-void OVPrinterUtilityWindowController::okButtonClicked(QObject *) {
-    if (saving_)
-        return;
-    updateStringArrays();
-    isPPDOptionsUpdated_ = true;
-    // cupsd hands all job options to the filter in one argument, which the
-    // kernel limits to 128 KiB: a save that could not reach the driver keeps
-    // the window open and says which lists to shorten, instead of closing
-    // with the settings lost.
-    const QStringList tooLong = OVSaveSizeCheck::listsToShorten(settingsSnapshot());
-    if (!tooLong.isEmpty()) {
-        showTooLongMessage(tooLong);
-        return;
-    }
-    saveOptionsToPPD();
-}
-
-// On a queue that is not set up the settings would be lost: say so and keep
-// the window open with everything set. Otherwise the job is on its way.
-void OVPrinterUtilityWindowController::saved(OVSettingsSave::Outcome outcome) {
-    saving_ = false;
-    if (outcome == OVSettingsSave::Outcome::Submitted) {
-        closeButtonClicked(ui_->closeButton);
-        return;
-    }
-    OVAlert::alertWithMessageText(localized(QueueNotSetUp).arg(printerID_), localized(OK),
-                                  QString(), QString(), OVAlert::PlainMessageFormat, {})
-        ->runModal();
-}
-
-void OVPrinterUtilityWindowController::showTooLongMessage(const QStringList &listKeys) {
-    QStringList names;
-    for (const QString &key : listKeys)
-        names << "\u2022 " + OVPrinterUtilityHelper::getLocalizedStringFor(key);
-    const QString text = localized(SettingsTooLong);
-    auto alert = OVAlert::alertWithMessageText(text, localized(OK), QString(), QString(),
-                                               OVAlert::PlainMessageFormat, {names.join('\n')});
-    alert->runModal();
-}
-
-void OVPrinterUtilityWindowController::closeButtonClicked(QObject *) {
-    emit applicationShouldTerminate();
-}
-
-void OVPrinterUtilityWindowController::saveOptionsToPPD() {
-    saving_ = true;
-    OVSettingsSave::save(this, settingsSnapshot(), printerID_,
-                         [this](OVSettingsSave::Outcome outcome) { saved(outcome); });
-}
-
-OVSettingsSnapshot OVPrinterUtilityWindowController::settingsSnapshot() const {
-    Ui::MainUtilityWindiw &c = *ui_;
-    OVSettingsSnapshot s;
-    s.isPPDOptionsUpdated = isPPDOptionsUpdated_;
-    s.snmpCommunityCheck = c.snmpCommunityCheck->isChecked();
-    s.snmpCommunityText = c.snmpCommunityText->text();
-    s.wakeOnLANCheck = c.wakeOnLANCheck->isChecked();
-    for (int i = 0; i < macFieldCount; ++i)
-        s.macAddressFields[i] = macAddressFields()[i]->text();
-    s.overstepTheRouter = c.overstepTheRouter->isChecked();
-    s.printerIPAddressText = c.printerIPAddressText->text();
-    s.allSharedBoxNames = folders_.allSharedBoxNames();
-    s.selectedSharedBoxNames = folders_.selectedSharedBoxNames();
-    s.selectedSharedBoxIndex = folders_.selectedSharedBoxIndex();
-    s.folderPersonalFolderCheck = c.folderPersonalFolderCheck->isChecked();
-    s.bAdminLoginModeEnabled = bAdminLoginModeEnabled_;
-    s.formNames = formTableViewDataSource_->getElementsArray();
-    s.barcodeAreaDefinitionNames = barcodeAreaDefinitionTableViewDataSource_->getElementsArray();
-    s.colorProfileNames = colorProfileTableViewDataSource_->getElementsArray();
-    return s;
-}
-
-// ---- folder selection -------------------------------------------------------
-
-void OVPrinterUtilityWindowController::folderAddButtonClicked(QObject *) {
-    folders_.add(registerFolderTableViewDataSource_->getSelectedRow(),
-                 registerFolderTableViewDataSource_->getSelectedRowValue());
-    showSelectedFolders();
-}
-
-void OVPrinterUtilityWindowController::folderDeleteButtonClicked(QObject *) {
-    folders_.remove(selectedFolderTableViewDataSource_->getSelectedRow());
-    selectedFolderTableViewDataSource_->setElementsArray(folders_.selectedSharedBoxNames());
-}
-
-void OVPrinterUtilityWindowController::folderClearButtonClicked(QObject *) {
-    loadDefaultFolderValues();
-    loadDefaultSelectedFolderValues();
-    selectedFolderTableViewDataSource_->unselectAllRow();
-    ui_->folderAddButton->setEnabled(shouldEnableAdd());
-    ui_->folderPersonalFolderCheck->setChecked(false);
-    isPPDOptionsUpdated_ = false;
-}
-
-void OVPrinterUtilityWindowController::initAddDeleteState() {
-    ui_->folderAddButton->setEnabled(shouldEnableAdd());
-    ui_->folderDeleteButton->setEnabled(shouldEnableDelete());
-}
-
-bool OVPrinterUtilityWindowController::shouldEnableAdd() const {
-    if (static_cast<qint32>(registerFolderTableViewDataSource_->count()) < 1)
-        return false;
-    return !selectedFolderTableViewDataSource_->isItemExist(
-        registerFolderTableViewDataSource_->getSelectedRowValue());
-}
-
-bool OVPrinterUtilityWindowController::shouldEnableDelete() const {
-    if (static_cast<qint32>(selectedFolderTableViewDataSource_->count()) < 1)
-        return false;
-    return !selectedFolderTableViewDataSource_->getSelectedRowValue().isNull();
-}
-
-void OVPrinterUtilityWindowController::receiveTableViewNotification() {
-    initAddDeleteState();
-}
-
-void OVPrinterUtilityWindowController::receiveTextFieldNotification() {
-    constraintsWakeOnLanItems();
-}
-
-void OVPrinterUtilityWindowController::updateStringArrays() {
-    OVSettingsSnapshot shown;
-    shown.allSharedBoxNames = registerFolderTableViewDataSource_->getElementsArray();
-    shown.selectedSharedBoxNames = selectedFolderTableViewDataSource_->getElementsArray();
-    shown.selectedSharedBoxIndex = folders_.selectedSharedBoxIndex();
-    folders_.load(shown);
-}
-
-void OVPrinterUtilityWindowController::updateSelectedArrayStrings() {
-    folders_.updateSelectedArrayStrings();
-    showSelectedFolders();
 }
