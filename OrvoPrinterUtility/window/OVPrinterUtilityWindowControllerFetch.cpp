@@ -120,28 +120,23 @@ void OVPrinterUtilityWindowController::getPrinterInfoButtonClicked(QObject *) {
 }
 
 void OVPrinterUtilityWindowController::getPrinterInfoMacAddress(QObject *) {
-    static constexpr Step steps[] = {Step::MacAddress};
-    fetch(steps);
+    fetch(std::array{Step::MacAddress});
 }
 
 void OVPrinterUtilityWindowController::folderGetPrinterInfoButtonClicked(QObject *) {
-    static constexpr Step steps[] = {Step::Folders};
-    fetch(steps);
+    fetch(std::array{Step::Folders});
 }
 
 void OVPrinterUtilityWindowController::formGetPrinterInfoButtonClicked(QObject *) {
-    static constexpr Step steps[] = {Step::Forms};
-    fetch(steps);
+    fetch(std::array{Step::Forms});
 }
 
 void OVPrinterUtilityWindowController::barcodeAreaDefinitionGetPrinterInfoButtonClicked(QObject *) {
-    static constexpr Step steps[] = {Step::BarcodeAreas};
-    fetch(steps);
+    fetch(std::array{Step::BarcodeAreas});
 }
 
 void OVPrinterUtilityWindowController::colorProfileGetPrinterInfoButtonClicked(QObject *) {
-    static constexpr Step steps[] = {Step::ColorProfiles};
-    fetch(steps);
+    fetch(std::array{Step::ColorProfiles});
 }
 
 void OVPrinterUtilityWindowController::formClearButtonClicked(QObject *) {
