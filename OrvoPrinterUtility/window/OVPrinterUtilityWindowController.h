@@ -2,7 +2,7 @@
 
 #include "OVFolderSelection.h"
 #include "OVPrinterInfoFetch.h"
-#include "OVSettingsSave.h"
+#include "OVWindowSave.h"
 
 #include <QObject>
 #include <QStringList>
@@ -28,7 +28,7 @@ class MainUtilityWindiw;
 // and coordinates what happens to them: the stored settings of the queue
 // (OVStoredSettings) load in the background and fill the controls; the folder
 // tab shows an OVFolderSelection; Get Printer Info runs OVPrinterInfoFetch;
-// OK saves through OVSettingsSave. Every call that may wait on the network
+// OK saves through OVWindowSave. Every call that may wait on the network
 // goes through OVBackgroundTask.
 class OVPrinterUtilityWindowController : public QObject {
     Q_OBJECT
@@ -145,7 +145,7 @@ private:
     void showList(OVTableViewDataSource *dataSource, QTableView *table, const QStringList &list);
     void showRegisterFolders();
     void showSelectedFolders();
-    void saved(OVSettingsSave::Outcome outcome);
+    void saved(OVWindowSave::Outcome outcome);
     void showTooLongMessage(const QStringList &listKeys);
     OVPrinterInfoFetch::Printer fetchTarget() const;
     void fetch(std::span<const OVPrinterInfoFetch::Step> steps);
@@ -171,6 +171,8 @@ private:
     bool bAdminLoginModeEnabled_ = false;
     bool isPPDOptionsUpdated_ = false;
     bool actionRunning_ = false;
+    // OK's save is under way: a second OK is ignored.
     bool saving_ = false;
+    // The window is closing: what a fetch finds is no longer shown.
     bool closing_ = false;
 };

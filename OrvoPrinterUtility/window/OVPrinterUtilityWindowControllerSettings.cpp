@@ -127,9 +127,9 @@ void OVPrinterUtilityWindowController::okButtonClicked(QObject *) {
 
 // On a queue that is not set up the settings would be lost: say so and keep
 // the window open with everything set. Otherwise the job is on its way.
-void OVPrinterUtilityWindowController::saved(OVSettingsSave::Outcome outcome) {
+void OVPrinterUtilityWindowController::saved(OVWindowSave::Outcome outcome) {
     saving_ = false;
-    if (outcome == OVSettingsSave::Outcome::Submitted) {
+    if (outcome == OVWindowSave::Outcome::Submitted) {
         closeButtonClicked(ui_->closeButton);
         return;
     }
@@ -154,8 +154,8 @@ void OVPrinterUtilityWindowController::closeButtonClicked(QObject *) {
 
 void OVPrinterUtilityWindowController::saveOptionsToPPD() {
     saving_ = true;
-    OVSettingsSave::save(this, settingsSnapshot(), printerID_,
-                         [this](OVSettingsSave::Outcome outcome) { saved(outcome); });
+    OVWindowSave::save(this, settingsSnapshot(), printerID_,
+                       [this](OVWindowSave::Outcome outcome) { saved(outcome); });
 }
 
 OVSettingsSnapshot OVPrinterUtilityWindowController::settingsSnapshot() const {

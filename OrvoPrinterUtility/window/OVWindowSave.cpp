@@ -1,11 +1,11 @@
-#include "OVSettingsSave.h"
+#include "OVWindowSave.h"
 
 #include "OVBackgroundTask.h"
 #include "OVQueueSetup.h"
 #include "OVUpdateJob.h"
 
-void OVSettingsSave::save(QObject *context, const OVSettingsSnapshot &settings,
-                          const QString &printerID, std::function<void(Outcome)> done) {
+void OVWindowSave::save(QObject *context, const OVSettingsSnapshot &settings,
+                        const QString &printerID, std::function<void(Outcome)> done) {
     OVBackgroundTask::run(
         context,
         [settings, printerID] {

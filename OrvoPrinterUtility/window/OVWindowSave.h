@@ -10,7 +10,7 @@ class QObject;
 
 // OK's way to the print server, off the GUI thread: the queue's set-up check,
 // then the update job that carries the settings to the PPD.
-class OVSettingsSave {
+class OVWindowSave {
 public:
     enum class Outcome { Submitted, QueueNotSetUp };
 
