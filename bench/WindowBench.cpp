@@ -13,6 +13,7 @@
 
 #include <QApplication>
 #include <QElapsedTimer>
+#include <QEventLoop>
 #include <QFile>
 #include <QProcess>
 #include <QThread>
@@ -27,6 +28,16 @@ namespace {
 constexpr char queue[] = "OrvoBench";
 constexpr int runs = 10;
 constexpr int addedDelayMs = 20;
+
+// Opens the window on a queue and waits for its settings, as the user does.
+void launch(OVPrinterUtilityWindowController &controller, const QString &queueName) {
+    QEventLoop loading;
+    QObject::connect(&controller, &OVPrinterUtilityWindowController::settingsLoaded, &loading,
+                     &QEventLoop::quit);
+    controller.applicationDidFinishLaunching({"--printer", queueName});
+    controller.mainWindowObject()->show();
+    loading.exec();
+}
 
 double median(std::vector<double> values) {
     std::sort(values.begin(), values.end());
@@ -48,8 +59,7 @@ double msSinceProcessStart() {
 // Child mode: open the window as the program does and say when it shows.
 int startupChild() {
     OVPrinterUtilityWindowController controller;
-    controller.applicationDidFinishLaunching({"--printer", queue});
-    controller.mainWindowObject()->show();
+    launch(controller, queue);
     QApplication::processEvents();
     std::printf("%.1f\n", msSinceProcessStart());
     return 0;
@@ -71,7 +81,7 @@ double saveMs(CupsServer &cups, const QString &saveQueue) {
     std::vector<double> times;
     for (int i = 0; i < runs; ++i) {
         OVPrinterUtilityWindowController controller;
-        controller.applicationDidFinishLaunching({"--printer", saveQueue});
+        launch(controller, saveQueue);
         const QString marker = QString("10.9.%1.1").arg(i);
         controller.controls().printerIPAddressText->setText(marker);
         const QByteArray stored = marker.toLatin1().toBase64();
@@ -92,7 +102,7 @@ struct Fetch {
 
 Fetch fetch(SimulatedPrinter &printer) {
     OVPrinterUtilityWindowController controller;
-    controller.applicationDidFinishLaunching({"--printer", queue});
+    launch(controller, queue);
     controller.controls().printerIPAddressText->setText(SimulatedPrinter::loopbackAddress());
     controller.controls().wakeOnLANCheck->setChecked(false);
     printer.setResponseDelayMs(addedDelayMs);

@@ -1,7 +1,7 @@
 #include "OVFetchCommand.h"
 
 #include "OVCommandLine.h"
-#include "OVSNMPHelper.h"
+#include "OVPrinterInfoFetch.h"
 #include "OVSleep.h"
 #include "OVWakeOnLanHelper.h"
 #include "OrvoSettingsKeywords.h"
@@ -64,6 +64,35 @@ bool wake(const QString &address, const QString &community, const QCommandLinePa
     return awake;
 }
 
+void print(const QString &address, const OVPrinterInfoFetch::Result &fetched, bool json) {
+    const QString &mac = fetched.macAddress;
+    const QStringList &boxNames = *fetched.folderNames;
+    const bool adminLogin = fetched.adminLoginModeEnabled.value_or(false);
+    const QStringList &forms = *fetched.forms;
+    const QStringList &barcodes = *fetched.barcodeAreas;
+    const QStringList &profiles = *fetched.colorProfiles;
+
+    QJsonArray boxes;
+    QStringList boxLines;
+    for (qsizetype i = 0; i < boxNames.size(); ++i) {
+        const QString state = fetched.folderStates->value(i);
+        boxes.append(QJsonObject{{"name", boxNames.at(i)}, {"state", state}});
+        boxLines << QStringLiteral("%1 [%2]").arg(boxNames.at(i), state);
+    }
+    const QJsonObject result{{"address", address},
+                             {"macAddress", mac},
+                             {"sharedFolders", boxes},
+                             {"adminLoginMode", adminLogin},
+                             {"forms", QJsonArray::fromStringList(forms)},
+                             {"barcodeAreas", QJsonArray::fromStringList(barcodes)},
+                             {"colorProfiles", QJsonArray::fromStringList(profiles)}};
+    const QString text = QStringLiteral("macAddress: %1\nadminLoginMode: %2\n")
+                             .arg(OVCommandLine::visible(mac), adminLogin ? "yes" : "no") +
+                         listText("sharedFolders", boxLines) + listText("forms", forms) +
+                         listText("barcodeAreas", barcodes) + listText("colorProfiles", profiles);
+    OVCommandLine::print(json, result, text);
+}
+
 } // namespace
 
 void OVFetchCommand::addOptions(QCommandLineParser &parser) {
@@ -71,7 +100,6 @@ void OVFetchCommand::addOptions(QCommandLineParser &parser) {
 }
 
 int OVFetchCommand::run(const QCommandLineParser &parser, bool json) {
-    using H = OVSNMPHelper;
     const QString address = parser.value(addressOption);
     const QString community = parser.value(communityOption);
     if (address.isEmpty())
@@ -84,43 +112,10 @@ int OVFetchCommand::run(const QCommandLineParser &parser, bool json) {
                                    "\"-\", such as 00:11:22:aa:bb:cc");
     if (parser.isSet(wakeOption) && !wake(address, community, parser))
         return silent(address, "it did not wake up");
-    const QByteArray peer = address.toUtf8();
-    const QString mac = H::getMacAddress(peer.constData(), community);
-    if (mac.isNull())
-        return silent(address, "MAC address");
-    const int boxCount = H::snmpGetSharedBoxEntryForIPAddress(peer.constData(), community);
-    const auto boxNames =
-        H::getValidatedSharedBoxNameArrayForIPAddress(peer.constData(), community, boxCount);
-    const auto boxStates =
-        H::getValidatedSharedBoxStateArrayForIPAddress(peer.constData(), community, boxCount);
-    if (!boxNames || !boxStates)
-        return silent(address, "shared folders");
-    const bool adminLogin = H::getAdminLoginModeEnabled(peer.constData(), community);
-    const auto forms = H::getValidatedFormNameArrayForIPAddress(peer.constData(), community);
-    const auto barcodes =
-        H::getValidatedBarcodeAreaNameArrayForIPAddress(peer.constData(), community);
-    const auto profiles = H::getValidatedColorProfileForIPAddress(peer.constData(), community);
-    if (!forms || !barcodes || !profiles)
-        return silent(address, "forms, barcode areas or colour profiles");
-
-    QJsonArray boxes;
-    QStringList boxLines;
-    for (qsizetype i = 0; i < boxNames->size(); ++i) {
-        const QString state = boxStates->value(i);
-        boxes.append(QJsonObject{{"name", boxNames->at(i)}, {"state", state}});
-        boxLines << QStringLiteral("%1 [%2]").arg(boxNames->at(i), state);
-    }
-    const QJsonObject result{{"address", address},
-                             {"macAddress", mac},
-                             {"sharedFolders", boxes},
-                             {"adminLoginMode", adminLogin},
-                             {"forms", QJsonArray::fromStringList(*forms)},
-                             {"barcodeAreas", QJsonArray::fromStringList(*barcodes)},
-                             {"colorProfiles", QJsonArray::fromStringList(*profiles)}};
-    const QString text = QStringLiteral("macAddress: %1\nadminLoginMode: %2\n")
-                             .arg(OVCommandLine::visible(mac), adminLogin ? "yes" : "no") +
-                         listText("sharedFolders", boxLines) + listText("forms", *forms) +
-                         listText("barcodeAreas", *barcodes) + listText("colorProfiles", *profiles);
-    OVCommandLine::print(json, result, text);
+    const OVPrinterInfoFetch::Result fetched =
+        OVPrinterInfoFetch::fetch({address, community, std::nullopt}, OVPrinterInfoFetch::allSteps);
+    if (fetched.failedStep)
+        return silent(address, OVPrinterInfoFetch::stepName(*fetched.failedStep));
+    print(address, fetched, json);
     return Exit::Success;
 }

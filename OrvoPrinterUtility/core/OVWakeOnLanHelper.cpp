@@ -138,7 +138,8 @@ bool waitWhileAsleep(const char *address, const QString &community) {
     if (mode != kModeAsleep)
         return false;
     for (int check = 0; check < kAsleepChecks; ++check) {
-        OVSleep::sleepSeconds(kAsleepWait);
+        if (!OVSleep::sleepSeconds(kAsleepWait))
+            return false;
         const int status = OVSNMPHelper::getSleepMode(address, community, mode);
         if (status == kStatusSuccess && mode == kModeReady)
             return true;
@@ -154,8 +155,8 @@ bool pollReady(const char *address, const QString &community) {
         if (askedReady(address, community, status))
             return true;
         // A timeout has already taken its own time.
-        if (status != kStatusTimeout)
-            OVSleep::sleepSeconds(kPollWait);
+        if (status != kStatusTimeout && !OVSleep::sleepSeconds(kPollWait))
+            return false;
     }
     return false;
 }
@@ -255,8 +256,8 @@ bool OVWakeOnLanHelper::SnmpWakeUpOnLan(const QString &ipAddress, const QString 
                               : ipType == AF_INET6 ? kIPv6AllRouters
                                                    : kIPv4Broadcast;
     MagicPacket(destination, mac.constData(), ipType);
-    OVSleep::sleepSeconds(kBetweenPackets);
+    if (!OVSleep::sleepSeconds(kBetweenPackets))
+        return false;
     MagicPacket(destination, mac.constData(), ipType);
-    OVSleep::sleepSeconds(kAfterPackets);
-    return pollReady(address.constData(), community);
+    return OVSleep::sleepSeconds(kAfterPackets) && pollReady(address.constData(), community);
 }

@@ -1,5 +1,9 @@
 #pragma once
 
+#include "OVFolderSelection.h"
+#include "OVPrinterInfoFetch.h"
+#include "OVWindowSave.h"
+
 #include <QObject>
 #include <QStringList>
 #include <QVariantMap>
@@ -7,22 +11,25 @@
 #include <array>
 #include <memory>
 #include <optional>
+#include <span>
 
+class OVControlsLock;
 class OVTableViewDataSource;
 struct OVSettingsSnapshot;
 class QAbstractButton;
 class QLineEdit;
 class QTableView;
-struct ppd_file_s;
 class QWidget;
 namespace Ui {
 class MainUtilityWindiw;
 }
 
-// Owns the utility's one window ("MainUtilityWindiw") and all its controls:
-// sets them up, loads the stored settings of the queue, moves folders between
-// the printer's list and the chosen list, fetches the lists from the printer
-// and saves everything through the update job.
+// Owns the utility's one window ("MainUtilityWindiw") and all its controls,
+// and coordinates what happens to them: the stored settings of the queue
+// (OVStoredSettings) load in the background and fill the controls; the folder
+// tab shows an OVFolderSelection; Get Printer Info runs OVPrinterInfoFetch;
+// OK saves through OVWindowSave. Every call that may wait on the network
+// goes through OVBackgroundTask.
 class OVPrinterUtilityWindowController : public QObject {
     Q_OBJECT
 
@@ -41,9 +48,9 @@ public:
     bool bError() const { return bError_; }
     bool bAdminLoginModeEnabled() const { return bAdminLoginModeEnabled_; }
     bool isPPDOptionsUpdated() const { return isPPDOptionsUpdated_; }
-    QStringList allSharedBoxNames() const { return allSharedBoxNames_; }
-    QStringList selectedSharedBoxNames() const { return selectedSharedBoxNames_; }
-    QList<qint32> selectedSharedBoxIndex() const { return selectedSharedBoxIndex_; }
+    QStringList allSharedBoxNames() const { return folders_.allSharedBoxNames(); }
+    QStringList selectedSharedBoxNames() const { return folders_.selectedSharedBoxNames(); }
+    QList<qint32> selectedSharedBoxIndex() const { return folders_.selectedSharedBoxIndex(); }
     OVTableViewDataSource *registerFolderTableViewDataSource() const;
     OVTableViewDataSource *selectedFolderTableViewDataSource() const;
     OVTableViewDataSource *formTableViewDataSource() const;
@@ -54,7 +61,8 @@ public:
     // window; an installed build has none (nullopt): the default title.
     static void setInformationDictionary(std::optional<QVariantMap> dictionary);
 
-    // Start-up and closing.
+    // Start-up and closing. The window shows at once; its settings controls
+    // stay off until the stored settings have loaded (settingsLoaded).
     void applicationDidFinishLaunching(const QStringList &arguments);
     void windowWillClose(const QString &identifier);
 
@@ -113,40 +121,39 @@ public:
 signals:
     // OK and Close end the application; main() quits on this.
     void applicationShouldTerminate();
+    // The stored settings are in the controls (or the queue had none) and
+    // the controls are on.
+    void settingsLoaded();
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    using ListQuery = std::optional<QStringList> (*)(const char *address, const QString &community);
     using Action = void (OVPrinterUtilityWindowController::*)(QObject *sender);
 
     void resetLaunchState();
-    void setUpTexts();
-    void setUpWindowTitle();
-    void setUpSettingsFields();
-    void setUpFolderTab();
     void createDataSources();
     void connectActions();
     void runAction(QAbstractButton *button, Action action, bool isFetch);
     QList<QAbstractButton *> fetchButtons() const;
     void bindTable(OVTableViewDataSource *dataSource, QTableView *table);
-    void readSettings(ppd_file_s *ppd);
-    void readFolderSettings(ppd_file_s *ppd);
-    void readListSettings(ppd_file_s *ppd);
+    QList<QWidget *> settingsControls() const;
+    void finishLoading(const std::optional<OVSettingsSnapshot> &settings);
+    void applySettings(const OVSettingsSnapshot &settings);
+    void applyFolderSettings(const OVSettingsSnapshot &settings);
+    void applyListSettings(const OVSettingsSnapshot &settings);
     void showList(OVTableViewDataSource *dataSource, QTableView *table, const QStringList &list);
-    bool passesFetchGuard();
-    void fetchList(ListQuery query, OVTableViewDataSource *dataSource);
-    void applyFolderList(const std::optional<QStringList> &names,
-                         const std::optional<QStringList> &states);
-    void failFetch();
+    void showRegisterFolders();
+    void showSelectedFolders();
+    void saved(OVWindowSave::Outcome outcome);
     void showTooLongMessage(const QStringList &listKeys);
+    OVPrinterInfoFetch::Printer fetchTarget() const;
+    void fetch(std::span<const OVPrinterInfoFetch::Step> steps);
+    void showFetched(const OVPrinterInfoFetch::Result &result);
+    void showFetchedList(const std::optional<QStringList> &list, OVTableViewDataSource *dataSource);
+    void applyFolderList(const OVPrinterInfoFetch::Result &result);
+    void failFetch();
     void failFolderFetch();
-    QString macAddressFromFields() const;
-    // What the queries are given: the community of getSnmpCommunityFromUI and
-    // the address field's text, both as UTF-8.
-    QString queryCommunity() const;
-    QByteArray queryAddress() const;
     std::array<QLineEdit *, macFieldCount> macAddressFields() const;
     QString localized(const char *key) const;
 
@@ -157,12 +164,15 @@ private:
     std::unique_ptr<OVTableViewDataSource> formTableViewDataSource_;
     std::unique_ptr<OVTableViewDataSource> barcodeAreaDefinitionTableViewDataSource_;
     std::unique_ptr<OVTableViewDataSource> colorProfileTableViewDataSource_;
+    std::unique_ptr<OVControlsLock> loading_;
+    OVFolderSelection folders_;
     QString printerID_;
-    QStringList allSharedBoxNames_;
-    QStringList selectedSharedBoxNames_;
-    QList<qint32> selectedSharedBoxIndex_;
     bool bError_ = false;
     bool bAdminLoginModeEnabled_ = false;
     bool isPPDOptionsUpdated_ = false;
     bool actionRunning_ = false;
+    // OK's save is under way: a second OK is ignored.
+    bool saving_ = false;
+    // The window is closing: what a fetch finds is no longer shown.
+    bool closing_ = false;
 };

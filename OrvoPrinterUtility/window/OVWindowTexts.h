@@ -17,6 +17,7 @@ inline constexpr char OverTheRouter[] = "Connect to Another Network";
 inline constexpr char IPAddressLabel[] = "IP address of the printer:";
 inline constexpr char GetPrinterInfo[] = "Get Printer Info";
 inline constexpr char GettingInformation[] = "Getting information from printer...";
+inline constexpr char LoadingSettings[] = "Loading settings...";
 inline constexpr char FolderTab[] = "Folder";
 inline constexpr char FormTab[] = "Form";
 inline constexpr char BarcodeTab[] = "Barcode area definition";
@@ -47,6 +48,7 @@ inline constexpr const char *localizedKeys[] = {
     IPAddressLabel,
     GetPrinterInfo,
     GettingInformation,
+    LoadingSettings,
     FolderTab,
     FormTab,
     BarcodeTab,

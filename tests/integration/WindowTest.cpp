@@ -58,12 +58,16 @@ protected:
         OVPreferredLanguages::setOverride(std::nullopt);
     }
 
+    // The window shows at once; its settings arrive from cupsd a moment later.
     void open(const QString &queue = "Fresh") {
         window.reset();
         window = std::make_unique<Controller>();
+        QSignalSpy loaded(window.get(), &Controller::settingsLoaded);
         window->applicationDidFinishLaunching({"--printer", queue});
         window->mainWindowObject()->show();
         c = &window->controls();
+        EXPECT_FALSE(c->okButton->isEnabled());
+        ASSERT_TRUE(loaded.wait(30000));
     }
     void openOnPrinter() {
         open();
@@ -126,7 +130,7 @@ TEST_F(WindowTest, DefaultsChooseFetchSaveAndReopen) {
     EXPECT_EQ(alerts.size(), 1);
     window->formTableViewDataSource()->setElementsArray(fetchedForms);
     click(c->okButton);
-    EXPECT_EQ(terminated.count(), 1);
+    ASSERT_TRUE(terminated.wait(30000));
     window.reset();
     EXPECT_TRUE(QTest::qWaitFor(
         [&] { return server.queuePpd("Office").contains("*PPDOptionsUpdated: \"1\""); }, 30000));
@@ -303,6 +307,19 @@ TEST_F(WindowTest, InputWaitsForAFetchAndFetchClicksAreDropped) {
     EXPECT_EQ(duringFetch, P::loopbackAddress());
     EXPECT_EQ(c->printerIPAddressText->text(), P::loopbackAddress() + "9");
     EXPECT_EQ(forms(), printer.namesInUse(P::Table::Form));
+}
+
+// Closing the window during a wake wait ends the flow at once: no further question to the
+// printer, no alert.
+TEST_F(WindowTest, ClosingEndsAWakeWait) {
+    openOnPrinter();
+    c->macAddressText6->setText("cc");
+    printer.set(P::kSleepMode, 2L); // going to sleep: the flow waits 5 s between questions
+    QSignalSpy terminated(window.get(), &Controller::applicationShouldTerminate);
+    QTimer::singleShot(100, window.get(), [this] { window->mainWindowObject()->close(); });
+    EXPECT_EQ(requestsDuring(printer, [&] { click(c->formGetPrinterInfoButton); }), 1);
+    EXPECT_EQ(terminated.count(), 1);
+    EXPECT_EQ(alerts, QStringList());
 }
 
 } // namespace

@@ -599,5 +599,9 @@
         <source>&amp;Password:</source>
         <translation>&amp;Passwort:</translation>
     </message>
+    <message>
+        <source>Loading settings...</source>
+        <translation>Einstellungen werden geladen...</translation>
+    </message>
 </context>
 </TS>

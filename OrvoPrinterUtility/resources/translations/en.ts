@@ -599,5 +599,9 @@
         <source>&amp;Password:</source>
         <translation>&amp;Password:</translation>
     </message>
+    <message>
+        <source>Loading settings...</source>
+        <translation>Loading settings...</translation>
+    </message>
 </context>
 </TS>

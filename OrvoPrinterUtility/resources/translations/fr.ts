@@ -599,5 +599,9 @@
         <source>&amp;Password:</source>
         <translation>Mot de &amp;passe :</translation>
     </message>
+    <message>
+        <source>Loading settings...</source>
+        <translation>Chargement des réglages...</translation>
+    </message>
 </context>
 </TS>

@@ -599,5 +599,9 @@
         <source>&amp;Password:</source>
         <translation>パスワード(&amp;P):</translation>
     </message>
+    <message>
+        <source>Loading settings...</source>
+        <translation>設定を読み込んでいます...</translation>
+    </message>
 </context>
 </TS>

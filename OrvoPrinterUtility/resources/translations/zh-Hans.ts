@@ -599,5 +599,9 @@
         <source>&amp;Password:</source>
         <translation>密码(&amp;P):</translation>
     </message>
+    <message>
+        <source>Loading settings...</source>
+        <translation>正在载入设置...</translation>
+    </message>
 </context>
 </TS>

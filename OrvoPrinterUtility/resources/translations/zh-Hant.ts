@@ -599,5 +599,9 @@
         <source>&amp;Password:</source>
         <translation>密碼(&amp;P):</translation>
     </message>
+    <message>
+        <source>Loading settings...</source>
+        <translation>正在載入設定...</translation>
+    </message>
 </context>
 </TS>

@@ -1,0 +1,160 @@
+// The controller's part in Get Printer Info: it hands the fields to
+// OVPrinterInfoFetch off the GUI thread and shows what came back.
+#include "OVAlert.h"
+#include "OVBackgroundTask.h"
+#include "OVPrinterUtilityWindowController.h"
+#include "OVSleep.h"
+#include "OVTableViewDataSource.h"
+#include "OVWindowLog.h"
+#include "OVWindowTexts.h"
+#include "OrvoSettingsKeywords.h"
+#include "ui_MainUtilityWindiw.h"
+
+namespace {
+using Step = OVPrinterInfoFetch::Step;
+using Fetch = OVPrinterInfoFetch;
+} // namespace
+
+void OVPrinterUtilityWindowController::showProgress(bool show) {
+    ui_->progressIndicatorText->setHidden(!show);
+    ui_->progressIndicatorText->repaint();
+    ui_->progressIndicator->setHidden(!show);
+}
+
+void OVPrinterUtilityWindowController::showFailedMessage() {
+    const QString text = localized(OVWindowTexts::FailedToObtain);
+    auto alert = OVAlert::alertWithMessageText(text, localized(OVWindowTexts::OK), QString(),
+                                               QString(), OVAlert::PlainMessageFormat, {text});
+    alert->runModal();
+}
+
+// The wake flow checks the community as typed (an empty one means the
+// default); the queries take the default for an empty field themselves.
+Fetch::Printer OVPrinterUtilityWindowController::fetchTarget() const {
+    Ui::MainUtilityWindiw &c = *ui_;
+    Fetch::Wake wake;
+    wake.enabled = c.wakeOnLANCheck->isChecked();
+    for (int i = 0; i < macFieldCount; ++i)
+        wake.macAddressFields[i] = macAddressFields()[i]->text();
+    wake.community = c.snmpCommunityCheck->isChecked()
+                         ? c.snmpCommunityText->text()
+                         : QString(OrvoSettingsKeywords::DefaultCommunity);
+    wake.overRouter = c.overstepTheRouter->isChecked();
+    return {c.printerIPAddressText->text(), QString::fromUtf8(getSnmpCommunityFromUI()), wake};
+}
+
+bool OVPrinterUtilityWindowController::wakeOnLanWrapper() {
+    OVSleep::setInterrupted(false);
+    return OVBackgroundTask::wait([printer = fetchTarget()] {
+        return OVPrinterInfoFetch::wake(printer.address, *printer.wake);
+    });
+}
+
+// The steps run one after another on the worker while the window paints and
+// holds the user's input; their results show together, in the steps' order.
+void OVPrinterUtilityWindowController::fetch(std::span<const Step> steps) {
+    showProgress(true);
+    OVSleep::setInterrupted(false);
+    const Fetch::Result result = OVBackgroundTask::wait(
+        [printer = fetchTarget(), steps] { return OVPrinterInfoFetch::fetch(printer, steps); });
+    if (closing_)
+        return;
+    showFetched(result);
+    showProgress(false);
+    if (!result.failedStep)
+        return;
+    qCDebug(orvoWindow) << "fetch failed at" << OVPrinterInfoFetch::stepName(*result.failedStep);
+    if (result.failedStep == Step::Folders)
+        failFolderFetch();
+    else
+        failFetch();
+}
+
+void OVPrinterUtilityWindowController::showFetched(const Fetch::Result &result) {
+    if (setMacAddressStr(result.macAddress))
+        constraintsWakeOnLanItems();
+    applyFolderList(result);
+    showFetchedList(result.forms, formTableViewDataSource_.get());
+    showFetchedList(result.barcodeAreas, barcodeAreaDefinitionTableViewDataSource_.get());
+    showFetchedList(result.colorProfiles, colorProfileTableViewDataSource_.get());
+}
+
+// An empty list changes nothing.
+void OVPrinterUtilityWindowController::showFetchedList(const std::optional<QStringList> &list,
+                                                       OVTableViewDataSource *dataSource) {
+    if (!list || list->isEmpty())
+        return;
+    dataSource->setElementsArray(*list);
+    dataSource->selectFirstRow();
+}
+
+// Only folders in use are offered; lists of different lengths are left alone
+// without a message. The admin login mode counts whenever it was asked.
+void OVPrinterUtilityWindowController::applyFolderList(const Fetch::Result &result) {
+    if (const auto inUse = result.foldersInUse()) {
+        folders_.applyFetched(*inUse);
+        registerFolderTableViewDataSource_->setElementsArray(*inUse);
+        showSelectedFolders();
+    }
+    if (result.adminLoginModeEnabled) {
+        bAdminLoginModeEnabled_ = *result.adminLoginModeEnabled;
+        ui_->folderPersonalFolderCheck->setEnabled(bAdminLoginModeEnabled_);
+    }
+}
+
+void OVPrinterUtilityWindowController::failFetch() {
+    showProgress(false);
+    showFailedMessage();
+    bError_ = true;
+}
+
+void OVPrinterUtilityWindowController::failFolderFetch() {
+    failFetch();
+    loadDefaultFolderValues();
+    loadDefaultSelectedFolderValues();
+}
+
+void OVPrinterUtilityWindowController::getPrinterInfoButtonClicked(QObject *) {
+    bError_ = false;
+    fetch(OVPrinterInfoFetch::allSteps);
+}
+
+void OVPrinterUtilityWindowController::getPrinterInfoMacAddress(QObject *) {
+    fetch(std::array{Step::MacAddress});
+}
+
+void OVPrinterUtilityWindowController::folderGetPrinterInfoButtonClicked(QObject *) {
+    fetch(std::array{Step::Folders});
+}
+
+void OVPrinterUtilityWindowController::formGetPrinterInfoButtonClicked(QObject *) {
+    fetch(std::array{Step::Forms});
+}
+
+void OVPrinterUtilityWindowController::barcodeAreaDefinitionGetPrinterInfoButtonClicked(QObject *) {
+    fetch(std::array{Step::BarcodeAreas});
+}
+
+void OVPrinterUtilityWindowController::colorProfileGetPrinterInfoButtonClicked(QObject *) {
+    fetch(std::array{Step::ColorProfiles});
+}
+
+void OVPrinterUtilityWindowController::formClearButtonClicked(QObject *) {
+    formTableViewDataSource_->setElementsArray(std::nullopt);
+}
+
+void OVPrinterUtilityWindowController::barcodeAreaDefinitionClearButtonClicked(QObject *) {
+    barcodeAreaDefinitionTableViewDataSource_->setElementsArray(std::nullopt);
+}
+
+void OVPrinterUtilityWindowController::colorProfileClearButtonClicked(QObject *) {
+    colorProfileTableViewDataSource_->setElementsArray(std::nullopt);
+}
+
+void OVPrinterUtilityWindowController::customSnmpCommunityClicked(QObject *) {
+    constraintsSnmpItems();
+}
+
+void OVPrinterUtilityWindowController::wakeOnLANCheckClicked(QObject *) {
+    constraintsWakeOnLanItems();
+}

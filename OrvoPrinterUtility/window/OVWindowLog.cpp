@@ -1,0 +1,3 @@
+#include "OVWindowLog.h"
+
+Q_LOGGING_CATEGORY(orvoWindow, "orvo.window", QtInfoMsg)

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QVariantMap>
+
+#include <optional>
+
+class QWidget;
+namespace Ui {
+class MainUtilityWindiw;
+}
+
+// The window's controls as they start: texts in the user's language, the
+// settings fields with their character rules and defaults, the tab order.
+class OVWindowSetUp {
+public:
+    // The model name of the information dictionary titles the window; none
+    // (an installed build) gives the default title.
+    static void setUpWindowTitle(QWidget *window, const std::optional<QVariantMap> &dictionary);
+    static void setUpTexts(Ui::MainUtilityWindiw &c);
+    static void setUpSettingsFields(Ui::MainUtilityWindiw &c);
+    static void setUpFolderTab(Ui::MainUtilityWindiw &c);
+    // With "tab focus reaches all controls" every control is in the chain;
+    // otherwise Tab moves between the text fields only.
+    static void setTabOrder(Ui::MainUtilityWindiw &c);
+};
