@@ -70,6 +70,12 @@ OVQueueSetup::State OVQueueSetup::state(const QString &queue) {
     return connection ? state(connection.http(), queue) : State::ServerUnreachable;
 }
 
+bool OVQueueSetup::routeLost(const QString &queue) {
+    const OVCupsConnection connection;
+    const QByteArray ppd = connection ? queuePpd(connection.http(), queue) : QByteArray();
+    return !ppd.isEmpty() && !OVSettingsRoute::isIn(ppd);
+}
+
 OVQueueSetup::State OVQueueSetup::state(http_t *http, const QString &queue) {
     ipp_t *request = printerRequest(IPP_OP_GET_PRINTER_ATTRIBUTES, queue);
     ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", nullptr,

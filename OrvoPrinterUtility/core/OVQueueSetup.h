@@ -40,6 +40,11 @@ public:
     };
 
     static State state(const QString &queue);
+    // Whether the PPD as the server stores it lost the route: a PPD cut while
+    // cupsd wrote it. Read from the file itself, since the queue's listed
+    // formats follow a rewritten PPD only some time later. False when the
+    // PPD cannot be fetched at all.
+    static bool routeLost(const QString &queue);
     // Every queue of the server, sorted by name; nullopt when it cannot be asked.
     static std::optional<QList<Queue>> queues();
 

@@ -48,8 +48,8 @@ void OVSettingsSave::readBack(Outcome &outcome, const OVSettingsSnapshot &settin
     });
     // A server that died while writing the PPD, or a full disk, leaves one
     // that cannot be read or that lost the route to the filter.
-    const bool routeLost = outcome.readBack == OVStoredSettings::Status::Loaded &&
-                           OVQueueSetup::state(queue) == OVQueueSetup::State::NotSetUp;
+    const bool routeLost =
+        outcome.readBack == OVStoredSettings::Status::Loaded && OVQueueSetup::routeLost(queue);
     if (outcome.readBack == OVStoredSettings::Status::UnreadablePPD || routeLost)
         outcome.result = Result::Damaged;
     else if (outcome.readBack != OVStoredSettings::Status::Loaded)
