@@ -21,6 +21,8 @@ public:
 
     explicit NSKeyValueTextField(QWidget *parent = nullptr);
 
+    // Part of the fixed interface; nothing in the utility calls the element
+    // accessors, selectedStringValue, valueDict or setSelectedValueList.
     QString getElementName() const { return m_elementName; }
     void setElementName(const QString &elementName) { m_elementName = elementName; }
     qint32 getElementID() const { return m_elementID; }

@@ -42,6 +42,7 @@ public:
 
     int runModal();
 
+    // Part of the fixed interface; nothing in the utility calls the getter.
     bool isSecondButtonOther() const { return m_isSecondButtonOther; }
     void setIsSecondButtonOther(bool isOther) { m_isSecondButtonOther = isOther; }
     // Button titles in panel order: default, other, alternate.

@@ -22,6 +22,8 @@ public:
     void setValidCharacters(const QString &validCharacters) { m_validCharacters = validCharacters; }
     QString validCharacters() const { return m_validCharacters; }
     QString oldString() const { return m_oldString; }
+    // Part of the fixed interface; nothing in the utility calls setOldString
+    // or maxEditableTextLength.
     void setOldString(const QString &oldString) { m_oldString = oldString; }
     // Negative: no limit.
     void setMaxEditableTextLength(qint32 length) { m_maxEditableTextLength = length; }

@@ -14,12 +14,13 @@ public:
 
     static std::unique_ptr<OVRestrictedStringFormatter>
     initWithValidCharacters(const QString &validCharacters);
+    // Part of the fixed interface; nothing in the utility calls the
+    // invalid-set maker, stringForObjectValue or getObjectValue.
     // The invalid set is kept and handed back but never filters anything.
     static std::unique_ptr<OVRestrictedStringFormatter>
     initWithInvalidCharacters(const QString &invalidCharacters);
 
     void setNumeric() { m_numeric = true; }
-    bool isNumeric() const { return m_numeric; }
 
     QString validCharacters() const { return m_validCharacters; }
     void setValidCharacters(const QString &characters) { m_validCharacters = characters; }
