@@ -17,7 +17,7 @@ public:
     // Commands a field receives from the keyboard besides plain typing.
     enum class KeyCommand { InsertTab, InsertBacktab, Other };
 
-    static constexpr const char *WrongControlIdMessage = "Wrong control ID";
+    static constexpr const char *wrongControlIdMessage = "Wrong control ID";
 
     explicit NSKeyValueTextField(QWidget *parent = nullptr);
 

@@ -20,7 +20,7 @@ public:
     static constexpr int DefaultReturn = 1;
     static constexpr int AlternateReturn = 0;
     static constexpr int OtherReturn = -1;
-    static constexpr const char *DefaultButtonTitle = "OK";
+    static constexpr const char *defaultButtonTitle = "OK";
     // The informative-text format of a plain message.
     static constexpr const char *PlainMessageFormat = "%@";
 

@@ -11,11 +11,11 @@ class OVCustomRestrictedTextField : public NSKeyValueTextField {
 
 public:
     static constexpr const char *Notification = "OVCustomRestrictedTextFieldNotification";
-    static constexpr const char *BecomeNotification =
+    static constexpr const char *becomeNotification =
         "OVCustomRestrictedTextFieldBecomeNotification";
     static constexpr const char *MethodNameKey = "MethodName";
-    static constexpr const char *TextDidChangeMethod = "textDidChange";
-    static constexpr const char *TextDidEndEditingMethod = "textDidEndEditing";
+    static constexpr const char *textDidChangeMethod = "textDidChange";
+    static constexpr const char *textDidEndEditingMethod = "textDidEndEditing";
 
     explicit OVCustomRestrictedTextField(QWidget *parent = nullptr);
 

@@ -9,8 +9,8 @@
 // characters, optionally as a number held to the range 90..340 while typing.
 class OVRestrictedStringFormatter {
 public:
-    static constexpr int NumericPartialMinimum = 90;
-    static constexpr int NumericPartialMaximum = 340;
+    static constexpr int numericPartialMinimum = 90;
+    static constexpr int numericPartialMaximum = 340;
 
     static std::unique_ptr<OVRestrictedStringFormatter>
     initWithValidCharacters(const QString &validCharacters);

@@ -19,7 +19,7 @@ class OVRestrictedTextField : public NSKeyValueTextField {
 
 public:
     static constexpr const char *DidEditingNotification = "OVRestrictedTextFieldDidEditing";
-    static constexpr const char *NumericCharacters = "0123456789";
+    static constexpr const char *numericCharacters = "0123456789";
 
     explicit OVRestrictedTextField(QWidget *parent = nullptr);
     ~OVRestrictedTextField() override;
