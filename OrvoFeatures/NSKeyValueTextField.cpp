@@ -14,7 +14,7 @@ NSKeyValueTextField::NSKeyValueTextField(QWidget *parent)
 void NSKeyValueTextField::setName(const QString &name, qint32 elementID,
                                   const QString &parentElement) {
     if (elementID < 0) {
-        qWarning().noquote() << WrongControlIdMessage;
+        qWarning().noquote() << wrongControlIdMessage;
     }
     m_elementName = name;
     m_elementID = elementID;

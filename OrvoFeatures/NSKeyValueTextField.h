@@ -17,10 +17,12 @@ public:
     // Commands a field receives from the keyboard besides plain typing.
     enum class KeyCommand { InsertTab, InsertBacktab, Other };
 
-    static constexpr const char *WrongControlIdMessage = "Wrong control ID";
+    static constexpr const char *wrongControlIdMessage = "Wrong control ID";
 
     explicit NSKeyValueTextField(QWidget *parent = nullptr);
 
+    // Part of the fixed interface; nothing in the utility calls the element
+    // accessors, selectedStringValue, valueDict or setSelectedValueList.
     QString getElementName() const { return m_elementName; }
     void setElementName(const QString &elementName) { m_elementName = elementName; }
     qint32 getElementID() const { return m_elementID; }

@@ -74,7 +74,7 @@ std::unique_ptr<OVAlert> OVAlert::alertWithMessageText(const QString &messageTex
     if (!messageText.isNull()) {
         alert->setText(messageText);
     }
-    alert->addPanelButton(defaultButton.isNull() ? QString::fromLatin1(DefaultButtonTitle)
+    alert->addPanelButton(defaultButton.isNull() ? QString::fromLatin1(defaultButtonTitle)
                                                  : defaultButton);
     if (!otherButton.isNull()) {
         alert->addPanelButton(otherButton);

@@ -20,7 +20,7 @@ public:
     static constexpr int DefaultReturn = 1;
     static constexpr int AlternateReturn = 0;
     static constexpr int OtherReturn = -1;
-    static constexpr const char *DefaultButtonTitle = "OK";
+    static constexpr const char *defaultButtonTitle = "OK";
     // The informative-text format of a plain message.
     static constexpr const char *PlainMessageFormat = "%@";
 
@@ -42,6 +42,7 @@ public:
 
     int runModal();
 
+    // Part of the fixed interface; nothing in the utility calls the getter.
     bool isSecondButtonOther() const { return m_isSecondButtonOther; }
     void setIsSecondButtonOther(bool isOther) { m_isSecondButtonOther = isOther; }
     // Button titles in panel order: default, other, alternate.

@@ -18,13 +18,13 @@ void OVCustomRestrictedTextField::postNotificationWithString(const QString &meth
 }
 
 void OVCustomRestrictedTextField::sendEndEditingNotification() {
-    postNotificationWithString(QString::fromLatin1(TextDidEndEditingMethod));
+    postNotificationWithString(QString::fromLatin1(textDidEndEditingMethod));
 }
 
 bool OVCustomRestrictedTextField::becomeFirstResponder() {
     if (m_bSendNotification) {
         OVNotificationCenter::defaultCenter().postNotification(
-            QString::fromLatin1(BecomeNotification), this);
+            QString::fromLatin1(becomeNotification), this);
     }
     return true;
 }
@@ -45,7 +45,7 @@ void OVCustomRestrictedTextField::textDidChange(const OVNotification &) {
         return;
     }
     m_oldString = text();
-    postNotificationWithString(QString::fromLatin1(TextDidChangeMethod));
+    postNotificationWithString(QString::fromLatin1(textDidChangeMethod));
 }
 
 void OVCustomRestrictedTextField::textDidEndEditing(const OVNotification &) {

@@ -11,17 +11,19 @@ class OVCustomRestrictedTextField : public NSKeyValueTextField {
 
 public:
     static constexpr const char *Notification = "OVCustomRestrictedTextFieldNotification";
-    static constexpr const char *BecomeNotification =
+    static constexpr const char *becomeNotification =
         "OVCustomRestrictedTextFieldBecomeNotification";
     static constexpr const char *MethodNameKey = "MethodName";
-    static constexpr const char *TextDidChangeMethod = "textDidChange";
-    static constexpr const char *TextDidEndEditingMethod = "textDidEndEditing";
+    static constexpr const char *textDidChangeMethod = "textDidChange";
+    static constexpr const char *textDidEndEditingMethod = "textDidEndEditing";
 
     explicit OVCustomRestrictedTextField(QWidget *parent = nullptr);
 
     void setValidCharacters(const QString &validCharacters) { m_validCharacters = validCharacters; }
     QString validCharacters() const { return m_validCharacters; }
     QString oldString() const { return m_oldString; }
+    // Part of the fixed interface; nothing in the utility calls setOldString
+    // or maxEditableTextLength.
     void setOldString(const QString &oldString) { m_oldString = oldString; }
     // Negative: no limit.
     void setMaxEditableTextLength(qint32 length) { m_maxEditableTextLength = length; }

@@ -66,7 +66,7 @@ bool OVRestrictedStringFormatter::isPartialStringValid(const QString &partialStr
     }
     if (m_numeric) {
         const int value = OrvoHelper::intValue(partialString);
-        const int snapped = std::clamp(value, NumericPartialMinimum, NumericPartialMaximum);
+        const int snapped = std::clamp(value, numericPartialMinimum, numericPartialMaximum);
         if (snapped != value) {
             if (newEditingString != nullptr) {
                 *newEditingString = QString::asprintf("%d", snapped);

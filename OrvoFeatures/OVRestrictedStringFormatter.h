@@ -9,17 +9,18 @@
 // characters, optionally as a number held to the range 90..340 while typing.
 class OVRestrictedStringFormatter {
 public:
-    static constexpr int NumericPartialMinimum = 90;
-    static constexpr int NumericPartialMaximum = 340;
+    static constexpr int numericPartialMinimum = 90;
+    static constexpr int numericPartialMaximum = 340;
 
     static std::unique_ptr<OVRestrictedStringFormatter>
     initWithValidCharacters(const QString &validCharacters);
+    // Part of the fixed interface; nothing in the utility calls the
+    // invalid-set maker, stringForObjectValue or getObjectValue.
     // The invalid set is kept and handed back but never filters anything.
     static std::unique_ptr<OVRestrictedStringFormatter>
     initWithInvalidCharacters(const QString &invalidCharacters);
 
     void setNumeric() { m_numeric = true; }
-    bool isNumeric() const { return m_numeric; }
 
     QString validCharacters() const { return m_validCharacters; }
     void setValidCharacters(const QString &characters) { m_validCharacters = characters; }

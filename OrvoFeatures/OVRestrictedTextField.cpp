@@ -26,7 +26,7 @@ void OVRestrictedTextField::setInvalidCharacters(const QString &invalidCharacter
 
 void OVRestrictedTextField::setNumeric() {
     m_numeric = true;
-    setValidCharacters(QString::fromLatin1(NumericCharacters));
+    setValidCharacters(QString::fromLatin1(numericCharacters));
     m_restrictedStringFormatter->setNumeric();
 }
 
@@ -38,7 +38,7 @@ void OVRestrictedTextField::setInvalidMessageString(const QString &invalidMessag
 
 void OVRestrictedTextField::showMessage() {
     const auto alert = OVAlert::alertWithMessageText(
-        m_invalidTitle, QString::fromLatin1(OVAlert::DefaultButtonTitle), QString(), QString(),
+        m_invalidTitle, QString::fromLatin1(OVAlert::defaultButtonTitle), QString(), QString(),
         QString::fromLatin1(OVAlert::PlainMessageFormat), {m_invalidMessage});
     alert->setIcon(QMessageBox::Critical);
     alert->runModal();

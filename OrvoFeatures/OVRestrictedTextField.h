@@ -19,7 +19,7 @@ class OVRestrictedTextField : public NSKeyValueTextField {
 
 public:
     static constexpr const char *DidEditingNotification = "OVRestrictedTextFieldDidEditing";
-    static constexpr const char *NumericCharacters = "0123456789";
+    static constexpr const char *numericCharacters = "0123456789";
 
     explicit OVRestrictedTextField(QWidget *parent = nullptr);
     ~OVRestrictedTextField() override;
@@ -29,7 +29,6 @@ public:
     void setInvalidCharacters(const QString &invalidCharacters);
     QString invalidCharacters() const { return m_invalidCharacters; }
     void setNumeric();
-    bool isNumeric() const { return m_numeric; }
     void restrictMinValue(qint32 minValue) { m_minValue = minValue; }
     qint32 minValue() const { return m_minValue; }
     void restrictMaxValue(qint32 maxValue) { m_maxValue = maxValue; }
@@ -43,6 +42,8 @@ public:
     void showMessageIfInvalid(bool show) { m_bShowMessage = show; }
     void setInvalidMessageString(const QString &invalidMessage, const QString &titleString);
     QString invalidMessage() const { return m_invalidMessage; }
+    // Part of the fixed interface; nothing in the utility calls invalidTitle,
+    // restrictedStringFormatter, setOldString or textShouldBeginEditing.
     QString invalidTitle() const { return m_invalidTitle; }
     void syncWithStepper(QSpinBox *stepper) { m_stepper = stepper; }
     QSpinBox *stepper() const { return m_stepper; }

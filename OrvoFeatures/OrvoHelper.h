@@ -17,6 +17,7 @@ public:
     // Like deleteInvalidCharactersFromString, but never null.
     static QString stringByRemovingInvalidCharacters(const QString &string,
                                                      const QString &characters);
+    // Part of the fixed interface; nothing in the utility calls these two.
     static bool hasMultipleDecimalSeperator(const QString &string);
     static bool isValidFloatFormat(const QString &string);
     // The leading decimal integer, read as a text control reads its integer

@@ -101,7 +101,7 @@ QTableView *formTable(OVTableViewDataSource *source) {
 
 std::unique_ptr<OVAlert> sampleAlert() {
     auto alert = OVAlert::alertWithMessageText(
-        "Failed to obtain information.", QString::fromLatin1(OVAlert::DefaultButtonTitle), "Cancel",
+        "Failed to obtain information.", QString::fromLatin1(OVAlert::defaultButtonTitle), "Cancel",
         "Retry", QString::fromLatin1(OVAlert::PlainMessageFormat), {"The printer did not answer."});
     alert->setIcon(QMessageBox::Critical);
     return alert;

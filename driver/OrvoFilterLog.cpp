@@ -17,17 +17,17 @@ constexpr const char *levelPrefix(OrvoFilterLog::Level level) {
 } // namespace
 
 OrvoFilterLog::OrvoFilterLog(std::FILE *out)
-    : out(out) {}
+    : m_out(out) {}
 
 void OrvoFilterLog::write(Level level, std::string_view text) {
     std::string line = levelPrefix(level);
     line.append(text).append("\n");
-    std::fwrite(line.data(), 1, line.size(), out);
-    std::fflush(out);
+    std::fwrite(line.data(), 1, line.size(), m_out);
+    std::fflush(m_out);
 }
 
 void OrvoFilterLog::refused(Level level, std::string_view name, std::string_view why) {
-    if (++refusedCount > listedLimit)
+    if (++m_refusedCount > listedLimit)
         return;
     std::string text = "Refused option \"";
     text.append(printable(name)).append("\": ").append(why);
@@ -36,10 +36,10 @@ void OrvoFilterLog::refused(Level level, std::string_view name, std::string_view
 
 void OrvoFilterLog::summary(std::size_t stored) {
     write(Level::Debug, "Stored " + std::to_string(stored) + " settings, refused " +
-                            std::to_string(refusedCount) + " options");
-    if (refusedCount > listedLimit)
-        write(Level::Warning,
-              std::to_string(refusedCount - listedLimit) + " more refused options are not listed");
+                            std::to_string(m_refusedCount) + " options");
+    if (m_refusedCount > listedLimit)
+        write(Level::Warning, std::to_string(m_refusedCount - listedLimit) +
+                                  " more refused options are not listed");
 }
 
 // A name may hold line ends or quotes meant to forge log lines.

@@ -25,6 +25,6 @@ public:
 private:
     static std::string printable(std::string_view name);
 
-    std::FILE *out;
-    std::size_t refusedCount = 0;
+    std::FILE *m_out;
+    std::size_t m_refusedCount = 0;
 };

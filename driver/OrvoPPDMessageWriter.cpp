@@ -11,7 +11,7 @@ constexpr std::string_view valueClose = "\\\"\"";
 } // namespace
 
 OrvoPPDMessageWriter::OrvoPPDMessageWriter(std::FILE *out)
-    : out(out) {}
+    : m_out(out) {}
 
 OrvoPPDMessageWriter::~OrvoPPDMessageWriter() {
     flush();
@@ -21,18 +21,18 @@ void OrvoPPDMessageWriter::add(std::string_view keyword, std::string_view value)
     std::string pair = " ";
     pair.append(keyword).append(valueOpen).append(value).append(valueClose);
     // The line end counts towards the limit too.
-    if (!line.empty() && line.size() + pair.size() + 1 > messageLimit)
+    if (!m_line.empty() && m_line.size() + pair.size() + 1 > messageLimit)
         flush();
-    if (line.empty())
-        line = prefix;
-    line += pair;
+    if (m_line.empty())
+        m_line = prefix;
+    m_line += pair;
 }
 
 void OrvoPPDMessageWriter::flush() {
-    if (line.empty())
+    if (m_line.empty())
         return;
-    line += '\n';
-    std::fwrite(line.data(), 1, line.size(), out);
-    std::fflush(out);
-    line.clear();
+    m_line += '\n';
+    std::fwrite(m_line.data(), 1, m_line.size(), m_out);
+    std::fflush(m_out);
+    m_line.clear();
 }

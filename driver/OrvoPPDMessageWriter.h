@@ -23,6 +23,6 @@ public:
     static constexpr std::size_t messageLimit = 2000;
 
 private:
-    std::FILE *out;
-    std::string line;
+    std::FILE *m_out;
+    std::string m_line;
 };

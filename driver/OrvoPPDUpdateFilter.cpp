@@ -30,18 +30,21 @@ int OrvoPPDUpdateFilter::run(int argc, char **argv) {
     if (argc == argumentsWithoutFile)
         drainInput();
 
-    OrvoFilterLog log(stderr);
-    const char *optionsText = argv[optionsArgument];
+    handleOptions(argv[optionsArgument], stderr);
+    return 0;
+}
+
+void OrvoPPDUpdateFilter::handleOptions(const char *optionsText, std::FILE *out) {
+    OrvoFilterLog log(out);
     log.write(OrvoFilterLog::Level::Debug,
               "Job options text is " + std::to_string(std::strlen(optionsText)) + " bytes");
     cups_option_t *options = nullptr;
     const int count = cupsParseOptions(optionsText, 0, &options);
     if (isUpdateJob(count, options))
-        store(count, options, log);
+        store(count, options, log, out);
     else
         log.write(OrvoFilterLog::Level::Debug, "Not a settings update job, nothing stored");
     cupsFreeOptions(count, options);
-    return 0;
 }
 
 void OrvoPPDUpdateFilter::drainInput() {
@@ -70,9 +73,10 @@ bool OrvoPPDUpdateFilter::looksLikeJobAttribute(const char *name) {
            std::strspn(name, "abcdefghijklmnopqrstuvwxyz0123456789-") == std::strlen(name);
 }
 
-void OrvoPPDUpdateFilter::store(int count, cups_option_t *options, OrvoFilterLog &log) {
+void OrvoPPDUpdateFilter::store(int count, cups_option_t *options, OrvoFilterLog &log,
+                                std::FILE *out) {
     const OrvoStoredSettings current(std::getenv("PPD"));
-    OrvoPPDMessageWriter writer(stderr);
+    OrvoPPDMessageWriter writer(out);
     std::size_t stored = 0;
     for (int i = 0; i < count; ++i) {
         const auto [verdict, reason] = OrvoSettingsOption::check(options[i].name, options[i].value);

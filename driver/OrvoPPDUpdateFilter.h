@@ -2,6 +2,8 @@
 
 #include <cups/cups.h>
 
+#include <cstdio>
+
 class OrvoFilterLog;
 
 // The CUPS filter of the utility's queue: a job that carries the update marker
@@ -11,10 +13,14 @@ class OrvoPPDUpdateFilter {
 public:
     // argv: job-id user title copies options [file]
     static int run(int argc, char **argv);
+    // Everything the filter does with the job's options text (argv[5]); its
+    // messages for cupsd go to `out`. Reads CONTENT_TYPE and PPD from the
+    // environment, as under cupsd.
+    static void handleOptions(const char *optionsText, std::FILE *out);
 
 private:
     static void drainInput();
     static bool isUpdateJob(int count, cups_option_t *options);
     static bool looksLikeJobAttribute(const char *name);
-    static void store(int count, cups_option_t *options, OrvoFilterLog &log);
+    static void store(int count, cups_option_t *options, OrvoFilterLog &log, std::FILE *out);
 };

@@ -26,15 +26,15 @@ OrvoStoredSettings::OrvoStoredSettings(const char *ppdPath) {
             line.pop_back();
         if (splitAttribute(line, keyword, value) &&
             OrvoSettingsOption::check(keyword, value).verdict == OrvoSettingsOption::Verdict::Store)
-            values.try_emplace(keyword, value);
+            m_values.try_emplace(keyword, value);
     }
 }
 
 // An absent list entry reads exactly as an empty one; an absent flag or
 // community does not (it reads as its default), so those are always stored.
 bool OrvoStoredSettings::unchangedBy(std::string_view name, std::string_view value) const {
-    const auto held = values.find(std::string(name));
-    if (held != values.end())
+    const auto held = m_values.find(std::string(name));
+    if (held != m_values.end())
         return held->second == value;
     return value.empty() && OrvoSettingsOption::absentReadsAsEmpty(name);
 }

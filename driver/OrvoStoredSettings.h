@@ -19,5 +19,5 @@ public:
 
 private:
     // The first line of a keyword is the one libcups reads.
-    std::unordered_map<std::string, std::string> values;
+    std::unordered_map<std::string, std::string> m_values;
 };
