@@ -118,11 +118,11 @@ int OVAlert::runModal() {
 int OVAlert::resultForButtonIndex(qsizetype index) const {
     switch (index) {
     case 1:
-        return m_isSecondButtonOther ? OtherReturn : AlternateReturn;
+        return m_isSecondButtonOther ? otherReturn : alternateReturn;
     case 2:
-        return AlternateReturn;
+        return alternateReturn;
     default:
-        return DefaultReturn;
+        return defaultReturn;
     }
 }
 

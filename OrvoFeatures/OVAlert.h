@@ -17,12 +17,12 @@ class OVAlert : public QMessageBox {
     Q_OBJECT
 
 public:
-    static constexpr int DefaultReturn = 1;
-    static constexpr int AlternateReturn = 0;
-    static constexpr int OtherReturn = -1;
+    static constexpr int defaultReturn = 1;
+    static constexpr int alternateReturn = 0;
+    static constexpr int otherReturn = -1;
     static constexpr const char *defaultButtonTitle = "OK";
     // The informative-text format of a plain message.
-    static constexpr const char *PlainMessageFormat = "%@";
+    static constexpr const char *plainMessageFormat = "%@";
 
     // Answers the index (0-based, in panel order) of the button a person would
     // press, or anything else for no button. Lets tests run alerts unattended.

@@ -13,8 +13,8 @@ void OVCustomRestrictedTextField::postNotificationWithString(const QString &meth
         return;
     }
     OVNotificationCenter::defaultCenter().postNotification(
-        QString::fromLatin1(Notification), this,
-        {{QString::fromLatin1(MethodNameKey), methodName}});
+        QString::fromLatin1(notification), this,
+        {{QString::fromLatin1(methodNameKey), methodName}});
 }
 
 void OVCustomRestrictedTextField::sendEndEditingNotification() {

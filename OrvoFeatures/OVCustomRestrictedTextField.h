@@ -10,10 +10,10 @@ class OVCustomRestrictedTextField : public NSKeyValueTextField {
     Q_OBJECT
 
 public:
-    static constexpr const char *Notification = "OVCustomRestrictedTextFieldNotification";
+    static constexpr const char *notification = "OVCustomRestrictedTextFieldNotification";
     static constexpr const char *becomeNotification =
         "OVCustomRestrictedTextFieldBecomeNotification";
-    static constexpr const char *MethodNameKey = "MethodName";
+    static constexpr const char *methodNameKey = "MethodName";
     static constexpr const char *textDidChangeMethod = "textDidChange";
     static constexpr const char *textDidEndEditingMethod = "textDidEndEditing";
 

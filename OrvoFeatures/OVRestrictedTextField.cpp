@@ -39,7 +39,7 @@ void OVRestrictedTextField::setInvalidMessageString(const QString &invalidMessag
 void OVRestrictedTextField::showMessage() {
     const auto alert = OVAlert::alertWithMessageText(
         m_invalidTitle, QString::fromLatin1(OVAlert::defaultButtonTitle), QString(), QString(),
-        QString::fromLatin1(OVAlert::PlainMessageFormat), {m_invalidMessage});
+        QString::fromLatin1(OVAlert::plainMessageFormat), {m_invalidMessage});
     alert->setIcon(QMessageBox::Critical);
     alert->runModal();
 }
@@ -167,6 +167,6 @@ void OVRestrictedTextField::clampToRange() {
 void OVRestrictedTextField::postDidEditing() {
     if (m_bNotifyEditing) {
         OVNotificationCenter::defaultCenter().postNotification(
-            QString::fromLatin1(DidEditingNotification), this);
+            QString::fromLatin1(didEditingNotification), this);
     }
 }

@@ -18,7 +18,7 @@ class OVRestrictedTextField : public NSKeyValueTextField {
     Q_OBJECT
 
 public:
-    static constexpr const char *DidEditingNotification = "OVRestrictedTextFieldDidEditing";
+    static constexpr const char *didEditingNotification = "OVRestrictedTextFieldDidEditing";
     static constexpr const char *numericCharacters = "0123456789";
 
     explicit OVRestrictedTextField(QWidget *parent = nullptr);

@@ -102,7 +102,7 @@ QTableView *formTable(OVTableViewDataSource *source) {
 std::unique_ptr<OVAlert> sampleAlert() {
     auto alert = OVAlert::alertWithMessageText(
         "Failed to obtain information.", QString::fromLatin1(OVAlert::defaultButtonTitle), "Cancel",
-        "Retry", QString::fromLatin1(OVAlert::PlainMessageFormat), {"The printer did not answer."});
+        "Retry", QString::fromLatin1(OVAlert::plainMessageFormat), {"The printer did not answer."});
     alert->setIcon(QMessageBox::Critical);
     return alert;
 }

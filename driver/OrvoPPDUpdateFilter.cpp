@@ -59,11 +59,11 @@ void OrvoPPDUpdateFilter::drainInput() {
 // The marker travels as an IPP boolean, so it comes back as "true".
 bool OrvoPPDUpdateFilter::isUpdateJob(int count, cups_option_t *options) {
     const char *format = std::getenv("CONTENT_TYPE");
-    if (!format || std::strcmp(format, OrvoSettingsKeywords::UpdateDocumentFormat) != 0)
+    if (!format || std::strcmp(format, OrvoSettingsKeywords::updateDocumentFormat) != 0)
         return false;
     const char *marker = cupsGetOption(OrvoSettingsKeywords::UpdatePPDOptions, count, options);
     return marker && (std::strcmp(marker, "true") == 0 ||
-                      std::strcmp(marker, OrvoSettingsKeywords::UpdatePPDOptionsValue) == 0);
+                      std::strcmp(marker, OrvoSettingsKeywords::updatePpdOptionsValue) == 0);
 }
 
 // cupsd adds attributes such as job-uuid to every job's options; they are

@@ -19,7 +19,7 @@ namespace {
 using Exit = OVCommandLine::Exit;
 const QCommandLineOption addressOption("address", "The printer's IPv4 or IPv6 address.", "addr");
 const QCommandLineOption communityOption("community", "SNMP community (default \"cobalt\").",
-                                         "name", OrvoSettingsKeywords::DefaultCommunity);
+                                         "name", OrvoSettingsKeywords::defaultCommunity);
 const QCommandLineOption wakeOption("wake", "Wake the printer first (needs --mac).");
 const QCommandLineOption macOption("mac", "The printer's MAC address, for --wake.", "mac");
 const QCommandLineOption routerOption("over-router", "Wake the printer across a router.");

@@ -55,6 +55,8 @@ const Field fields[] = {
 };
 
 template <class... F> struct Overloaded : F... { using F::operator()...; };
+// Spelled out for compilers that do not deduce it for aggregates yet.
+template <class... F> Overloaded(F...) -> Overloaded<F...>;
 
 QJsonValue jsonOf(const S &settings, const Member &member) {
     return std::visit(

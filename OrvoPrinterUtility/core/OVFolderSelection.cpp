@@ -12,35 +12,35 @@ void OVFolderSelection::clear() {
 }
 
 void OVFolderSelection::load(const OVSettingsSnapshot &settings) {
-    allSharedBoxNames_ = settings.allSharedBoxNames;
-    selectedSharedBoxNames_ = settings.selectedSharedBoxNames;
-    selectedSharedBoxIndex_ = settings.selectedSharedBoxIndex;
+    m_allSharedBoxNames = settings.allSharedBoxNames;
+    m_selectedSharedBoxNames = settings.selectedSharedBoxNames;
+    m_selectedSharedBoxIndex = settings.selectedSharedBoxIndex;
 }
 
 void OVFolderSelection::add(qint32 row, const QString &name) {
     if (!name.isNull())
-        selectedSharedBoxNames_ << name;
-    selectedSharedBoxIndex_ << row;
+        m_selectedSharedBoxNames << name;
+    m_selectedSharedBoxIndex << row;
 }
 
 void OVFolderSelection::remove(qint32 row) {
-    if (row >= 0 && row < selectedSharedBoxIndex_.size())
-        selectedSharedBoxIndex_.removeAt(row);
-    if (row >= 0 && row < selectedSharedBoxNames_.size())
-        selectedSharedBoxNames_.removeAt(row);
+    if (row >= 0 && row < m_selectedSharedBoxIndex.size())
+        m_selectedSharedBoxIndex.removeAt(row);
+    if (row >= 0 && row < m_selectedSharedBoxNames.size())
+        m_selectedSharedBoxNames.removeAt(row);
 }
 
 void OVFolderSelection::updateSelectedArrayStrings() {
-    if (selectedSharedBoxIndex_.size() != selectedSharedBoxNames_.size())
+    if (m_selectedSharedBoxIndex.size() != m_selectedSharedBoxNames.size())
         return;
-    for (qsizetype i = 0; i < selectedSharedBoxIndex_.size(); ++i) {
-        const qint32 row = selectedSharedBoxIndex_[i];
-        if (row >= 0 && row < allSharedBoxNames_.size())
-            selectedSharedBoxNames_[i] = allSharedBoxNames_[row];
+    for (qsizetype i = 0; i < m_selectedSharedBoxIndex.size(); ++i) {
+        const qint32 row = m_selectedSharedBoxIndex[i];
+        if (row >= 0 && row < m_allSharedBoxNames.size())
+            m_selectedSharedBoxNames[i] = m_allSharedBoxNames[row];
     }
 }
 
 void OVFolderSelection::applyFetched(const QStringList &foldersInUse) {
-    allSharedBoxNames_ = foldersInUse;
+    m_allSharedBoxNames = foldersInUse;
     updateSelectedArrayStrings();
 }

@@ -15,9 +15,9 @@ class OVFolderSelection {
 public:
     OVFolderSelection();
 
-    const QStringList &allSharedBoxNames() const { return allSharedBoxNames_; }
-    const QStringList &selectedSharedBoxNames() const { return selectedSharedBoxNames_; }
-    const QList<qint32> &selectedSharedBoxIndex() const { return selectedSharedBoxIndex_; }
+    const QStringList &allSharedBoxNames() const { return m_allSharedBoxNames; }
+    const QStringList &selectedSharedBoxNames() const { return m_selectedSharedBoxNames; }
+    const QList<qint32> &selectedSharedBoxIndex() const { return m_selectedSharedBoxIndex; }
 
     // The default folders, the first one chosen.
     void clear();
@@ -36,7 +36,7 @@ public:
     void applyFetched(const QStringList &foldersInUse);
 
 private:
-    QStringList allSharedBoxNames_;
-    QStringList selectedSharedBoxNames_;
-    QList<qint32> selectedSharedBoxIndex_;
+    QStringList m_allSharedBoxNames;
+    QStringList m_selectedSharedBoxNames;
+    QList<qint32> m_selectedSharedBoxIndex;
 };

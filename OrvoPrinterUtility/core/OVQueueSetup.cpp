@@ -38,7 +38,7 @@ ipp_t *printerRequest(ipp_op_t operation, const QString &queue) {
 
 bool acceptsUpdates(ipp_t *attributes) {
     return ippContainsString(ippFindAttribute(attributes, formatsAttribute, IPP_TAG_MIMETYPE),
-                             K::UpdateDocumentFormat);
+                             K::updateDocumentFormat);
 }
 
 bool refusedAsUnauthorized(ipp_status_t status) {
@@ -60,7 +60,7 @@ void readQueueAttribute(ipp_attribute_t *attribute, OVQueueSetup::Queue &queue) 
     else if (name == "printer-make-and-model")
         queue.makeAndModel = attributeText(attribute);
     else if (name == formatsAttribute)
-        queue.setUp = ippContainsString(attribute, K::UpdateDocumentFormat);
+        queue.setUp = ippContainsString(attribute, K::updateDocumentFormat);
 }
 
 } // namespace

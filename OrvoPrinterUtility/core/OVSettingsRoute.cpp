@@ -71,17 +71,17 @@ bool isFilterLine(const QByteArray &line) {
 }
 
 bool isRouteLine(const QByteArray &line) {
-    return isFilterLine(line) && line.contains(K::UpdateDocumentFormat);
+    return isFilterLine(line) && line.contains(K::updateDocumentFormat);
 }
 
 QByteArray routeLine(const Lines &lines) {
     const bool filter2 = std::any_of(lines.begin(), lines.end(), [](const QByteArray &line) {
         return line.startsWith(filter2Keyword);
     });
-    const QByteArray format = K::UpdateDocumentFormat;
+    const QByteArray format = K::updateDocumentFormat;
     return filter2 ? QByteArray(filter2Keyword) + " \"" + format + " " + format + " 0 " +
-                         K::DriverFilter + "\""
-                   : QByteArray(filterKeyword) + " \"" + format + " 0 " + K::DriverFilter + "\"";
+                         K::driverFilter + "\""
+                   : QByteArray(filterKeyword) + " \"" + format + " 0 " + K::driverFilter + "\"";
 }
 
 bool holds(const Lines &lines, const char *keyword) {

@@ -32,7 +32,7 @@ QString OVStoredSettings::defaultFolderName(int number) {
 
 OVSettingsSnapshot OVStoredSettings::defaults() {
     OVSettingsSnapshot settings;
-    settings.snmpCommunityText = OrvoSettingsKeywords::DefaultCommunity;
+    settings.snmpCommunityText = OrvoSettingsKeywords::defaultCommunity;
     for (int number = 1; number <= defaultFolderCount; ++number)
         settings.allSharedBoxNames << defaultFolderName(number);
     settings.selectedSharedBoxNames = {defaultFolderName(1)};

@@ -85,7 +85,7 @@ void writeUpdateFile(const char *fileName) {
     FILE *file = std::fopen(fileName, "a+");
     if (!file)
         return;
-    std::fwrite(K::UpdateFileContent, 1, std::strlen(K::UpdateFileContent), file);
+    std::fwrite(K::updateFileContent, 1, std::strlen(K::updateFileContent), file);
     std::fclose(file);
 }
 
@@ -100,7 +100,7 @@ int OVUpdateJob::cupsAddMuliPartOption(const char *keyword, const QString &value
 
 OVUpdateJob::OptionList OVUpdateJob::optionList(const OVSettingsSnapshot &snapshot) {
     OptionList list;
-    list.emplaceBack(K::UpdatePPDOptions, K::UpdatePPDOptionsValue);
+    list.emplaceBack(K::UpdatePPDOptions, K::updatePpdOptionsValue);
     list.emplaceBack(K::PPDOptionsUpdated, flag(snapshot.isPPDOptionsUpdated));
     list.emplaceBack(K::IsCustomSnmpCommunity, flag(snapshot.snmpCommunityCheck));
     if (snapshot.snmpCommunityCheck)
@@ -158,14 +158,14 @@ int OVUpdateJob::saveOptionsToPPD(const OVSettingsSnapshot &snapshot, const QStr
     int numOptions = addOptions(optionList(snapshot), 0, &options);
     // cupsPrintFile2 sends the file in the format this option names, which a
     // set-up queue routes to the driver filter alone.
-    numOptions = cupsAddOption(documentFormatOption, K::UpdateDocumentFormat, numOptions, &options);
+    numOptions = cupsAddOption(documentFormatOption, K::updateDocumentFormat, numOptions, &options);
     int jobId = 0;
     char fileName[tempFileNameSize];
     if (cups_file_t *file = cupsTempFile2(fileName, sizeof fileName)) {
         cupsFileClose(file);
         writeUpdateFile(fileName);
         jobId = cupsPrintFile2(connection.http(), printerID.toUtf8().constData(), fileName,
-                               K::UpdateJobTitle, numOptions, options);
+                               K::updateJobTitle, numOptions, options);
         unlink(fileName);
     }
     cupsFreeOptions(numOptions, options);

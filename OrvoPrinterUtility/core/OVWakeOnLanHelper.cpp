@@ -247,7 +247,7 @@ bool OVWakeOnLanHelper::SnmpWakeUpOnLan(const QString &ipAddress, const QString 
         return false;
     }
     const QByteArray given = fitting(snmpComm.toUtf8(), kCommunityBuffer);
-    const QString community = given.isEmpty() ? QString(OrvoSettingsKeywords::DefaultCommunity)
+    const QString community = given.isEmpty() ? QString(OrvoSettingsKeywords::defaultCommunity)
                                               : QString::fromUtf8(given);
     const int ipType = spJudgeIPtype(address.constData());
     if (waitWhileAsleep(address.constData(), community))

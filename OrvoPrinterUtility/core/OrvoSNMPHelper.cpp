@@ -123,7 +123,7 @@ bool OrvoSNMPHelper::isCustomSnmpCommunity(ppd_file_t *ppdFile) {
 
 QString OrvoSNMPHelper::snmpCommunityName(ppd_file_t *ppdFile) {
     const QString name = getDecodedPPDAttributeValueForName(K::SnmpCommunityName, ppdFile);
-    return name.isNull() ? QString(K::DefaultCommunity) : name;
+    return name.isNull() ? QString(K::defaultCommunity) : name;
 }
 
 bool OrvoSNMPHelper::isWakeOnLan(ppd_file_t *ppdFile) {

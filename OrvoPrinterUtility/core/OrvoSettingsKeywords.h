@@ -45,16 +45,16 @@ inline constexpr int partLength = 200;
 inline constexpr char partSuffixFormat[] = "_Part%d";
 inline constexpr int bufferSize = 4096;
 
-inline constexpr char UpdatePPDOptionsValue[] = "True";
-inline constexpr char UpdateJobTitle[] = "UpdatePPDOptions";
-inline constexpr char UpdateFileContent[] = "Update";
-inline constexpr char DefaultCommunity[] = "cobalt";
+inline constexpr char updatePpdOptionsValue[] = "True";
+inline constexpr char updateJobTitle[] = "UpdatePPDOptions";
+inline constexpr char updateFileContent[] = "Update";
+inline constexpr char defaultCommunity[] = "cobalt";
 
 // The update job's own document format: a queue set up for the utility routes
 // it to the driver filter alone, so the job never reaches the printer's driver
 // and print jobs never reach the filter.
-inline constexpr char UpdateDocumentFormat[] = "application/vnd.orvo-settings-update";
-inline constexpr char DriverFilter[] = "orvo-ppd-update";
+inline constexpr char updateDocumentFormat[] = "application/vnd.orvo-settings-update";
+inline constexpr char driverFilter[] = "orvo-ppd-update";
 
 inline constexpr Keyword all[] = {
     {UpdatePPDOptions, Encoding::JobMarker, 0},

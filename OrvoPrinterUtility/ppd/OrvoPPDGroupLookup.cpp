@@ -4,7 +4,7 @@
 #include <set>
 
 OrvoPPDGroupLookup::OrvoPPDGroupLookup(const OrvoPPDKeywordScan::GroupRanges &ranges)
-    : ranges(ranges) {
+    : m_ranges(ranges) {
     // (position, group, opens) for every non-empty range, swept in order.
     std::vector<std::tuple<qsizetype, qsizetype, bool>> events;
     for (qsizetype i = 0; i < ranges.size(); ++i) {
@@ -25,15 +25,15 @@ OrvoPPDGroupLookup::OrvoPPDGroupLookup(const OrvoPPDKeywordScan::GroupRanges &ra
             else
                 open.erase(open.find(group));
         }
-        pieces.push_back({position, open.empty() ? -1 : *open.begin()});
+        m_pieces.push_back({position, open.empty() ? -1 : *open.begin()});
     }
 }
 
 QString OrvoPPDGroupLookup::find(OrvoPPDRange itemRange) const {
     const auto after = std::upper_bound(
-        pieces.begin(), pieces.end(), itemRange.location,
+        m_pieces.begin(), m_pieces.end(), itemRange.location,
         [](qsizetype location, const Piece &piece) { return location < piece.start; });
-    if (after == pieces.begin() || (after - 1)->group < 0)
+    if (after == m_pieces.begin() || (after - 1)->group < 0)
         return QString::fromLatin1(OrvoPPDKeywordScan::generalGroup);
-    return ranges[(after - 1)->group].first;
+    return m_ranges[(after - 1)->group].first;
 }

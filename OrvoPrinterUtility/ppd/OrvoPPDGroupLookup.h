@@ -19,6 +19,6 @@ private:
         qsizetype group; // index into ranges, -1 for none
     };
 
-    OrvoPPDKeywordScan::GroupRanges ranges;
-    std::vector<Piece> pieces;
+    OrvoPPDKeywordScan::GroupRanges m_ranges;
+    std::vector<Piece> m_pieces;
 };

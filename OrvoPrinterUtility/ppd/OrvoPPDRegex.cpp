@@ -20,10 +20,10 @@ OrvoPPDRegex::OrvoPPDRegex(const QString &pattern, bool caseInsensitive) {
     UParseError parseError;
     const icu::UnicodeString source(false, reinterpret_cast<const UChar *>(pattern.utf16()),
                                     int32_t(pattern.size()));
-    compiled.reset(icu::RegexPattern::compile(source, caseInsensitive ? UREGEX_CASE_INSENSITIVE : 0,
-                                              parseError, status));
+    m_compiled.reset(icu::RegexPattern::compile(
+        source, caseInsensitive ? UREGEX_CASE_INSENSITIVE : 0, parseError, status));
     if (U_FAILURE(status))
-        compiled.reset();
+        m_compiled.reset();
 }
 
 OrvoPPDRegex::~OrvoPPDRegex() = default;
@@ -31,13 +31,13 @@ OrvoPPDRegex::~OrvoPPDRegex() = default;
 template <typename Visit>
 void OrvoPPDRegex::scan(QStringView text, qsizetype from, qsizetype to, Visit visit) const {
     // ICU indexes with 32-bit integers; longer texts are never searched.
-    if (!compiled || from < 0 || to > text.size() || from > to ||
+    if (!m_compiled || from < 0 || to > text.size() || from > to ||
         to - from > std::numeric_limits<int32_t>::max())
         return;
     const icu::UnicodeString input(false, reinterpret_cast<const UChar *>(text.data() + from),
                                    int32_t(to - from));
     UErrorCode status = U_ZERO_ERROR;
-    std::unique_ptr<icu::RegexMatcher> matcher(compiled->matcher(input, status));
+    std::unique_ptr<icu::RegexMatcher> matcher(m_compiled->matcher(input, status));
     if (U_FAILURE(status))
         return;
     const int groups = matcher->groupCount();

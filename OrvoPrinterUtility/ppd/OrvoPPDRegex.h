@@ -31,7 +31,7 @@ public:
     OrvoPPDRegex(const OrvoPPDRegex &) = delete;
     OrvoPPDRegex &operator=(const OrvoPPDRegex &) = delete;
 
-    bool isValid() const { return compiled != nullptr; }
+    bool isValid() const { return m_compiled != nullptr; }
     // Every non-overlapping match inside text[from, to), in text order.
     std::vector<Match> findAll(QStringView text, qsizetype from, qsizetype to) const;
     std::vector<Match> findAll(QStringView text) const { return findAll(text, 0, text.size()); }
@@ -46,5 +46,5 @@ private:
     template <typename Visit>
     void scan(QStringView text, qsizetype from, qsizetype to, Visit visit) const;
 
-    std::unique_ptr<icu::RegexPattern> compiled;
+    std::unique_ptr<icu::RegexPattern> m_compiled;
 };

@@ -29,21 +29,21 @@ std::vector<qsizetype> occurrences(QStringView text, QStringView literal) {
 template <typename Predicate> class ForwardFinder {
 public:
     ForwardFinder(QStringView text, Predicate predicate)
-        : text(text)
-        , predicate(predicate) {}
+        : m_text(text)
+        , m_predicate(predicate) {}
     qsizetype next(qsizetype from) {
-        if (found >= from)
-            return found;
-        found = from;
-        while (found < text.size() && !predicate(text[found]))
-            ++found;
-        return found;
+        if (m_found >= from)
+            return m_found;
+        m_found = from;
+        while (m_found < m_text.size() && !m_predicate(m_text[m_found]))
+            ++m_found;
+        return m_found;
     }
 
 private:
-    QStringView text;
-    Predicate predicate;
-    qsizetype found = -1;
+    QStringView m_text;
+    Predicate m_predicate;
+    qsizetype m_found = -1;
 };
 
 bool isPlainChar(QChar c) {
@@ -73,7 +73,7 @@ bool OrvoPPDScanIndex::isPlain(QStringView keyword) {
 }
 
 OrvoPPDScanIndex::OrvoPPDScanIndex(const QString &text)
-    : text(text) {
+    : m_text(text) {
     indexGroups();
     for (qsizetype at = text.indexOf(optionKeywordTag); at >= 0;) {
         const qsizetype from = at + optionKeywordTag.size();
@@ -82,7 +82,7 @@ OrvoPPDScanIndex::OrvoPPDScanIndex(const QString &text)
             ++stop;
         const bool matched = stop < text.size() && text[stop] == u'/';
         if (matched)
-            options.append(text.sliced(from, stop - from));
+            m_options.append(text.sliced(from, stop - from));
         at = text.indexOf(optionKeywordTag, matched ? stop + 1 : at + 1);
     }
     indexOptionStarts();
@@ -91,25 +91,25 @@ OrvoPPDScanIndex::OrvoPPDScanIndex(const QString &text)
 }
 
 qsizetype OrvoPPDScanIndex::lineEnd(qsizetype position) const {
-    while (position < text.size() && !isLineTerminator(text[position]))
+    while (position < m_text.size() && !isLineTerminator(m_text[position]))
         ++position;
     return position;
 }
 
 qsizetype OrvoPPDScanIndex::lineStart(qsizetype position) const {
-    while (position > 0 && !isLineTerminator(text[position - 1]))
+    while (position > 0 && !isLineTerminator(m_text[position - 1]))
         --position;
     return position;
 }
 
 qsizetype OrvoPPDScanIndex::skipBlanks(qsizetype position) const {
-    while (position < text.size() && text[position] == u' ')
+    while (position < m_text.size() && m_text[position] == u' ')
         ++position;
     return position;
 }
 
 qsizetype OrvoPPDScanIndex::plainRunEnd(qsizetype position) const {
-    while (position < text.size() && isPlainChar(text[position]))
+    while (position < m_text.size() && isPlainChar(m_text[position]))
         ++position;
     return position;
 }
@@ -134,30 +134,30 @@ qsizetype OrvoPPDScanIndex::lastOf(const LineIndex &index, QStringView key) {
 // name less the last character) and ends after the first "*CloseGroup:" whose
 // name starts with it.
 void OrvoPPDScanIndex::indexGroups() {
-    const QStringView view(text);
+    const QStringView view(m_text);
     ForwardFinder slashOrEnd(view, [](QChar c) { return c == u'/' || isLineTerminator(c); });
     qsizetype nextLine = 0;
     for (const qsizetype at : occurrences(view, openGroupTag)) {
         const qsizetype name = skipBlanks(at + openGroupTag.size());
         const qsizetype stop = slashOrEnd.next(name);
-        if (stop == text.size() || text[stop] != u'/')
+        if (stop == m_text.size() || m_text[stop] != u'/')
             continue;
         const QStringView token = view.sliced(name, stop - name);
-        insertFirst(openGroupFirst, token, at);
+        insertFirst(m_openGroupFirst, token, at);
         if (at >= nextLine) {
-            groups.append(token.toString());
+            m_groups.append(token.toString());
             nextLine = lineEnd(stop);
         }
     }
-    groups.prepend(QString::fromLatin1(OrvoPPDKeywordScan::generalGroup));
-    const QList<qsizetype> lengths = plainLengths(groups);
+    m_groups.prepend(QString::fromLatin1(OrvoPPDKeywordScan::generalGroup));
+    const QList<qsizetype> lengths = plainLengths(m_groups);
     for (const qsizetype at : occurrences(view, closeGroupTag)) {
         const qsizetype name = skipBlanks(at + closeGroupTag.size());
         const qsizetype run = plainRunEnd(name) - name;
         for (const qsizetype length : lengths) {
             if (length > run)
                 break;
-            insertFirst(closeGroupFirst, view.sliced(name, length), Line{at, name + length});
+            insertFirst(m_closeGroupFirst, view.sliced(name, length), Line{at, name + length});
         }
     }
 }
@@ -167,21 +167,21 @@ void OrvoPPDScanIndex::indexGroups() {
 // slash follow; a plain keyword holds neither asterisk nor slash, so the names
 // between an asterisk and the next slash are all a line can match.
 void OrvoPPDScanIndex::indexOptionStarts() {
-    const QStringView view(text);
-    openOccurrences = occurrences(view, openUITag);
+    const QStringView view(m_text);
+    m_openOccurrences = occurrences(view, openUITag);
     qsizetype currentLineEnd = -1;
-    for (const qsizetype at : openOccurrences) {
+    for (const qsizetype at : m_openOccurrences) {
         if (at <= currentLineEnd)
             continue;
         currentLineEnd = lineEnd(at);
-        const qsizetype line = qsizetype(openLines.size());
-        openLines.push_back({at, currentLineEnd});
+        const qsizetype line = qsizetype(m_openLines.size());
+        m_openLines.push_back({at, currentLineEnd});
         qsizetype star = -1;
         for (qsizetype i = at + openUITag.size(); i < currentLineEnd; ++i) {
-            if (text[i] == u'*') {
+            if (m_text[i] == u'*') {
                 star = i;
-            } else if (text[i] == u'/' && star >= 0) {
-                addLine(openLinesByName[view.sliced(star + 1, i - star - 1)], line);
+            } else if (m_text[i] == u'/' && star >= 0) {
+                addLine(m_openLinesByName[view.sliced(star + 1, i - star - 1)], line);
                 star = -1;
             }
         }
@@ -191,28 +191,28 @@ void OrvoPPDScanIndex::indexOptionStarts() {
 // The end pattern matches a line ended by a line feed whose text after its
 // first "*CloseUI:", less trailing blanks, ends with the keyword.
 void OrvoPPDScanIndex::indexOptionEnds() {
-    const QStringView view(text);
-    const QList<qsizetype> lengths = plainLengths(options);
+    const QStringView view(m_text);
+    const QList<qsizetype> lengths = plainLengths(m_options);
     qsizetype currentLineEnd = -1;
     for (const qsizetype at : occurrences(view, closeUITag)) {
         if (at <= currentLineEnd)
             continue;
         currentLineEnd = lineEnd(at);
-        if (currentLineEnd == text.size() || text[currentLineEnd] != u'\n')
+        if (currentLineEnd == m_text.size() || m_text[currentLineEnd] != u'\n')
             continue;
-        const qsizetype line = qsizetype(closeLines.size());
-        closeLines.push_back({at, currentLineEnd + 1});
+        const qsizetype line = qsizetype(m_closeLines.size());
+        m_closeLines.push_back({at, currentLineEnd + 1});
         const qsizetype from = at + closeUITag.size();
         qsizetype end = currentLineEnd;
-        while (end > from && text[end - 1] == u' ')
+        while (end > from && m_text[end - 1] == u' ')
             --end;
         qsizetype run = end;
-        while (run > from && isPlainChar(text[run - 1]))
+        while (run > from && isPlainChar(m_text[run - 1]))
             --run;
         for (const qsizetype length : lengths) {
             if (length > end - run)
                 break;
-            addLine(closeLinesBySuffix[view.sliced(end - length, length)], line);
+            addLine(m_closeLinesBySuffix[view.sliced(end - length, length)], line);
         }
     }
 }
@@ -220,34 +220,34 @@ void OrvoPPDScanIndex::indexOptionEnds() {
 // A custom line of a plain keyword has the keyword between "*Custom" and the
 // first blank.
 void OrvoPPDScanIndex::indexCustomLines() {
-    const QStringView view(text);
+    const QStringView view(m_text);
     ForwardFinder blankOrEnd(view, [](QChar c) { return c == u' ' || isLineTerminator(c); });
     qsizetype currentStart = -1;
     qsizetype currentEnd = -1;
     for (const qsizetype at : occurrences(view, customTag)) {
         const qsizetype name = at + customTag.size();
         const qsizetype stop = blankOrEnd.next(name);
-        if (stop == text.size() || text[stop] != u' ')
+        if (stop == m_text.size() || m_text[stop] != u' ')
             continue;
         if (at > currentEnd) {
             currentStart = lineStart(at);
             currentEnd = lineEnd(at);
         }
-        addLine(customLinesByName[view.sliced(name, stop - name)], currentStart);
+        addLine(m_customLinesByName[view.sliced(name, stop - name)], currentStart);
     }
 }
 
 OrvoPPDRange OrvoPPDScanIndex::groupRange(const QString &name) const {
     if (!isPlain(name))
-        return OrvoPPDKeywordScan::groupRange(text, name);
-    const auto whole = openGroupFirst.constFind(name);
-    const auto shorter = openGroupFirst.constFind(QStringView(name).chopped(1));
-    const auto close = closeGroupFirst.constFind(name);
-    if ((whole == openGroupFirst.constEnd() && shorter == openGroupFirst.constEnd()) ||
-        close == closeGroupFirst.constEnd())
+        return OrvoPPDKeywordScan::groupRange(m_text, name);
+    const auto whole = m_openGroupFirst.constFind(name);
+    const auto shorter = m_openGroupFirst.constFind(QStringView(name).chopped(1));
+    const auto close = m_closeGroupFirst.constFind(name);
+    if ((whole == m_openGroupFirst.constEnd() && shorter == m_openGroupFirst.constEnd()) ||
+        close == m_closeGroupFirst.constEnd())
         return {};
-    qsizetype open = whole == openGroupFirst.constEnd() ? *shorter : *whole;
-    if (shorter != openGroupFirst.constEnd())
+    qsizetype open = whole == m_openGroupFirst.constEnd() ? *shorter : *whole;
+    if (shorter != m_openGroupFirst.constEnd())
         open = qMin(open, *shorter);
     return OrvoPPDRange::unite({open, lineEnd(open) - open},
                                {close->start, close->end - close->start});
@@ -255,34 +255,35 @@ OrvoPPDRange OrvoPPDScanIndex::groupRange(const QString &name) const {
 
 OrvoPPDRange OrvoPPDScanIndex::optionRange(const QString &keyword) const {
     if (!isPlain(keyword))
-        return OrvoPPDKeywordScan::optionRange(text, keyword);
-    const qsizetype line = qMax(lastOf(openLinesByName, keyword),
-                                lastOf(openLinesByName, QStringView(keyword).chopped(1)));
+        return OrvoPPDKeywordScan::optionRange(m_text, keyword);
+    const qsizetype line = qMax(lastOf(m_openLinesByName, keyword),
+                                lastOf(m_openLinesByName, QStringView(keyword).chopped(1)));
     OrvoPPDRange start;
     if (line >= 0)
-        start = {openLines[size_t(line)].start,
-                 openLines[size_t(line)].end - openLines[size_t(line)].start};
-    const qsizetype closeLine = lastOf(closeLinesBySuffix, keyword);
+        start = {m_openLines[size_t(line)].start,
+                 m_openLines[size_t(line)].end - m_openLines[size_t(line)].start};
+    const qsizetype closeLine = lastOf(m_closeLinesBySuffix, keyword);
     if (closeLine < 0)
         return followingOpenEnd(start);
-    const Line &close = closeLines[size_t(closeLine)];
+    const Line &close = m_closeLines[size_t(closeLine)];
     return OrvoPPDRange::unite(start, {close.start, close.end - close.start});
 }
 
 OrvoPPDRange OrvoPPDScanIndex::followingOpenEnd(OrvoPPDRange start) const {
-    const auto next = std::lower_bound(openOccurrences.begin(), openOccurrences.end(), start.end());
-    if (next == openOccurrences.end())
+    const auto next =
+        std::lower_bound(m_openOccurrences.begin(), m_openOccurrences.end(), start.end());
+    if (next == m_openOccurrences.end())
         return OrvoPPDRange::unite(start, {});
     return OrvoPPDKeywordScan::uniteWithLineBefore(
-        text, start, QStringView(text).sliced(*next, lineEnd(*next) - *next));
+        m_text, start, QStringView(m_text).sliced(*next, lineEnd(*next) - *next));
 }
 
 OrvoPPDScanIndex::Line OrvoPPDScanIndex::lineWithin(qsizetype position, OrvoPPDRange range) const {
     qsizetype start = position;
-    while (start > range.location && !isLineTerminator(text[start - 1]))
+    while (start > range.location && !isLineTerminator(m_text[start - 1]))
         --start;
     qsizetype end = position;
-    while (end < range.end() && !isLineTerminator(text[end]))
+    while (end < range.end() && !isLineTerminator(m_text[end]))
         ++end;
     return {start, end};
 }
@@ -291,7 +292,7 @@ OrvoPPDScanIndex::Line OrvoPPDScanIndex::lineWithin(qsizetype position, OrvoPPDR
 // line's last two double quotes, both after that colon.
 std::optional<OrvoPPDScanIndex::QuotedCode> OrvoPPDScanIndex::quotedCode(Line line,
                                                                          qsizetype from) const {
-    const QStringView view = QStringView(text).sliced(line.start, line.end - line.start);
+    const QStringView view = QStringView(m_text).sliced(line.start, line.end - line.start);
     const qsizetype colon = view.indexOf(u':', from - line.start);
     const qsizetype last = view.lastIndexOf(u'"');
     const qsizetype secondLast = last > 0 ? view.lastIndexOf(u'"', last - 1) : -1;
@@ -304,13 +305,14 @@ std::optional<OrvoPPDScanIndex::QuotedCode> OrvoPPDScanIndex::quotedCode(Line li
 // after `from` and ends before `before`, or -1.
 qsizetype OrvoPPDScanIndex::translationSlash(qsizetype from, qsizetype before,
                                              const QString &keyword) const {
-    const QStringView view(text);
+    const QStringView view(m_text);
     const QStringView shorter = QStringView(keyword).chopped(1);
     for (qsizetype star = view.lastIndexOf(u'*', before - 1); star >= from;
          star = star > 0 ? view.lastIndexOf(u'*', star - 1) : -1) {
         for (const QStringView name : {QStringView(keyword), shorter}) {
             const qsizetype slash = star + 1 + name.size();
-            if (slash < before && text[slash] == u'/' && view.sliced(star + 1, name.size()) == name)
+            if (slash < before && m_text[slash] == u'/' &&
+                view.sliced(star + 1, name.size()) == name)
                 return slash;
         }
     }
@@ -320,23 +322,23 @@ qsizetype OrvoPPDScanIndex::translationSlash(qsizetype from, qsizetype before,
 std::optional<QStringView> OrvoPPDScanIndex::optionText(const QString &keyword,
                                                         OrvoPPDRange range) const {
     if (!isPlain(keyword))
-        return OrvoPPDKeywordScan::optionText(text, keyword, range);
-    auto next = std::lower_bound(openOccurrences.begin(), openOccurrences.end(),
+        return OrvoPPDKeywordScan::optionText(m_text, keyword, range);
+    auto next = std::lower_bound(m_openOccurrences.begin(), m_openOccurrences.end(),
                                  range.end() - openUITag.size() + 1);
     const auto first =
-        std::lower_bound(openOccurrences.begin(), openOccurrences.end(), range.location);
+        std::lower_bound(m_openOccurrences.begin(), m_openOccurrences.end(), range.location);
     while (next != first) {
         const Line line = lineWithin(*(next - 1), range);
         while (next != first && *(next - 1) >= line.start)
             --next;
         // The line's first "*OpenUI" starts the match; the text runs to the last colon.
         const qsizetype colon =
-            QStringView(text).sliced(line.start, line.end - line.start).lastIndexOf(u':');
+            QStringView(m_text).sliced(line.start, line.end - line.start).lastIndexOf(u':');
         const qsizetype slash =
             colon < 0 ? -1
                       : translationSlash(*next + openUITag.size(), line.start + colon, keyword);
         if (slash >= 0)
-            return QStringView(text).sliced(slash + 1, line.start + colon - slash - 1);
+            return QStringView(m_text).sliced(slash + 1, line.start + colon - slash - 1);
     }
     return std::nullopt;
 }
@@ -344,40 +346,40 @@ std::optional<QStringView> OrvoPPDScanIndex::optionText(const QString &keyword,
 std::optional<QStringView> OrvoPPDScanIndex::defaultChoice(const QString &keyword,
                                                            OrvoPPDRange range) const {
     if (!isPlain(keyword))
-        return OrvoPPDKeywordScan::defaultChoice(text, keyword, range);
+        return OrvoPPDKeywordScan::defaultChoice(m_text, keyword, range);
     const QString needle = QStringLiteral("*Default") + keyword + u':';
-    const QStringView own = QStringView(text).sliced(range.location, range.length);
+    const QStringView own = QStringView(m_text).sliced(range.location, range.length);
     const qsizetype last = own.lastIndexOf(needle);
     if (last < 0)
         return std::nullopt;
     const Line line = lineWithin(range.location + last, range);
     const qsizetype first = own.indexOf(needle, line.start - range.location) + range.location;
     qsizetype value = first + needle.size();
-    while (value < line.end && text[value] == u' ')
+    while (value < line.end && m_text[value] == u' ')
         ++value;
-    return QStringView(text).sliced(value, line.end - value);
+    return QStringView(m_text).sliced(value, line.end - value);
 }
 
 QList<OrvoPPDModel::Choice> OrvoPPDScanIndex::choices(const QString &keyword,
                                                       OrvoPPDRange range) const {
     if (!isPlain(keyword))
-        return OrvoPPDKeywordScan::choices(text, keyword, range);
+        return OrvoPPDKeywordScan::choices(m_text, keyword, range);
     QList<OrvoPPDModel::Choice> found;
     // One match at most per line, from the line's first "*keyword ".
     const QString needle = u'*' + keyword + u' ';
-    const QStringView own = QStringView(text).sliced(range.location, range.length);
+    const QStringView own = QStringView(m_text).sliced(range.location, range.length);
     for (qsizetype at = own.indexOf(needle); at >= 0;) {
         const Line line = lineWithin(range.location + at, range);
         qsizetype key = range.location + at + needle.size();
-        while (key < line.end && text[key] == u' ')
+        while (key < line.end && m_text[key] == u' ')
             ++key;
-        const qsizetype slash = QStringView(text).sliced(key, line.end - key).indexOf(u'/');
+        const qsizetype slash = QStringView(m_text).sliced(key, line.end - key).indexOf(u'/');
         if (slash >= 0) {
             if (const auto code = quotedCode(line, key + slash + 1))
                 found.append(
-                    {QStringView(text).sliced(key, slash),
-                     QStringView(text).sliced(key + slash + 1, code->colon - key - slash - 1),
-                     QStringView(text).sliced(code->start, code->end - code->start)});
+                    {QStringView(m_text).sliced(key, slash),
+                     QStringView(m_text).sliced(key + slash + 1, code->colon - key - slash - 1),
+                     QStringView(m_text).sliced(code->start, code->end - code->start)});
         }
         at = line.end - range.location < own.size() ? own.indexOf(needle, line.end - range.location)
                                                     : -1;
@@ -387,20 +389,21 @@ QList<OrvoPPDModel::Choice> OrvoPPDScanIndex::choices(const QString &keyword,
 
 QList<QStringView> OrvoPPDScanIndex::customCodes(const QString &keyword) const {
     if (!isPlain(keyword))
-        return OrvoPPDKeywordScan::customCodes(text, keyword);
+        return OrvoPPDKeywordScan::customCodes(m_text, keyword);
     QList<QStringView> codes;
-    const auto lines = customLinesByName.constFind(keyword);
-    if (lines == customLinesByName.constEnd())
+    const auto lines = m_customLinesByName.constFind(keyword);
+    if (lines == m_customLinesByName.constEnd())
         return codes;
     const QString needle = customTag.toString() + keyword + u' ';
     for (const qsizetype start : *lines) {
         const Line line{start, lineEnd(start)};
-        qsizetype name = QStringView(text).sliced(start, line.end - start).indexOf(needle) + start;
+        qsizetype name =
+            QStringView(m_text).sliced(start, line.end - start).indexOf(needle) + start;
         name += needle.size();
-        while (name < line.end && text[name] == u' ')
+        while (name < line.end && m_text[name] == u' ')
             ++name;
         if (const auto code = quotedCode(line, name))
-            codes.append(QStringView(text).sliced(code->start, code->end - code->start));
+            codes.append(QStringView(m_text).sliced(code->start, code->end - code->start));
     }
     return codes;
 }
@@ -409,13 +412,13 @@ QList<QStringView> OrvoPPDScanIndex::customCodes(const QString &keyword) const {
 // any blank; its value runs from after the colon's blanks to the line's end,
 // where the next search starts.
 std::vector<OrvoPPDScanIndex::Attribute> OrvoPPDScanIndex::attributes() const {
-    const QStringView view(text);
+    const QStringView view(m_text);
     ForwardFinder colon(view, [](QChar c) { return c == u':'; });
     ForwardFinder blank(view, [](QChar c) { return c == u' '; });
     std::vector<Attribute> found;
     for (qsizetype star = view.indexOf(u'*'); star >= 0;) {
         const qsizetype nameEnd = colon.next(star + 1);
-        if (nameEnd < text.size() && nameEnd < blank.next(star + 1)) {
+        if (nameEnd < m_text.size() && nameEnd < blank.next(star + 1)) {
             const qsizetype value = skipBlanks(nameEnd + 1);
             const qsizetype valueEnd = lineEnd(value);
             found.push_back(

@@ -26,8 +26,8 @@ public:
 
     explicit OrvoPPDScanIndex(const QString &text);
 
-    const QStringList &groupKeywords() const { return groups; }
-    const QStringList &optionKeywords() const { return options; }
+    const QStringList &groupKeywords() const { return m_groups; }
+    const QStringList &optionKeywords() const { return m_options; }
     OrvoPPDRange groupRange(const QString &name) const;
     OrvoPPDRange optionRange(const QString &keyword) const;
     // Within the option's own text: its translation, its default choice and
@@ -71,15 +71,15 @@ private:
     qsizetype skipBlanks(qsizetype position) const;
     qsizetype plainRunEnd(qsizetype position) const;
 
-    const QString text;
-    QStringList groups;
-    QStringList options;
-    QHash<QStringView, qsizetype> openGroupFirst;
-    QHash<QStringView, Line> closeGroupFirst;
-    std::vector<Line> openLines;
-    LineIndex openLinesByName;
-    std::vector<Line> closeLines;
-    LineIndex closeLinesBySuffix;
-    std::vector<qsizetype> openOccurrences;
-    LineIndex customLinesByName;
+    const QString m_text;
+    QStringList m_groups;
+    QStringList m_options;
+    QHash<QStringView, qsizetype> m_openGroupFirst;
+    QHash<QStringView, Line> m_closeGroupFirst;
+    std::vector<Line> m_openLines;
+    LineIndex m_openLinesByName;
+    std::vector<Line> m_closeLines;
+    LineIndex m_closeLinesBySuffix;
+    std::vector<qsizetype> m_openOccurrences;
+    LineIndex m_customLinesByName;
 };

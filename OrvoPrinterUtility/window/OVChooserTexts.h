@@ -8,62 +8,62 @@
 // Localization keys of the queue chooser and the password prompt: the English
 // text, looked up through OVPrinterUtilityHelper::getLocalizedStringFor.
 namespace OVChooserTexts {
-inline constexpr char ChooserTitle[] = "Choose a Print Queue";
-inline constexpr char ChooserIntro[] =
+inline constexpr char chooserTitle[] = "Choose a Print Queue";
+inline constexpr char chooserIntro[] =
     "Choose the print queue whose printer settings you want to change.";
-inline constexpr char FilterLabel[] = "&Filter:";
-inline constexpr char FilterPlaceholder[] = "Name, description, make or model";
-inline constexpr char QueueList[] = "Print queues";
-inline constexpr char QueueColumn[] = "Queue";
-inline constexpr char DescriptionColumn[] = "Description";
-inline constexpr char MakeAndModelColumn[] = "Make and Model";
-inline constexpr char UtilityColumn[] = "Utility";
-inline constexpr char SetUp[] = "Set up";
-inline constexpr char NotSetUp[] = "Not set up";
-inline constexpr char Loading[] = "Asking the print server for its queues...";
-inline constexpr char Unreachable[] =
+inline constexpr char filterLabel[] = "&Filter:";
+inline constexpr char filterPlaceholder[] = "Name, description, make or model";
+inline constexpr char queueList[] = "Print queues";
+inline constexpr char queueColumn[] = "Queue";
+inline constexpr char descriptionColumn[] = "Description";
+inline constexpr char makeAndModelColumn[] = "Make and Model";
+inline constexpr char utilityColumn[] = "Utility";
+inline constexpr char setUp[] = "Set up";
+inline constexpr char notSetUp[] = "Not set up";
+inline constexpr char loading[] = "Asking the print server for its queues...";
+inline constexpr char unreachable[] =
     "The print server %1 cannot be reached. Check that it is running, then try again."; // %1: the
                                                                                         // server
-inline constexpr char NoQueues[] =
+inline constexpr char noQueues[] =
     "The print server %1 has no print queues. Add a printer, then try again."; // %1: the server
-inline constexpr char Open[] = "Open";
-inline constexpr char Cancel[] = "Cancel";
-inline constexpr char Retry[] = "Retry";
-inline constexpr char PasswordTitle[] = "Password Required";
+inline constexpr char open[] = "Open";
+inline constexpr char cancel[] = "Cancel";
+inline constexpr char retry[] = "Retry";
+inline constexpr char passwordTitle[] = "Password Required";
 // %1: the server, %2: the queue
-inline constexpr char PasswordForQueue[] =
+inline constexpr char passwordForQueue[] =
     "The print server %1 asks for a user name and password to change the queue \"%2\".";
-inline constexpr char PasswordForServer[] =
+inline constexpr char passwordForServer[] =
     "The print server %1 asks for a user name and password."; // %1: the server
-inline constexpr char PasswordRefused[] = "The user name or password was not accepted. Try again.";
-inline constexpr char UserName[] = "&User name:";
-inline constexpr char Password[] = "&Password:";
+inline constexpr char passwordRefused[] = "The user name or password was not accepted. Try again.";
+inline constexpr char userName[] = "&User name:";
+inline constexpr char password[] = "&Password:";
 
 // Every key above.
 inline constexpr const char *localizedKeys[] = {
-    ChooserTitle,
-    ChooserIntro,
-    FilterLabel,
-    FilterPlaceholder,
-    QueueList,
-    QueueColumn,
-    DescriptionColumn,
-    MakeAndModelColumn,
-    UtilityColumn,
-    SetUp,
-    NotSetUp,
-    Loading,
-    Unreachable,
-    NoQueues,
-    Open,
-    Cancel,
-    Retry,
-    PasswordTitle,
-    PasswordForQueue,
-    PasswordForServer,
-    PasswordRefused,
-    UserName,
-    Password,
+    chooserTitle,
+    chooserIntro,
+    filterLabel,
+    filterPlaceholder,
+    queueList,
+    queueColumn,
+    descriptionColumn,
+    makeAndModelColumn,
+    utilityColumn,
+    setUp,
+    notSetUp,
+    loading,
+    unreachable,
+    noQueues,
+    open,
+    cancel,
+    retry,
+    passwordTitle,
+    passwordForQueue,
+    passwordForServer,
+    passwordRefused,
+    userName,
+    password,
 };
 
 // The text in the user's language.

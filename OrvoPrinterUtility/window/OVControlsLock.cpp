@@ -2,15 +2,15 @@
 
 OVControlsLock::OVControlsLock(const QList<QWidget *> &controls) {
     for (QWidget *control : controls) {
-        held_.append({control, control->isEnabled()});
+        m_held.append({control, control->isEnabled()});
         control->setEnabled(false);
     }
 }
 
 void OVControlsLock::release() {
-    for (const auto &[control, enabled] : std::as_const(held_)) {
+    for (const auto &[control, enabled] : std::as_const(m_held)) {
         if (control)
             control->setEnabled(enabled);
     }
-    held_.clear();
+    m_held.clear();
 }

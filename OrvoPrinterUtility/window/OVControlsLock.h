@@ -14,5 +14,5 @@ public:
     void release();
 
 private:
-    QList<std::pair<QPointer<QWidget>, bool>> held_;
+    QList<std::pair<QPointer<QWidget>, bool>> m_held;
 };

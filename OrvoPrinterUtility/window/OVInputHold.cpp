@@ -29,14 +29,14 @@ bool isUserAction(QEvent::Type type) {
 } // namespace
 
 OVInputHold::OVInputHold(QWidget *window, QList<QAbstractButton *> refused)
-    : window_(window)
-    , refused_(std::move(refused)) {
+    : m_window(window)
+    , m_refused(std::move(refused)) {
     QCoreApplication::instance()->installEventFilter(this);
 }
 
 OVInputHold::~OVInputHold() {
     QCoreApplication::instance()->removeEventFilter(this);
-    for (const auto &[receiver, event] : held_) {
+    for (const auto &[receiver, event] : m_held) {
         if (receiver)
             QCoreApplication::sendEvent(receiver, event.get());
     }
@@ -44,14 +44,15 @@ OVInputHold::~OVInputHold() {
 
 bool OVInputHold::isInWindow(QObject *object) const {
     const auto *widget = qobject_cast<QWidget *>(object);
-    return widget && (widget == window_ || window_->isAncestorOf(widget));
+    return widget && (widget == m_window || m_window->isAncestorOf(widget));
 }
 
 bool OVInputHold::eventFilter(QObject *watched, QEvent *event) {
     if (!isUserAction(event->type()) || !isInWindow(watched))
         return false;
-    const bool refused = std::find(refused_.cbegin(), refused_.cend(), watched) != refused_.cend();
+    const bool refused =
+        std::find(m_refused.cbegin(), m_refused.cend(), watched) != m_refused.cend();
     if (!refused)
-        held_.emplace_back(watched, event->clone());
+        m_held.emplace_back(watched, event->clone());
     return true;
 }

@@ -28,7 +28,7 @@ protected:
 private:
     bool isInWindow(QObject *object) const;
 
-    QWidget *window_;
-    QList<QAbstractButton *> refused_;
-    std::vector<std::pair<QPointer<QObject>, std::unique_ptr<QEvent>>> held_;
+    QWidget *m_window;
+    QList<QAbstractButton *> m_refused;
+    std::vector<std::pair<QPointer<QObject>, std::unique_ptr<QEvent>>> m_held;
 };

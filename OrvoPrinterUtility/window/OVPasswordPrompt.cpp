@@ -62,53 +62,53 @@ const char *OVPasswordPrompt::callback(const char *, http_t *http, const char *,
 // connection or a new queue operation starts with every try again, and so
 // does whatever comes after a request that gave up.
 const char *OVPasswordPrompt::answerOnWorker(http_t *http) {
-    if (http != lastConnection_ || ForQueue::operation != lastOperation_) {
-        lastConnection_ = http;
-        lastOperation_ = ForQueue::operation;
-        triesLeft_ = tries;
+    if (http != m_lastConnection || ForQueue::s_operation != m_lastOperation) {
+        m_lastConnection = http;
+        m_lastOperation = ForQueue::s_operation;
+        m_triesLeft = tries;
     }
-    const bool again = triesLeft_ < tries;
-    if (triesLeft_-- == 0)
+    const bool again = m_triesLeft < tries;
+    if (m_triesLeft-- == 0)
         return giveUp();
     const QString server = serverName(http);
-    const QString queue = ForQueue::current;
+    const QString queue = ForQueue::s_current;
     Answer answer;
     QMetaObject::invokeMethod(
         this, [&] { return ask(server, queue, again); }, Qt::BlockingQueuedConnection, &answer);
     if (!answer.given)
         return giveUp();
     cupsSetUser(answer.user.toUtf8().constData());
-    password_ = answer.password.toStdString();
-    return password_.c_str();
+    m_password = answer.password.toStdString();
+    return m_password.c_str();
 }
 
 const char *OVPasswordPrompt::giveUp() {
-    lastConnection_ = nullptr;
+    m_lastConnection = nullptr;
     return nullptr;
 }
 
 OVPasswordPrompt::Answer OVPasswordPrompt::ask(const QString &server, const QString &queue,
                                                bool again) {
     QDialog dialog(QApplication::activeWindow());
-    dialog.setWindowTitle(T::localized(T::PasswordTitle));
+    dialog.setWindowTitle(T::localized(T::passwordTitle));
     auto *form = new QFormLayout(&dialog);
-    QString message = queue.isEmpty() ? T::localized(T::PasswordForServer).arg(server)
-                                      : T::localized(T::PasswordForQueue).arg(server, queue);
+    QString message = queue.isEmpty() ? T::localized(T::passwordForServer).arg(server)
+                                      : T::localized(T::passwordForQueue).arg(server, queue);
     if (again)
-        message += "\n\n" + T::localized(T::PasswordRefused);
+        message += "\n\n" + T::localized(T::passwordRefused);
     auto *explanation = new QLabel(message, &dialog);
     explanation->setObjectName(QStringLiteral("explanation"));
     explanation->setWordWrap(true);
     form->addRow(explanation);
-    QLineEdit *user = addField(form, T::UserName, "userName");
-    QLineEdit *password = addField(form, T::Password, "password");
+    QLineEdit *user = addField(form, T::userName, "userName");
+    QLineEdit *password = addField(form, T::password, "password");
     password->setEchoMode(QLineEdit::Password);
     user->setText(QString::fromUtf8(cupsUser()));
     (user->text().isEmpty() ? user : password)->setFocus();
     auto *buttons = new QDialogButtonBox(&dialog);
-    buttons->addButton(T::localized(OVWindowTexts::OK), QDialogButtonBox::AcceptRole)
+    buttons->addButton(T::localized(OVWindowTexts::ok), QDialogButtonBox::AcceptRole)
         ->setDefault(true);
-    buttons->addButton(T::localized(T::Cancel), QDialogButtonBox::RejectRole);
+    buttons->addButton(T::localized(T::cancel), QDialogButtonBox::RejectRole);
     connect(buttons, &QDialogButtonBox::accepted, &dialog, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
     form->addRow(buttons);

@@ -32,17 +32,17 @@ public:
     class ForQueue {
     public:
         explicit ForQueue(const QString &queue) {
-            current = queue;
-            ++operation;
+            s_current = queue;
+            ++s_operation;
         }
-        ~ForQueue() { current.clear(); }
+        ~ForQueue() { s_current.clear(); }
         ForQueue(const ForQueue &) = delete;
         ForQueue &operator=(const ForQueue &) = delete;
 
     private:
         friend class OVPasswordPrompt;
-        static inline thread_local QString current;
-        static inline thread_local int operation = 0;
+        static inline thread_local QString s_current;
+        static inline thread_local int s_operation = 0;
     };
 
 signals:
@@ -63,8 +63,8 @@ private:
     Answer ask(const QString &server, const QString &queue, bool again);
 
     // Only the worker thread touches these.
-    http_t *lastConnection_ = nullptr;
-    int lastOperation_ = 0;
-    int triesLeft_ = 0;
-    std::string password_;
+    http_t *m_lastConnection = nullptr;
+    int m_lastOperation = 0;
+    int m_triesLeft = 0;
+    std::string m_password;
 };

@@ -29,10 +29,10 @@ std::optional<QVariantMap> &informationDictionary() {
 
 OVPrinterUtilityWindowController::OVPrinterUtilityWindowController(QObject *parent)
     : QObject(parent)
-    , window_(std::make_unique<QWidget>())
-    , ui_(std::make_unique<Ui::MainUtilityWindiw>()) {
-    ui_->setupUi(window_.get());
-    window_->installEventFilter(this);
+    , m_window(std::make_unique<QWidget>())
+    , m_ui(std::make_unique<Ui::MainUtilityWindiw>()) {
+    m_ui->setupUi(m_window.get());
+    m_window->installEventFilter(this);
     resetLaunchState();
     connectActions();
 }
@@ -42,27 +42,27 @@ OVPrinterUtilityWindowController::OVPrinterUtilityWindowController(QObject *pare
 OVPrinterUtilityWindowController::~OVPrinterUtilityWindowController() = default;
 
 QWidget *OVPrinterUtilityWindowController::mainWindowObject() const {
-    return window_.get();
+    return m_window.get();
 }
 Ui::MainUtilityWindiw &OVPrinterUtilityWindowController::controls() const {
-    return *ui_;
+    return *m_ui;
 }
 
 OVTableViewDataSource *OVPrinterUtilityWindowController::registerFolderTableViewDataSource() const {
-    return registerFolderTableViewDataSource_.get();
+    return m_registerFolderTableViewDataSource.get();
 }
 OVTableViewDataSource *OVPrinterUtilityWindowController::selectedFolderTableViewDataSource() const {
-    return selectedFolderTableViewDataSource_.get();
+    return m_selectedFolderTableViewDataSource.get();
 }
 OVTableViewDataSource *OVPrinterUtilityWindowController::formTableViewDataSource() const {
-    return formTableViewDataSource_.get();
+    return m_formTableViewDataSource.get();
 }
 OVTableViewDataSource *
 OVPrinterUtilityWindowController::barcodeAreaDefinitionTableViewDataSource() const {
-    return barcodeAreaDefinitionTableViewDataSource_.get();
+    return m_barcodeAreaDefinitionTableViewDataSource.get();
 }
 OVTableViewDataSource *OVPrinterUtilityWindowController::colorProfileTableViewDataSource() const {
-    return colorProfileTableViewDataSource_.get();
+    return m_colorProfileTableViewDataSource.get();
 }
 
 void OVPrinterUtilityWindowController::setInformationDictionary(
@@ -72,15 +72,15 @@ void OVPrinterUtilityWindowController::setInformationDictionary(
 }
 
 void OVPrinterUtilityWindowController::resetLaunchState() {
-    printerID_ = QString("");
-    bAdminLoginModeEnabled_ = false;
-    isPPDOptionsUpdated_ = false;
+    m_printerId = QString("");
+    m_bAdminLoginModeEnabled = false;
+    m_isPpdOptionsUpdated = false;
 }
 
 // ---- start-up and closing ---------------------------------------------------
 
 void OVPrinterUtilityWindowController::applicationDidFinishLaunching(const QStringList &arguments) {
-    printerID_ = OVLaunchEvent::printerIDFromArguments(arguments);
+    m_printerId = OVLaunchEvent::printerIDFromArguments(arguments);
     loadControls();
 }
 
@@ -89,14 +89,14 @@ void OVPrinterUtilityWindowController::applicationDidFinishLaunching(const QStri
 void OVPrinterUtilityWindowController::windowWillClose(const QString &identifier) {
     if (identifier != windowIdentifier)
         return;
-    closing_ = true;
+    m_closing = true;
     OVSleep::setInterrupted(true);
-    closeButtonClicked(ui_->closeButton);
+    closeButtonClicked(m_ui->closeButton);
 }
 
 bool OVPrinterUtilityWindowController::eventFilter(QObject *watched, QEvent *event) {
-    if (watched == window_.get() && event->type() == QEvent::Close)
-        windowWillClose(window_->objectName());
+    if (watched == m_window.get() && event->type() == QEvent::Close)
+        windowWillClose(m_window->objectName());
     return QObject::eventFilter(watched, event);
 }
 
@@ -112,15 +112,15 @@ void OVPrinterUtilityWindowController::loadControls() {
         std::lock_guard lock(dictionaryMutex);
         dictionary = informationDictionary();
     }
-    OVWindowSetUp::setUpWindowTitle(window_.get(), dictionary);
-    OVWindowSetUp::setUpTexts(*ui_);
-    OVWindowSetUp::setUpSettingsFields(*ui_);
+    OVWindowSetUp::setUpWindowTitle(m_window.get(), dictionary);
+    OVWindowSetUp::setUpTexts(*m_ui);
+    OVWindowSetUp::setUpSettingsFields(*m_ui);
     showProgress(false);
-    OVWindowSetUp::setUpFolderTab(*ui_);
-    bAdminLoginModeEnabled_ = false;
+    OVWindowSetUp::setUpFolderTab(*m_ui);
+    m_bAdminLoginModeEnabled = false;
     createDataSources();
     OVNotificationCenter::defaultCenter().addObserver(
-        OVCustomRestrictedTextField::Notification,
+        OVCustomRestrictedTextField::notification,
         [this](const OVNotification &) { receiveTextFieldNotification(); }, this);
     loadDefaultFolderValues();
     loadDefaultSelectedFolderValues();
@@ -129,11 +129,11 @@ void OVPrinterUtilityWindowController::loadControls() {
 
 void OVPrinterUtilityWindowController::createDataSources() {
     for (auto *dataSource :
-         {&registerFolderTableViewDataSource_, &selectedFolderTableViewDataSource_,
-          &formTableViewDataSource_, &barcodeAreaDefinitionTableViewDataSource_,
-          &colorProfileTableViewDataSource_})
+         {&m_registerFolderTableViewDataSource, &m_selectedFolderTableViewDataSource,
+          &m_formTableViewDataSource, &m_barcodeAreaDefinitionTableViewDataSource,
+          &m_colorProfileTableViewDataSource})
         *dataSource = std::make_unique<OVTableViewDataSource>();
-    folders_ = OVFolderSelection();
+    m_folders = OVFolderSelection();
 }
 
 void OVPrinterUtilityWindowController::connectActions() {
@@ -143,7 +143,7 @@ void OVPrinterUtilityWindowController::connectActions() {
         &C::getPrinterInfoButtonClicked, &C::folderGetPrinterInfoButtonClicked,
         &C::formGetPrinterInfoButtonClicked, &C::barcodeAreaDefinitionGetPrinterInfoButtonClicked,
         &C::colorProfileGetPrinterInfoButtonClicked};
-    Ui::MainUtilityWindiw &c = *ui_;
+    Ui::MainUtilityWindiw &c = *m_ui;
     const std::pair<QAbstractButton *, Action> others[] = {
         {c.okButton, &C::okButtonClicked},
         {c.closeButton, &C::closeButtonClicked},
@@ -162,11 +162,11 @@ void OVPrinterUtilityWindowController::connectActions() {
                 });
     for (const auto &[button, action] : others)
         connect(button, &QAbstractButton::clicked, this,
-                [this, button, action] { runAction(button, action, false); });
+                [this, button = button, action = action] { runAction(button, action, false); });
 }
 
 QList<QAbstractButton *> OVPrinterUtilityWindowController::fetchButtons() const {
-    Ui::MainUtilityWindiw &c = *ui_;
+    Ui::MainUtilityWindiw &c = *m_ui;
     return {c.printerGetPrinterInfoButton, c.folderGetPrinterInfoButton, c.formGetPrinterInfoButton,
             c.barcodeAreaDefinitionGetPrinterInfoButton, c.colorProfileGetPrinterInfoButton};
 }
@@ -178,14 +178,14 @@ QList<QAbstractButton *> OVPrinterUtilityWindowController::fetchButtons() const 
 // The rest (typing, OK, Close) takes effect, in order, once the fetch is over.
 void OVPrinterUtilityWindowController::runAction(QAbstractButton *button, Action action,
                                                  bool isFetch) {
-    if (actionRunning_)
+    if (m_actionRunning)
         return;
     std::optional<OVInputHold> hold;
     if (isFetch)
-        hold.emplace(window_.get(), fetchButtons());
-    actionRunning_ = true;
+        hold.emplace(m_window.get(), fetchButtons());
+    m_actionRunning = true;
     (this->*action)(button);
-    actionRunning_ = false;
+    m_actionRunning = false;
     // The window system keeps input back while a step runs; it reaches the
     // hold here, before the hold ends.
     if (hold)
@@ -193,11 +193,11 @@ void OVPrinterUtilityWindowController::runAction(QAbstractButton *button, Action
 }
 
 void OVPrinterUtilityWindowController::constraintsSnmpItems() {
-    ui_->snmpCommunityText->setEnabled(ui_->snmpCommunityCheck->isChecked());
+    m_ui->snmpCommunityText->setEnabled(m_ui->snmpCommunityCheck->isChecked());
 }
 
 void OVPrinterUtilityWindowController::constraintsWakeOnLanItems() {
-    Ui::MainUtilityWindiw &c = *ui_;
+    Ui::MainUtilityWindiw &c = *m_ui;
     const bool wake = c.wakeOnLANCheck->isChecked();
     bool anyMacText = false;
     for (QLineEdit *field : macAddressFields()) {
@@ -221,20 +221,20 @@ bool OVPrinterUtilityWindowController::setMacAddressStr(const QString &macAddres
 
 std::array<QLineEdit *, OVPrinterUtilityWindowController::macFieldCount>
 OVPrinterUtilityWindowController::macAddressFields() const {
-    Ui::MainUtilityWindiw &c = *ui_;
+    Ui::MainUtilityWindiw &c = *m_ui;
     return {c.macAddressText1, c.macAddressText2, c.macAddressText3,
             c.macAddressText4, c.macAddressText5, c.macAddressText6};
 }
 
 QByteArray OVPrinterUtilityWindowController::getSnmpCommunityFromUI() const {
-    const QString text = ui_->snmpCommunityText->text();
-    if (!ui_->snmpCommunityCheck->isChecked() || text.isEmpty())
-        return QByteArray(OrvoSettingsKeywords::DefaultCommunity);
+    const QString text = m_ui->snmpCommunityText->text();
+    if (!m_ui->snmpCommunityCheck->isChecked() || text.isEmpty())
+        return QByteArray(OrvoSettingsKeywords::defaultCommunity);
     // UTF-8, as the wake flow sends it: the field accepts characters outside
     // Latin-1 (U+200B), which must reach the printer as typed.
     return text.toUtf8();
 }
 
 void OVPrinterUtilityWindowController::setTabOrder() {
-    OVWindowSetUp::setTabOrder(*ui_);
+    OVWindowSetUp::setTabOrder(*m_ui);
 }

@@ -43,14 +43,14 @@ public:
 
     QWidget *mainWindowObject() const;
     Ui::MainUtilityWindiw &controls() const;
-    QString printerID() const { return printerID_; }
-    void setPrinterID(const QString &printerID) { printerID_ = printerID; }
-    bool bError() const { return bError_; }
-    bool bAdminLoginModeEnabled() const { return bAdminLoginModeEnabled_; }
-    bool isPPDOptionsUpdated() const { return isPPDOptionsUpdated_; }
-    QStringList allSharedBoxNames() const { return folders_.allSharedBoxNames(); }
-    QStringList selectedSharedBoxNames() const { return folders_.selectedSharedBoxNames(); }
-    QList<qint32> selectedSharedBoxIndex() const { return folders_.selectedSharedBoxIndex(); }
+    QString printerID() const { return m_printerId; }
+    void setPrinterID(const QString &printerID) { m_printerId = printerID; }
+    bool bError() const { return m_bError; }
+    bool bAdminLoginModeEnabled() const { return m_bAdminLoginModeEnabled; }
+    bool isPPDOptionsUpdated() const { return m_isPpdOptionsUpdated; }
+    QStringList allSharedBoxNames() const { return m_folders.allSharedBoxNames(); }
+    QStringList selectedSharedBoxNames() const { return m_folders.selectedSharedBoxNames(); }
+    QList<qint32> selectedSharedBoxIndex() const { return m_folders.selectedSharedBoxIndex(); }
     OVTableViewDataSource *registerFolderTableViewDataSource() const;
     OVTableViewDataSource *selectedFolderTableViewDataSource() const;
     OVTableViewDataSource *formTableViewDataSource() const;
@@ -157,22 +157,22 @@ private:
     std::array<QLineEdit *, macFieldCount> macAddressFields() const;
     QString localized(const char *key) const;
 
-    std::unique_ptr<QWidget> window_;
-    std::unique_ptr<Ui::MainUtilityWindiw> ui_;
-    std::unique_ptr<OVTableViewDataSource> registerFolderTableViewDataSource_;
-    std::unique_ptr<OVTableViewDataSource> selectedFolderTableViewDataSource_;
-    std::unique_ptr<OVTableViewDataSource> formTableViewDataSource_;
-    std::unique_ptr<OVTableViewDataSource> barcodeAreaDefinitionTableViewDataSource_;
-    std::unique_ptr<OVTableViewDataSource> colorProfileTableViewDataSource_;
-    std::unique_ptr<OVControlsLock> loading_;
-    OVFolderSelection folders_;
-    QString printerID_;
-    bool bError_ = false;
-    bool bAdminLoginModeEnabled_ = false;
-    bool isPPDOptionsUpdated_ = false;
-    bool actionRunning_ = false;
+    std::unique_ptr<QWidget> m_window;
+    std::unique_ptr<Ui::MainUtilityWindiw> m_ui;
+    std::unique_ptr<OVTableViewDataSource> m_registerFolderTableViewDataSource;
+    std::unique_ptr<OVTableViewDataSource> m_selectedFolderTableViewDataSource;
+    std::unique_ptr<OVTableViewDataSource> m_formTableViewDataSource;
+    std::unique_ptr<OVTableViewDataSource> m_barcodeAreaDefinitionTableViewDataSource;
+    std::unique_ptr<OVTableViewDataSource> m_colorProfileTableViewDataSource;
+    std::unique_ptr<OVControlsLock> m_loading;
+    OVFolderSelection m_folders;
+    QString m_printerId;
+    bool m_bError = false;
+    bool m_bAdminLoginModeEnabled = false;
+    bool m_isPpdOptionsUpdated = false;
+    bool m_actionRunning = false;
     // OK's save is under way: a second OK is ignored.
-    bool saving_ = false;
+    bool m_saving = false;
     // The window is closing: what a fetch finds is no longer shown.
-    bool closing_ = false;
+    bool m_closing = false;
 };

@@ -16,29 +16,29 @@ using Fetch = OVPrinterInfoFetch;
 } // namespace
 
 void OVPrinterUtilityWindowController::showProgress(bool show) {
-    ui_->progressIndicatorText->setHidden(!show);
-    ui_->progressIndicatorText->repaint();
-    ui_->progressIndicator->setHidden(!show);
+    m_ui->progressIndicatorText->setHidden(!show);
+    m_ui->progressIndicatorText->repaint();
+    m_ui->progressIndicator->setHidden(!show);
 }
 
 void OVPrinterUtilityWindowController::showFailedMessage() {
-    const QString text = localized(OVWindowTexts::FailedToObtain);
-    auto alert = OVAlert::alertWithMessageText(text, localized(OVWindowTexts::OK), QString(),
-                                               QString(), OVAlert::PlainMessageFormat, {text});
+    const QString text = localized(OVWindowTexts::failedToObtain);
+    auto alert = OVAlert::alertWithMessageText(text, localized(OVWindowTexts::ok), QString(),
+                                               QString(), OVAlert::plainMessageFormat, {text});
     alert->runModal();
 }
 
 // The wake flow checks the community as typed (an empty one means the
 // default); the queries take the default for an empty field themselves.
 Fetch::Printer OVPrinterUtilityWindowController::fetchTarget() const {
-    Ui::MainUtilityWindiw &c = *ui_;
+    Ui::MainUtilityWindiw &c = *m_ui;
     Fetch::Wake wake;
     wake.enabled = c.wakeOnLANCheck->isChecked();
     for (int i = 0; i < macFieldCount; ++i)
         wake.macAddressFields[i] = macAddressFields()[i]->text();
     wake.community = c.snmpCommunityCheck->isChecked()
                          ? c.snmpCommunityText->text()
-                         : QString(OrvoSettingsKeywords::DefaultCommunity);
+                         : QString(OrvoSettingsKeywords::defaultCommunity);
     wake.overRouter = c.overstepTheRouter->isChecked();
     return {c.printerIPAddressText->text(), QString::fromUtf8(getSnmpCommunityFromUI()), wake};
 }
@@ -57,7 +57,7 @@ void OVPrinterUtilityWindowController::fetch(std::span<const Step> steps) {
     OVSleep::setInterrupted(false);
     const Fetch::Result result = OVBackgroundTask::wait(
         [printer = fetchTarget(), steps] { return OVPrinterInfoFetch::fetch(printer, steps); });
-    if (closing_)
+    if (m_closing)
         return;
     showFetched(result);
     showProgress(false);
@@ -74,9 +74,9 @@ void OVPrinterUtilityWindowController::showFetched(const Fetch::Result &result) 
     if (setMacAddressStr(result.macAddress))
         constraintsWakeOnLanItems();
     applyFolderList(result);
-    showFetchedList(result.forms, formTableViewDataSource_.get());
-    showFetchedList(result.barcodeAreas, barcodeAreaDefinitionTableViewDataSource_.get());
-    showFetchedList(result.colorProfiles, colorProfileTableViewDataSource_.get());
+    showFetchedList(result.forms, m_formTableViewDataSource.get());
+    showFetchedList(result.barcodeAreas, m_barcodeAreaDefinitionTableViewDataSource.get());
+    showFetchedList(result.colorProfiles, m_colorProfileTableViewDataSource.get());
 }
 
 // An empty list changes nothing.
@@ -92,20 +92,20 @@ void OVPrinterUtilityWindowController::showFetchedList(const std::optional<QStri
 // without a message. The admin login mode counts whenever it was asked.
 void OVPrinterUtilityWindowController::applyFolderList(const Fetch::Result &result) {
     if (const auto inUse = result.foldersInUse()) {
-        folders_.applyFetched(*inUse);
-        registerFolderTableViewDataSource_->setElementsArray(*inUse);
+        m_folders.applyFetched(*inUse);
+        m_registerFolderTableViewDataSource->setElementsArray(*inUse);
         showSelectedFolders();
     }
     if (result.adminLoginModeEnabled) {
-        bAdminLoginModeEnabled_ = *result.adminLoginModeEnabled;
-        ui_->folderPersonalFolderCheck->setEnabled(bAdminLoginModeEnabled_);
+        m_bAdminLoginModeEnabled = *result.adminLoginModeEnabled;
+        m_ui->folderPersonalFolderCheck->setEnabled(m_bAdminLoginModeEnabled);
     }
 }
 
 void OVPrinterUtilityWindowController::failFetch() {
     showProgress(false);
     showFailedMessage();
-    bError_ = true;
+    m_bError = true;
 }
 
 void OVPrinterUtilityWindowController::failFolderFetch() {
@@ -115,7 +115,7 @@ void OVPrinterUtilityWindowController::failFolderFetch() {
 }
 
 void OVPrinterUtilityWindowController::getPrinterInfoButtonClicked(QObject *) {
-    bError_ = false;
+    m_bError = false;
     fetch(OVPrinterInfoFetch::allSteps);
 }
 
@@ -140,15 +140,15 @@ void OVPrinterUtilityWindowController::colorProfileGetPrinterInfoButtonClicked(Q
 }
 
 void OVPrinterUtilityWindowController::formClearButtonClicked(QObject *) {
-    formTableViewDataSource_->setElementsArray(std::nullopt);
+    m_formTableViewDataSource->setElementsArray(std::nullopt);
 }
 
 void OVPrinterUtilityWindowController::barcodeAreaDefinitionClearButtonClicked(QObject *) {
-    barcodeAreaDefinitionTableViewDataSource_->setElementsArray(std::nullopt);
+    m_barcodeAreaDefinitionTableViewDataSource->setElementsArray(std::nullopt);
 }
 
 void OVPrinterUtilityWindowController::colorProfileClearButtonClicked(QObject *) {
-    colorProfileTableViewDataSource_->setElementsArray(std::nullopt);
+    m_colorProfileTableViewDataSource->setElementsArray(std::nullopt);
 }
 
 void OVPrinterUtilityWindowController::customSnmpCommunityClicked(QObject *) {

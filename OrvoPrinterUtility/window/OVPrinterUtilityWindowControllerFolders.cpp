@@ -9,16 +9,16 @@
 
 void OVPrinterUtilityWindowController::loadDefaultFolderValues() {
     loadFolderValues();
-    registerFolderTableViewDataSource_->setElementsArray(
+    m_registerFolderTableViewDataSource->setElementsArray(
         OVStoredSettings::defaults().allSharedBoxNames);
-    registerFolderTableViewDataSource_->selectFirstRow();
+    m_registerFolderTableViewDataSource->selectFirstRow();
     OVNotificationCenter::defaultCenter().addObserver(
-        OVTableViewDataSource::SelectionChangedNotification,
+        OVTableViewDataSource::selectionChangedNotification,
         [this](const OVNotification &) { receiveTableViewNotification(); }, this);
 }
 
 void OVPrinterUtilityWindowController::loadDefaultSelectedFolderValues() {
-    folders_.clear();
+    m_folders.clear();
     showSelectedFolders();
 }
 
@@ -28,76 +28,76 @@ void OVPrinterUtilityWindowController::bindTable(OVTableViewDataSource *dataSour
 }
 
 void OVPrinterUtilityWindowController::loadFolderValues() {
-    bindTable(registerFolderTableViewDataSource_.get(), ui_->folderSharedFolderTable);
-    registerFolderTableViewDataSource_->selectFirstRow();
+    bindTable(m_registerFolderTableViewDataSource.get(), m_ui->folderSharedFolderTable);
+    m_registerFolderTableViewDataSource->selectFirstRow();
 }
 
 void OVPrinterUtilityWindowController::loadSelectedFolderValues() {
-    bindTable(selectedFolderTableViewDataSource_.get(), ui_->folderSelectedFolderTable);
-    selectedFolderTableViewDataSource_->selectFirstRow();
+    bindTable(m_selectedFolderTableViewDataSource.get(), m_ui->folderSelectedFolderTable);
+    m_selectedFolderTableViewDataSource->selectFirstRow();
 }
 
 void OVPrinterUtilityWindowController::loadFormValues() {
-    bindTable(formTableViewDataSource_.get(), ui_->formTable);
+    bindTable(m_formTableViewDataSource.get(), m_ui->formTable);
 }
 
 void OVPrinterUtilityWindowController::loadBarcodeAreaDefinitionValues() {
-    bindTable(barcodeAreaDefinitionTableViewDataSource_.get(), ui_->barcodeAreaDefinitionTable);
+    bindTable(m_barcodeAreaDefinitionTableViewDataSource.get(), m_ui->barcodeAreaDefinitionTable);
 }
 
 void OVPrinterUtilityWindowController::loadColorProfileValues() {
-    bindTable(colorProfileTableViewDataSource_.get(), ui_->colorProfileTable);
+    bindTable(m_colorProfileTableViewDataSource.get(), m_ui->colorProfileTable);
 }
 
 void OVPrinterUtilityWindowController::showRegisterFolders() {
-    registerFolderTableViewDataSource_->setElementsArray(folders_.allSharedBoxNames());
+    m_registerFolderTableViewDataSource->setElementsArray(m_folders.allSharedBoxNames());
     loadFolderValues();
 }
 
 void OVPrinterUtilityWindowController::showSelectedFolders() {
-    selectedFolderTableViewDataSource_->setElementsArray(folders_.selectedSharedBoxNames());
+    m_selectedFolderTableViewDataSource->setElementsArray(m_folders.selectedSharedBoxNames());
     loadSelectedFolderValues();
-    selectedFolderTableViewDataSource_->selectLastRow();
+    m_selectedFolderTableViewDataSource->selectLastRow();
 }
 
 // ---- folder selection -------------------------------------------------------
 
 void OVPrinterUtilityWindowController::folderAddButtonClicked(QObject *) {
-    folders_.add(registerFolderTableViewDataSource_->getSelectedRow(),
-                 registerFolderTableViewDataSource_->getSelectedRowValue());
+    m_folders.add(m_registerFolderTableViewDataSource->getSelectedRow(),
+                  m_registerFolderTableViewDataSource->getSelectedRowValue());
     showSelectedFolders();
 }
 
 void OVPrinterUtilityWindowController::folderDeleteButtonClicked(QObject *) {
-    folders_.remove(selectedFolderTableViewDataSource_->getSelectedRow());
-    selectedFolderTableViewDataSource_->setElementsArray(folders_.selectedSharedBoxNames());
+    m_folders.remove(m_selectedFolderTableViewDataSource->getSelectedRow());
+    m_selectedFolderTableViewDataSource->setElementsArray(m_folders.selectedSharedBoxNames());
 }
 
 void OVPrinterUtilityWindowController::folderClearButtonClicked(QObject *) {
     loadDefaultFolderValues();
     loadDefaultSelectedFolderValues();
-    selectedFolderTableViewDataSource_->unselectAllRow();
-    ui_->folderAddButton->setEnabled(shouldEnableAdd());
-    ui_->folderPersonalFolderCheck->setChecked(false);
-    isPPDOptionsUpdated_ = false;
+    m_selectedFolderTableViewDataSource->unselectAllRow();
+    m_ui->folderAddButton->setEnabled(shouldEnableAdd());
+    m_ui->folderPersonalFolderCheck->setChecked(false);
+    m_isPpdOptionsUpdated = false;
 }
 
 void OVPrinterUtilityWindowController::initAddDeleteState() {
-    ui_->folderAddButton->setEnabled(shouldEnableAdd());
-    ui_->folderDeleteButton->setEnabled(shouldEnableDelete());
+    m_ui->folderAddButton->setEnabled(shouldEnableAdd());
+    m_ui->folderDeleteButton->setEnabled(shouldEnableDelete());
 }
 
 bool OVPrinterUtilityWindowController::shouldEnableAdd() const {
-    if (static_cast<qint32>(registerFolderTableViewDataSource_->count()) < 1)
+    if (static_cast<qint32>(m_registerFolderTableViewDataSource->count()) < 1)
         return false;
-    return !selectedFolderTableViewDataSource_->isItemExist(
-        registerFolderTableViewDataSource_->getSelectedRowValue());
+    return !m_selectedFolderTableViewDataSource->isItemExist(
+        m_registerFolderTableViewDataSource->getSelectedRowValue());
 }
 
 bool OVPrinterUtilityWindowController::shouldEnableDelete() const {
-    if (static_cast<qint32>(selectedFolderTableViewDataSource_->count()) < 1)
+    if (static_cast<qint32>(m_selectedFolderTableViewDataSource->count()) < 1)
         return false;
-    return !selectedFolderTableViewDataSource_->getSelectedRowValue().isNull();
+    return !m_selectedFolderTableViewDataSource->getSelectedRowValue().isNull();
 }
 
 void OVPrinterUtilityWindowController::receiveTableViewNotification() {
@@ -110,13 +110,13 @@ void OVPrinterUtilityWindowController::receiveTextFieldNotification() {
 
 void OVPrinterUtilityWindowController::updateStringArrays() {
     OVSettingsSnapshot shown;
-    shown.allSharedBoxNames = registerFolderTableViewDataSource_->getElementsArray();
-    shown.selectedSharedBoxNames = selectedFolderTableViewDataSource_->getElementsArray();
-    shown.selectedSharedBoxIndex = folders_.selectedSharedBoxIndex();
-    folders_.load(shown);
+    shown.allSharedBoxNames = m_registerFolderTableViewDataSource->getElementsArray();
+    shown.selectedSharedBoxNames = m_selectedFolderTableViewDataSource->getElementsArray();
+    shown.selectedSharedBoxIndex = m_folders.selectedSharedBoxIndex();
+    m_folders.load(shown);
 }
 
 void OVPrinterUtilityWindowController::updateSelectedArrayStrings() {
-    folders_.updateSelectedArrayStrings();
+    m_folders.updateSelectedArrayStrings();
     showSelectedFolders();
 }

@@ -18,15 +18,15 @@ using namespace OVWindowTexts;
 // The steps after the stored settings are in.
 void OVPrinterUtilityWindowController::finishLoading(
     const std::optional<OVSettingsSnapshot> &settings) {
-    if (loading_)
-        loading_->release();
-    loading_.reset();
-    ui_->progressIndicatorText->setText(localized(GettingInformation));
+    if (m_loading)
+        m_loading->release();
+    m_loading.reset();
+    m_ui->progressIndicatorText->setText(localized(gettingInformation));
     showProgress(false);
     if (settings)
         applySettings(*settings);
     initAddDeleteState();
-    registerFolderTableViewDataSource_->selectFirstRow();
+    m_registerFolderTableViewDataSource->selectFirstRow();
     loadFormValues();
     loadBarcodeAreaDefinitionValues();
     loadColorProfileValues();
@@ -35,7 +35,7 @@ void OVPrinterUtilityWindowController::finishLoading(
 }
 
 QList<QWidget *> OVPrinterUtilityWindowController::settingsControls() const {
-    Ui::MainUtilityWindiw &c = *ui_;
+    Ui::MainUtilityWindiw &c = *m_ui;
     QList<QWidget *> controls = {c.snmpCommunityCheck,   c.snmpCommunityText,
                                  c.wakeOnLANCheck,       c.overstepTheRouter,
                                  c.printerIPAddressText, c.printerGetPrinterInfoButton,
@@ -49,13 +49,13 @@ QList<QWidget *> OVPrinterUtilityWindowController::settingsControls() const {
 // asked. A missing server, queue, PPD or attribute is never an error: the
 // window keeps its defaults.
 void OVPrinterUtilityWindowController::loadOptionsFromPPD() {
-    if (!loading_)
-        loading_ = std::make_unique<OVControlsLock>(settingsControls());
-    ui_->progressIndicatorText->setText(localized(LoadingSettings));
+    if (!m_loading)
+        m_loading = std::make_unique<OVControlsLock>(settingsControls());
+    m_ui->progressIndicatorText->setText(localized(loadingSettings));
     showProgress(true);
     OVBackgroundTask::run(
         this,
-        [printerID = printerID_]() -> std::optional<OVSettingsSnapshot> {
+        [printerID = m_printerId]() -> std::optional<OVSettingsSnapshot> {
             OVSettingsSnapshot settings;
             const auto status = OVStoredSettings::load(printerID, settings);
             qCDebug(orvoWindow) << "settings of" << printerID << "loaded:" << int(status);
@@ -67,7 +67,7 @@ void OVPrinterUtilityWindowController::loadOptionsFromPPD() {
 }
 
 void OVPrinterUtilityWindowController::applySettings(const OVSettingsSnapshot &s) {
-    Ui::MainUtilityWindiw &c = *ui_;
+    Ui::MainUtilityWindiw &c = *m_ui;
     c.snmpCommunityCheck->setChecked(s.snmpCommunityCheck);
     c.snmpCommunityText->setText(s.snmpCommunityText);
     constraintsSnmpItems();
@@ -82,21 +82,21 @@ void OVPrinterUtilityWindowController::applySettings(const OVSettingsSnapshot &s
 }
 
 void OVPrinterUtilityWindowController::applyFolderSettings(const OVSettingsSnapshot &s) {
-    isPPDOptionsUpdated_ = s.isPPDOptionsUpdated;
-    folders_.load(s);
+    m_isPpdOptionsUpdated = s.isPPDOptionsUpdated;
+    m_folders.load(s);
     showRegisterFolders();
-    registerFolderTableViewDataSource_->selectLastRow();
+    m_registerFolderTableViewDataSource->selectLastRow();
     showSelectedFolders();
-    ui_->folderPersonalFolderCheck->setChecked(s.folderPersonalFolderCheck);
-    bAdminLoginModeEnabled_ = s.bAdminLoginModeEnabled;
-    ui_->folderPersonalFolderCheck->setEnabled(bAdminLoginModeEnabled_);
+    m_ui->folderPersonalFolderCheck->setChecked(s.folderPersonalFolderCheck);
+    m_bAdminLoginModeEnabled = s.bAdminLoginModeEnabled;
+    m_ui->folderPersonalFolderCheck->setEnabled(m_bAdminLoginModeEnabled);
 }
 
 void OVPrinterUtilityWindowController::applyListSettings(const OVSettingsSnapshot &s) {
-    showList(formTableViewDataSource_.get(), ui_->formTable, s.formNames);
-    showList(barcodeAreaDefinitionTableViewDataSource_.get(), ui_->barcodeAreaDefinitionTable,
+    showList(m_formTableViewDataSource.get(), m_ui->formTable, s.formNames);
+    showList(m_barcodeAreaDefinitionTableViewDataSource.get(), m_ui->barcodeAreaDefinitionTable,
              s.barcodeAreaDefinitionNames);
-    showList(colorProfileTableViewDataSource_.get(), ui_->colorProfileTable, s.colorProfileNames);
+    showList(m_colorProfileTableViewDataSource.get(), m_ui->colorProfileTable, s.colorProfileNames);
 }
 
 void OVPrinterUtilityWindowController::showList(OVTableViewDataSource *dataSource,
@@ -109,10 +109,10 @@ void OVPrinterUtilityWindowController::showList(OVTableViewDataSource *dataSourc
 // ---- saving -----------------------------------------------------------------
 
 void OVPrinterUtilityWindowController::okButtonClicked(QObject *) {
-    if (saving_)
+    if (m_saving)
         return;
     updateStringArrays();
-    isPPDOptionsUpdated_ = true;
+    m_isPpdOptionsUpdated = true;
     // cupsd hands all job options to the filter in one argument, which the
     // kernel limits to 128 KiB: a save that could not reach the driver keeps
     // the window open and says which lists to shorten, instead of closing
@@ -128,13 +128,13 @@ void OVPrinterUtilityWindowController::okButtonClicked(QObject *) {
 // On a queue that is not set up the settings would be lost: say so and keep
 // the window open with everything set. Otherwise the job is on its way.
 void OVPrinterUtilityWindowController::saved(OVWindowSave::Outcome outcome) {
-    saving_ = false;
+    m_saving = false;
     if (outcome == OVWindowSave::Outcome::Submitted) {
-        closeButtonClicked(ui_->closeButton);
+        closeButtonClicked(m_ui->closeButton);
         return;
     }
-    OVAlert::alertWithMessageText(localized(QueueNotSetUp).arg(printerID_), localized(OK),
-                                  QString(), QString(), OVAlert::PlainMessageFormat, {})
+    OVAlert::alertWithMessageText(localized(queueNotSetUp).arg(m_printerId), localized(ok),
+                                  QString(), QString(), OVAlert::plainMessageFormat, {})
         ->runModal();
 }
 
@@ -142,9 +142,9 @@ void OVPrinterUtilityWindowController::showTooLongMessage(const QStringList &lis
     QStringList names;
     for (const QString &key : listKeys)
         names << "\u2022 " + OVPrinterUtilityHelper::getLocalizedStringFor(key);
-    const QString text = localized(SettingsTooLong);
-    auto alert = OVAlert::alertWithMessageText(text, localized(OK), QString(), QString(),
-                                               OVAlert::PlainMessageFormat, {names.join('\n')});
+    const QString text = localized(settingsTooLong);
+    auto alert = OVAlert::alertWithMessageText(text, localized(ok), QString(), QString(),
+                                               OVAlert::plainMessageFormat, {names.join('\n')});
     alert->runModal();
 }
 
@@ -153,15 +153,15 @@ void OVPrinterUtilityWindowController::closeButtonClicked(QObject *) {
 }
 
 void OVPrinterUtilityWindowController::saveOptionsToPPD() {
-    saving_ = true;
-    OVWindowSave::save(this, settingsSnapshot(), printerID_,
+    m_saving = true;
+    OVWindowSave::save(this, settingsSnapshot(), m_printerId,
                        [this](OVWindowSave::Outcome outcome) { saved(outcome); });
 }
 
 OVSettingsSnapshot OVPrinterUtilityWindowController::settingsSnapshot() const {
-    Ui::MainUtilityWindiw &c = *ui_;
+    Ui::MainUtilityWindiw &c = *m_ui;
     OVSettingsSnapshot s;
-    s.isPPDOptionsUpdated = isPPDOptionsUpdated_;
+    s.isPPDOptionsUpdated = m_isPpdOptionsUpdated;
     s.snmpCommunityCheck = c.snmpCommunityCheck->isChecked();
     s.snmpCommunityText = c.snmpCommunityText->text();
     s.wakeOnLANCheck = c.wakeOnLANCheck->isChecked();
@@ -169,13 +169,13 @@ OVSettingsSnapshot OVPrinterUtilityWindowController::settingsSnapshot() const {
         s.macAddressFields[i] = macAddressFields()[i]->text();
     s.overstepTheRouter = c.overstepTheRouter->isChecked();
     s.printerIPAddressText = c.printerIPAddressText->text();
-    s.allSharedBoxNames = folders_.allSharedBoxNames();
-    s.selectedSharedBoxNames = folders_.selectedSharedBoxNames();
-    s.selectedSharedBoxIndex = folders_.selectedSharedBoxIndex();
+    s.allSharedBoxNames = m_folders.allSharedBoxNames();
+    s.selectedSharedBoxNames = m_folders.selectedSharedBoxNames();
+    s.selectedSharedBoxIndex = m_folders.selectedSharedBoxIndex();
     s.folderPersonalFolderCheck = c.folderPersonalFolderCheck->isChecked();
-    s.bAdminLoginModeEnabled = bAdminLoginModeEnabled_;
-    s.formNames = formTableViewDataSource_->getElementsArray();
-    s.barcodeAreaDefinitionNames = barcodeAreaDefinitionTableViewDataSource_->getElementsArray();
-    s.colorProfileNames = colorProfileTableViewDataSource_->getElementsArray();
+    s.bAdminLoginModeEnabled = m_bAdminLoginModeEnabled;
+    s.formNames = m_formTableViewDataSource->getElementsArray();
+    s.barcodeAreaDefinitionNames = m_barcodeAreaDefinitionTableViewDataSource->getElementsArray();
+    s.colorProfileNames = m_colorProfileTableViewDataSource->getElementsArray();
     return s;
 }

@@ -39,7 +39,7 @@ QString serverName() {
 QList<QStandardItem *> queueRow(const OVQueueSetup::Queue &queue) {
     QList<QStandardItem *> row;
     for (const QString &cell : {queue.name, queue.description, queue.makeAndModel,
-                                T::localized(queue.setUp ? T::SetUp : T::NotSetUp)}) {
+                                T::localized(queue.setUp ? T::setUp : T::notSetUp)}) {
         auto *item = new QStandardItem(cell);
         item->setEditable(false);
         row << item;
@@ -53,71 +53,71 @@ QList<QStandardItem *> queueRow(const OVQueueSetup::Queue &queue) {
 
 OVQueueChooser::OVQueueChooser(QWidget *parent)
     : QDialog(parent)
-    , model_(new QStandardItemModel(0, ColumnCount, this))
-    , visible_(new QSortFilterProxyModel(this)) {
-    model_->setHorizontalHeaderLabels(
-        {T::localized(T::QueueColumn), T::localized(T::DescriptionColumn),
-         T::localized(T::MakeAndModelColumn), T::localized(T::UtilityColumn)});
-    visible_->setSourceModel(model_);
-    visible_->setFilterRole(searchRole);
-    visible_->setFilterKeyColumn(NameColumn);
-    visible_->setFilterCaseSensitivity(Qt::CaseInsensitive);
+    , m_model(new QStandardItemModel(0, ColumnCount, this))
+    , m_visible(new QSortFilterProxyModel(this)) {
+    m_model->setHorizontalHeaderLabels(
+        {T::localized(T::queueColumn), T::localized(T::descriptionColumn),
+         T::localized(T::makeAndModelColumn), T::localized(T::utilityColumn)});
+    m_visible->setSourceModel(m_model);
+    m_visible->setFilterRole(searchRole);
+    m_visible->setFilterKeyColumn(NameColumn);
+    m_visible->setFilterCaseSensitivity(Qt::CaseInsensitive);
     buildControls();
 }
 
 OVQueueChooser::~OVQueueChooser() = default;
 
 void OVQueueChooser::buildControls() {
-    setWindowTitle(T::localized(T::ChooserTitle));
+    setWindowTitle(T::localized(T::chooserTitle));
     auto *layout = new QVBoxLayout(this);
-    auto *intro = new QLabel(T::localized(T::ChooserIntro), this);
+    auto *intro = new QLabel(T::localized(T::chooserIntro), this);
     intro->setWordWrap(true);
     layout->addWidget(intro);
 
     auto *filterRow = new QHBoxLayout;
-    auto *filterLabel = new QLabel(T::localized(T::FilterLabel), this);
-    filter_ = new QLineEdit(this);
-    filter_->setPlaceholderText(T::localized(T::FilterPlaceholder));
-    filter_->setAccessibleName(T::withoutMnemonic(T::localized(T::FilterLabel)));
-    filter_->setClearButtonEnabled(true);
-    filterLabel->setBuddy(filter_);
+    auto *filterLabel = new QLabel(T::localized(T::filterLabel), this);
+    m_filter = new QLineEdit(this);
+    m_filter->setPlaceholderText(T::localized(T::filterPlaceholder));
+    m_filter->setAccessibleName(T::withoutMnemonic(T::localized(T::filterLabel)));
+    m_filter->setClearButtonEnabled(true);
+    filterLabel->setBuddy(m_filter);
     filterRow->addWidget(filterLabel);
-    filterRow->addWidget(filter_);
+    filterRow->addWidget(m_filter);
     layout->addLayout(filterRow);
 
-    table_ = new QTableView(this);
-    table_->setModel(visible_);
-    table_->setAccessibleName(T::localized(T::QueueList));
-    table_->setSelectionBehavior(QAbstractItemView::SelectRows);
-    table_->setSelectionMode(QAbstractItemView::SingleSelection);
-    table_->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    table_->verticalHeader()->hide();
-    table_->horizontalHeader()->setSectionResizeMode(DescriptionColumn, QHeaderView::Stretch);
-    layout->addWidget(table_, 1);
+    m_table = new QTableView(this);
+    m_table->setModel(m_visible);
+    m_table->setAccessibleName(T::localized(T::queueList));
+    m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
+    m_table->setSelectionMode(QAbstractItemView::SingleSelection);
+    m_table->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    m_table->verticalHeader()->hide();
+    m_table->horizontalHeader()->setSectionResizeMode(DescriptionColumn, QHeaderView::Stretch);
+    layout->addWidget(m_table, 1);
 
     auto *statusRow = new QHBoxLayout;
-    status_ = new QLabel(this);
-    status_->setWordWrap(true);
-    retry_ = new QPushButton(T::localized(T::Retry), this);
-    retry_->setAutoDefault(false);
-    statusRow->addWidget(status_, 1);
-    statusRow->addWidget(retry_);
+    m_status = new QLabel(this);
+    m_status->setWordWrap(true);
+    m_retry = new QPushButton(T::localized(T::retry), this);
+    m_retry->setAutoDefault(false);
+    statusRow->addWidget(m_status, 1);
+    statusRow->addWidget(m_retry);
     layout->addLayout(statusRow);
 
     auto *buttons = new QDialogButtonBox(this);
-    open_ = buttons->addButton(T::localized(T::Open), QDialogButtonBox::AcceptRole);
-    buttons->addButton(T::localized(T::Cancel), QDialogButtonBox::RejectRole);
-    open_->setDefault(true);
+    m_open = buttons->addButton(T::localized(T::open), QDialogButtonBox::AcceptRole);
+    buttons->addButton(T::localized(T::cancel), QDialogButtonBox::RejectRole);
+    m_open->setDefault(true);
     layout->addWidget(buttons);
 
-    connect(filter_, &QLineEdit::textChanged, this, [this](const QString &filter) {
-        visible_->setFilterFixedString(filter);
+    connect(m_filter, &QLineEdit::textChanged, this, [this](const QString &filter) {
+        m_visible->setFilterFixedString(filter);
         selectFirstVisibleRow();
     });
-    connect(table_, &QAbstractItemView::doubleClicked, this, &QDialog::accept);
-    connect(table_->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+    connect(m_table, &QAbstractItemView::doubleClicked, this, &QDialog::accept);
+    connect(m_table->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &OVQueueChooser::updateOpenButton);
-    connect(retry_, &QPushButton::clicked, this, &OVQueueChooser::load);
+    connect(m_retry, &QPushButton::clicked, this, &OVQueueChooser::load);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     resize(760, 420);
@@ -126,16 +126,16 @@ void OVQueueChooser::buildControls() {
 void OVQueueChooser::start() {
     load();
     QTimer::singleShot(showDelayMs, this, [this] {
-        if (!answered_)
+        if (!m_answered)
             show();
     });
 }
 
 void OVQueueChooser::load() {
-    answered_ = false;
-    setStatus(T::localized(T::Loading), false);
-    filter_->setEnabled(false);
-    table_->setEnabled(false);
+    m_answered = false;
+    setStatus(T::localized(T::loading), false);
+    m_filter->setEnabled(false);
+    m_table->setEnabled(false);
     updateOpenButton();
     OVBackgroundTask::run(
         this,
@@ -146,13 +146,13 @@ void OVQueueChooser::load() {
 }
 
 void OVQueueChooser::showListing(const Listing &listing) {
-    answered_ = true;
+    m_answered = true;
     const QList<OVQueueSetup::Queue> queues = listing.queues.value_or(QList<OVQueueSetup::Queue>());
     fillTable(queues);
     if (!listing.queues)
-        setStatus(T::localized(T::Unreachable).arg(listing.server), true);
+        setStatus(T::localized(T::unreachable).arg(listing.server), true);
     else if (queues.isEmpty())
-        setStatus(T::localized(T::NoQueues).arg(listing.server), true);
+        setStatus(T::localized(T::noQueues).arg(listing.server), true);
     else
         setStatus({}, false);
     const auto setUp = std::count_if(queues.begin(), queues.end(),
@@ -162,45 +162,45 @@ void OVQueueChooser::showListing(const Listing &listing) {
         const auto only =
             std::find_if(queues.begin(), queues.end(),
                          [](const OVQueueSetup::Queue &queue) { return queue.setUp; });
-        table_->selectRow(int(only - queues.begin()));
+        m_table->selectRow(int(only - queues.begin()));
         accept();
         return;
     }
     show();
-    table_->setFocus();
+    m_table->setFocus();
 }
 
 void OVQueueChooser::fillTable(const QList<OVQueueSetup::Queue> &queues) {
-    model_->removeRows(0, model_->rowCount());
+    m_model->removeRows(0, m_model->rowCount());
     for (const OVQueueSetup::Queue &queue : queues)
-        model_->appendRow(queueRow(queue));
-    filter_->setEnabled(!queues.isEmpty());
-    table_->setEnabled(!queues.isEmpty());
-    table_->resizeColumnsToContents();
+        m_model->appendRow(queueRow(queue));
+    m_filter->setEnabled(!queues.isEmpty());
+    m_table->setEnabled(!queues.isEmpty());
+    m_table->resizeColumnsToContents();
     selectFirstVisibleRow();
 }
 
 void OVQueueChooser::setStatus(const QString &status, bool offerRetry) {
-    status_->setText(status);
-    status_->setVisible(!status.isEmpty());
-    retry_->setVisible(offerRetry);
+    m_status->setText(status);
+    m_status->setVisible(!status.isEmpty());
+    m_retry->setVisible(offerRetry);
 }
 
 void OVQueueChooser::selectFirstVisibleRow() {
-    if (visible_->rowCount() > 0 && !table_->selectionModel()->hasSelection())
-        table_->selectRow(0);
+    if (m_visible->rowCount() > 0 && !m_table->selectionModel()->hasSelection())
+        m_table->selectRow(0);
     updateOpenButton();
 }
 
 void OVQueueChooser::updateOpenButton() {
-    open_->setEnabled(table_->isEnabled() && !chosenQueue().isEmpty());
+    m_open->setEnabled(m_table->isEnabled() && !chosenQueue().isEmpty());
 }
 
 QString OVQueueChooser::chosenQueue() const {
-    const QModelIndexList rows = table_->selectionModel()->selectedRows(NameColumn);
+    const QModelIndexList rows = m_table->selectionModel()->selectedRows(NameColumn);
     return rows.isEmpty() ? QString() : rows.first().data().toString();
 }
 
 QString OVQueueChooser::statusText() const {
-    return status_->text();
+    return m_status->text();
 }

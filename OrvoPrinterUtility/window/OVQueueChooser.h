@@ -39,10 +39,10 @@ public:
     // What is said above the list (asking, server unreachable, no queues);
     // empty while the list is shown.
     QString statusText() const;
-    QTableView *queueTable() const { return table_; }
-    QLineEdit *filterField() const { return filter_; }
-    QPushButton *openButton() const { return open_; }
-    QPushButton *retryButton() const { return retry_; }
+    QTableView *queueTable() const { return m_table; }
+    QLineEdit *filterField() const { return m_filter; }
+    QPushButton *openButton() const { return m_open; }
+    QPushButton *retryButton() const { return m_retry; }
 
 signals:
     // The server's answer, or its failure, is on show (or a queue was chosen).
@@ -62,12 +62,12 @@ private:
     void selectFirstVisibleRow();
     void updateOpenButton();
 
-    QStandardItemModel *model_;
-    QSortFilterProxyModel *visible_;
-    QLabel *status_ = nullptr;
-    QPushButton *retry_ = nullptr;
-    QLineEdit *filter_ = nullptr;
-    QTableView *table_ = nullptr;
-    QPushButton *open_ = nullptr;
-    bool answered_ = false;
+    QStandardItemModel *m_model;
+    QSortFilterProxyModel *m_visible;
+    QLabel *m_status = nullptr;
+    QPushButton *m_retry = nullptr;
+    QLineEdit *m_filter = nullptr;
+    QTableView *m_table = nullptr;
+    QPushButton *m_open = nullptr;
+    bool m_answered = false;
 };

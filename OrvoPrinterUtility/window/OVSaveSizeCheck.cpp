@@ -14,11 +14,11 @@ struct SavedList {
 };
 
 constexpr SavedList savedLists[] = {
-    {&OVSettingsSnapshot::allSharedBoxNames, OVWindowTexts::SharedFolderInPrinter},
-    {&OVSettingsSnapshot::selectedSharedBoxNames, OVWindowTexts::RegisterFolder},
-    {&OVSettingsSnapshot::formNames, OVWindowTexts::FormTab},
-    {&OVSettingsSnapshot::barcodeAreaDefinitionNames, OVWindowTexts::BarcodeTab},
-    {&OVSettingsSnapshot::colorProfileNames, OVWindowTexts::ColorProfileTab},
+    {&OVSettingsSnapshot::allSharedBoxNames, OVWindowTexts::sharedFolderInPrinter},
+    {&OVSettingsSnapshot::selectedSharedBoxNames, OVWindowTexts::registerFolder},
+    {&OVSettingsSnapshot::formNames, OVWindowTexts::formTab},
+    {&OVSettingsSnapshot::barcodeAreaDefinitionNames, OVWindowTexts::barcodeTab},
+    {&OVSettingsSnapshot::colorProfileNames, OVWindowTexts::colorProfileTab},
 };
 
 qsizetype textSize(const QStringList &list) {

@@ -97,8 +97,8 @@ void OVTableViewDataSource::removeSelectedRow() {
 void OVTableViewDataSource::tableViewSelectionDidChange(const OVNotification &) {
     m_selectedRow = tableSelectedRow();
     OVNotificationCenter::defaultCenter().postNotification(
-        QString::fromLatin1(SelectionChangedNotification),
-        QVariant(QString::fromLatin1(SelectionChangedObject)));
+        QString::fromLatin1(selectionChangedNotification),
+        QVariant(QString::fromLatin1(selectionChangedObject)));
 }
 
 int OVTableViewDataSource::rowCount(const QModelIndex &parent) const {

@@ -18,10 +18,10 @@ class OVTableViewDataSource : public QAbstractTableModel {
     Q_OBJECT
 
 public:
-    static constexpr const char *SelectionChangedNotification =
+    static constexpr const char *selectionChangedNotification =
         "OVTableViewDataSourceSelectionChanged";
     // The object of every selection event; it names no data source.
-    static constexpr const char *SelectionChangedObject = "SelctionChanged";
+    static constexpr const char *selectionChangedObject = "SelctionChanged";
 
     explicit OVTableViewDataSource(QObject *parent = nullptr);
     ~OVTableViewDataSource() override;

@@ -31,41 +31,41 @@ QString localized(const char *key) {
 void OVWindowSetUp::setUpWindowTitle(QWidget *window,
                                      const std::optional<QVariantMap> &dictionary) {
     if (!dictionary) {
-        window->setWindowTitle(localized(DefaultTitle));
+        window->setWindowTitle(localized(defaultTitle));
         return;
     }
-    const auto modelName = dictionary->constFind(ModelNameKey);
+    const auto modelName = dictionary->constFind(modelNameKey);
     if (modelName != dictionary->constEnd())
-        window->setWindowTitle(modelName->toString() + localized(UtilitySuffix));
+        window->setWindowTitle(modelName->toString() + localized(utilitySuffix));
 }
 
 void OVWindowSetUp::setUpTexts(Ui::MainUtilityWindiw &c) {
-    c.okButton->setText(localized(OK));
-    c.closeButton->setText(localized(Close));
-    c.introTextLabel->setText(localized(IntroText));
+    c.okButton->setText(localized(ok));
+    c.closeButton->setText(localized(closeButton));
+    c.introTextLabel->setText(localized(introText));
     c.snmpCommunityCheck->setText(localized(SnmpCommunityName));
-    c.wakeOnLANCheck->setText(localized(WakeOnLan));
-    c.macAddressLabel->setText(localized(MacAddressLabel));
-    c.overstepTheRouter->setText(localized(OverTheRouter));
-    c.printerIPAddressLabel->setText(localized(IPAddressLabel));
-    c.printerGetPrinterInfoButton->setText(localized(GetPrinterInfo));
-    c.progressIndicatorText->setText(localized(GettingInformation));
-    c.meinTabView->setTabText(c.meinTabView->indexOf(c.folderTabViewItem), localized(FolderTab));
-    c.meinTabView->setTabText(c.meinTabView->indexOf(c.formTabViewItem), localized(FormTab));
+    c.wakeOnLANCheck->setText(localized(wakeOnLan));
+    c.macAddressLabel->setText(localized(macAddressLabel));
+    c.overstepTheRouter->setText(localized(overTheRouter));
+    c.printerIPAddressLabel->setText(localized(ipAddressLabel));
+    c.printerGetPrinterInfoButton->setText(localized(getPrinterInfo));
+    c.progressIndicatorText->setText(localized(gettingInformation));
+    c.meinTabView->setTabText(c.meinTabView->indexOf(c.folderTabViewItem), localized(folderTab));
+    c.meinTabView->setTabText(c.meinTabView->indexOf(c.formTabViewItem), localized(formTab));
     c.meinTabView->setTabText(c.meinTabView->indexOf(c.barcodeAreaDefinitionTabViewItem),
-                              localized(BarcodeTab));
+                              localized(barcodeTab));
     c.meinTabView->setTabText(c.meinTabView->indexOf(c.colorProfileTabViewItem),
-                              localized(ColorProfileTab));
-    c.formLabel->setText(localized(FormTab));
-    c.barcodeAreaDefinitionLabel->setText(localized(BarcodeTab));
-    c.colorProfileLabel->setText(localized(ColorProfileTab));
+                              localized(colorProfileTab));
+    c.formLabel->setText(localized(formTab));
+    c.barcodeAreaDefinitionLabel->setText(localized(barcodeTab));
+    c.colorProfileLabel->setText(localized(colorProfileTab));
     for (QPushButton *button :
          {c.folderGetPrinterInfoButton, c.formGetPrinterInfoButton,
           c.barcodeAreaDefinitionGetPrinterInfoButton, c.colorProfileGetPrinterInfoButton})
-        button->setText(localized(GetPrinterInfo));
+        button->setText(localized(getPrinterInfo));
     for (QPushButton *button : {c.folderClearButton, c.formClearButton,
                                 c.barcodeAreaDefinitionClearButton, c.colorProfileClearButton})
-        button->setText(localized(Clear));
+        button->setText(localized(clear));
 }
 
 void OVWindowSetUp::setUpSettingsFields(Ui::MainUtilityWindiw &c) {
@@ -74,8 +74,8 @@ void OVWindowSetUp::setUpSettingsFields(Ui::MainUtilityWindiw &c) {
     c.snmpCommunityText->setInvalidCharacters(communityInvalidCharacters);
     c.snmpCommunityText->setMaxLength(communityMaxLength);
     c.snmpCommunityText->showMessageIfInvalid(true);
-    c.snmpCommunityText->setInvalidMessageString(localized(ProhibitCharacter), QString(""));
-    c.snmpCommunityText->setText(OrvoSettingsKeywords::DefaultCommunity);
+    c.snmpCommunityText->setInvalidMessageString(localized(prohibitCharacter), QString(""));
+    c.snmpCommunityText->setText(OrvoSettingsKeywords::defaultCommunity);
     c.snmpCommunityText->setEnabled(false);
     c.wakeOnLANCheck->setChecked(true);
     for (OVCustomRestrictedTextField *field :
@@ -92,10 +92,10 @@ void OVWindowSetUp::setUpSettingsFields(Ui::MainUtilityWindiw &c) {
 }
 
 void OVWindowSetUp::setUpFolderTab(Ui::MainUtilityWindiw &c) {
-    c.folderSharedFolderLabel->setText(localized(SharedFolderInPrinter));
-    c.folderRegisterFolderLabel->setText(localized(RegisterFolder));
-    c.folderAddButton->setText(localized(Add));
-    c.folderDeleteButton->setText(localized(Delete));
+    c.folderSharedFolderLabel->setText(localized(sharedFolderInPrinter));
+    c.folderRegisterFolderLabel->setText(localized(registerFolder));
+    c.folderAddButton->setText(localized(add));
+    c.folderDeleteButton->setText(localized(deleteButton));
     c.folderPersonalFolderCheck->setText(localized(UsePersonalFolder));
     c.folderPersonalFolderCheck->setEnabled(false);
     c.folderPersonalFolderCheck->setChecked(false);

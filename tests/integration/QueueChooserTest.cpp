@@ -102,35 +102,35 @@ protected:
         CupsServer::Options options;
         options.clientsUseIt = false;
         options.adminNeedsPassword = true;
-        withPassword =
+        s_withPassword =
             std::make_unique<CupsServer>(QStringLiteral(ORVO_PPD_UPDATE_FILTER), options);
-        ASSERT_TRUE(withPassword->isRunning() && withPassword->addQueue("Only") &&
-                    withPassword->addQueue("Plain", plainPpd(dir)));
+        ASSERT_TRUE(s_withPassword->isRunning() && s_withPassword->addQueue("Only") &&
+                    s_withPassword->addQueue("Plain", plainPpd(dir)));
     }
-    static void TearDownTestSuite() { withPassword.reset(); }
+    static void TearDownTestSuite() { s_withPassword.reset(); }
     void SetUp() override { useServer(CupsServerEnvironment::server().address()); }
 
     // Starts the chooser and waits for the server's answer.
     void list() {
-        QSignalSpy listed(&chooser, &OVQueueChooser::listed);
-        chooser.start();
+        QSignalSpy listed(&m_chooser, &OVQueueChooser::listed);
+        m_chooser.start();
         ASSERT_TRUE(listed.wait(30000));
     }
 
-    static inline std::unique_ptr<CupsServer> withPassword;
-    OVQueueChooser chooser;
+    static inline std::unique_ptr<CupsServer> s_withPassword;
+    OVQueueChooser m_chooser;
 };
 
 TEST_F(QueueChooserTest, ListsEveryQueueWithItsStateAndFilters) {
     list();
-    ASSERT_TRUE(chooser.isVisible());
-    const QTableView *table = chooser.queueTable();
+    ASSERT_TRUE(m_chooser.isVisible());
+    const QTableView *table = m_chooser.queueTable();
     EXPECT_EQ(column(table, 0), (QStringList{"Alpha", "Beta", "Gamma"}));
     EXPECT_EQ(column(table, 1).last(), "Lab on the second floor");
     EXPECT_EQ(column(table, 2), (QStringList{"Orvo Printer", "Orvo Printer", "Lab Colour Laser"}));
     EXPECT_EQ(column(table, 3), (QStringList{"Set up", "Set up", "Not set up"}));
-    EXPECT_EQ(chooser.chosenQueue(), "Alpha");
-    EXPECT_EQ(chooser.filterField()->accessibleName(), "Filter");
+    EXPECT_EQ(m_chooser.chosenQueue(), "Alpha");
+    EXPECT_EQ(m_chooser.filterField()->accessibleName(), "Filter");
     const std::pair<const char *, QStringList> filters[] = {
         {"second FLOOR", {"Gamma"}}, // description
         {"lab colour", {"Gamma"}},   // make and model
@@ -141,12 +141,12 @@ TEST_F(QueueChooserTest, ListsEveryQueueWithItsStateAndFilters) {
     };
     for (const auto &[filter, shown] : filters) {
         SCOPED_TRACE(filter);
-        chooser.filterField()->setText(filter);
+        m_chooser.filterField()->setText(filter);
         EXPECT_EQ(column(table, 0), shown);
         // A choice that stays in sight stays chosen.
-        EXPECT_TRUE(shown.isEmpty() ? chooser.chosenQueue().isEmpty()
-                                    : shown.contains(chooser.chosenQueue()));
-        EXPECT_EQ(chooser.openButton()->isEnabled(), !shown.isEmpty());
+        EXPECT_TRUE(shown.isEmpty() ? m_chooser.chosenQueue().isEmpty()
+                                    : shown.contains(m_chooser.chosenQueue()));
+        EXPECT_EQ(m_chooser.openButton()->isEnabled(), !shown.isEmpty());
     }
 }
 
@@ -155,7 +155,7 @@ TEST_F(QueueChooserTest, OpensTheChosenQueue) {
     const std::function<void(QTableView *, int row)> ways[] = {
         [this](QTableView *table, int row) {
             table->selectRow(row);
-            QTest::mouseClick(chooser.openButton(), Qt::LeftButton);
+            QTest::mouseClick(m_chooser.openButton(), Qt::LeftButton);
         },
         [](QTableView *table, int row) {
             const QRect cell = table->visualRect(table->model()->index(row, 1));
@@ -168,39 +168,40 @@ TEST_F(QueueChooserTest, OpensTheChosenQueue) {
     };
     for (const auto &open : ways) {
         list();
-        open(chooser.queueTable(), 2);
-        EXPECT_EQ(chooser.result(), QDialog::Accepted);
-        EXPECT_EQ(chooser.chosenQueue(), "Gamma");
+        open(m_chooser.queueTable(), 2);
+        EXPECT_EQ(m_chooser.result(), QDialog::Accepted);
+        EXPECT_EQ(m_chooser.chosenQueue(), "Gamma");
     }
     list();
-    QTest::keyClick(chooser.queueTable(), Qt::Key_Escape);
-    EXPECT_EQ(chooser.result(), QDialog::Rejected);
+    QTest::keyClick(m_chooser.queueTable(), Qt::Key_Escape);
+    EXPECT_EQ(m_chooser.result(), QDialog::Rejected);
 }
 
 TEST_F(QueueChooserTest, TheOneSetUpQueueOpensAtOnce) {
-    useServer(withPassword->address());
-    QSignalSpy accepted(&chooser, &QDialog::accepted);
+    useServer(s_withPassword->address());
+    QSignalSpy accepted(&m_chooser, &QDialog::accepted);
     list();
     EXPECT_EQ(accepted.count(), 1);
-    EXPECT_EQ(chooser.chosenQueue(), "Only");
-    EXPECT_FALSE(chooser.isVisible());
+    EXPECT_EQ(m_chooser.chosenQueue(), "Only");
+    EXPECT_FALSE(m_chooser.isVisible());
 }
 
 // An unreachable server is said, with a Retry that lists the queues once it answers.
 TEST_F(QueueChooserTest, SaysWhenTheServerCannotBeReached) {
     useServer("127.0.0.1:1");
     list();
-    EXPECT_TRUE(chooser.isVisible());
-    EXPECT_EQ(chooser.statusText(), "The print server 127.0.0.1:1 cannot be reached. Check that it "
-                                    "is running, then try again.");
-    EXPECT_FALSE(chooser.openButton()->isEnabled());
-    EXPECT_EQ(chooser.queueTable()->model()->rowCount(), 0);
+    EXPECT_TRUE(m_chooser.isVisible());
+    EXPECT_EQ(m_chooser.statusText(),
+              "The print server 127.0.0.1:1 cannot be reached. Check that it "
+              "is running, then try again.");
+    EXPECT_FALSE(m_chooser.openButton()->isEnabled());
+    EXPECT_EQ(m_chooser.queueTable()->model()->rowCount(), 0);
     useServer(CupsServerEnvironment::server().address());
-    QSignalSpy listed(&chooser, &OVQueueChooser::listed);
-    QTest::mouseClick(chooser.retryButton(), Qt::LeftButton);
+    QSignalSpy listed(&m_chooser, &OVQueueChooser::listed);
+    QTest::mouseClick(m_chooser.retryButton(), Qt::LeftButton);
     ASSERT_TRUE(listed.wait(30000));
-    EXPECT_EQ(chooser.statusText(), "");
-    EXPECT_EQ(chooser.queueTable()->model()->rowCount(), 3);
+    EXPECT_EQ(m_chooser.statusText(), "");
+    EXPECT_EQ(m_chooser.queueTable()->model()->rowCount(), 3);
 }
 
 // Every answer of the server comes half a second late; the chooser shows its
@@ -217,13 +218,13 @@ TEST_F(QueueChooserTest, ASlowServerNeverStallsTheChooser) {
     ASSERT_TRUE(proxy.isListening());
     useServer(proxy.address());
     const EventLoopStallMeter meter;
-    QSignalSpy listed(&chooser, &OVQueueChooser::listed);
-    chooser.start();
-    ASSERT_TRUE(QTest::qWaitFor([&] { return chooser.isVisible(); }, 5000));
-    EXPECT_EQ(chooser.statusText(), "Asking the print server for its queues...");
+    QSignalSpy listed(&m_chooser, &OVQueueChooser::listed);
+    m_chooser.start();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return m_chooser.isVisible(); }, 5000));
+    EXPECT_EQ(m_chooser.statusText(), "Asking the print server for its queues...");
     EXPECT_TRUE(listed.isEmpty());
     ASSERT_TRUE(listed.wait(30000));
-    EXPECT_EQ(chooser.queueTable()->model()->rowCount(), 3);
+    EXPECT_EQ(m_chooser.queueTable()->model()->rowCount(), 3);
     EXPECT_LT(meter.largestGap(), 100ms);
 }
 
@@ -232,7 +233,7 @@ TEST_F(QueueChooserTest, ASlowServerNeverStallsTheChooser) {
 // the queue as it was; an administrator's password sets it up.
 TEST_F(QueueChooserTest, PasswordPromptAnswersTheServer) {
     ASSERT_TRUE(administrator) << "the suite needs root for a mount namespace";
-    CupsServer &server = *withPassword;
+    CupsServer &server = *s_withPassword;
     useServer(server.address());
     const QByteArray before = server.queuePpd("Plain");
     OVPasswordPrompt prompt;

@@ -145,7 +145,7 @@ TEST(QueueSetup, PrintingQueuesOfEveryStyleKeepPrintingAndTakeSaves) {
         const qsizetype remoteJobsLogged = remote.errorLog().count("Queued on");
         const int job = OVUpdateJob::saveOptionsToPPD(settings, queue);
         EXPECT_EQ(cups.waitForJob(job), IPP_JSTATE_COMPLETED);
-        EXPECT_EQ(filtersOf(cups.errorLog(), job), QStringList{K::DriverFilter});
+        EXPECT_EQ(filtersOf(cups.errorLog(), job), QStringList{K::driverFilter});
         EXPECT_EQ(readFile(device), QByteArray());
         EXPECT_EQ(remote.errorLog().count("Queued on"), remoteJobsLogged);
         EXPECT_TRUE(idleAndAccepting(queue));

@@ -55,25 +55,25 @@ public:
     // destination), made inside the namespace, where it stays; the thread that
     // reads it need not.
     MagicPacketListener(const QString &netns, const QString &printerDirectory)
-        : awakeFile(printerDirectory + "/awake-at") {
+        : m_awakeFile(printerDirectory + "/awake-at") {
         Net::runIn(netns, std::bind(&MagicPacketListener::open, this), &error);
         if (error.isEmpty())
-            thread = std::thread([this] {
-                while (!stopping)
+            m_thread = std::thread([this] {
+                while (!m_stopping)
                     receive();
             });
     }
     ~MagicPacketListener() {
         packets();
-        close(socketFd);
+        close(m_socketFd);
     }
     // Stops listening; the packets that arrived until then, each with the
     // address it was sent to.
     QList<std::pair<QString, QByteArray>> packets() {
-        stopping = true;
-        if (thread.joinable())
-            thread.join();
-        return received;
+        m_stopping = true;
+        if (m_thread.joinable())
+            m_thread.join();
+        return m_received;
     }
 
     QString error; // empty while listening
@@ -85,12 +85,12 @@ private:
         const sockaddr_in6 any{AF_INET6, htons(2304), 0, in6addr_any, 0};
         ipv6_mreq group{{}, if_nametoindex(Net::kPrinterInterface)};
         inet_pton(AF_INET6, "ff02::2", &group.ipv6mr_multiaddr); // inside the printer namespace
-        socketFd = socket(AF_INET6, SOCK_DGRAM, 0);
-        if (setsockopt(socketFd, IPPROTO_IPV6, IPV6_V6ONLY, &off, sizeof off) != 0 ||
-            setsockopt(socketFd, IPPROTO_IPV6, IPV6_RECVPKTINFO, &on, sizeof on) != 0 ||
-            setsockopt(socketFd, SOL_SOCKET, SO_RCVTIMEO, &tick, sizeof tick) != 0 ||
-            bind(socketFd, reinterpret_cast<const sockaddr *>(&any), sizeof any) != 0 ||
-            setsockopt(socketFd, IPPROTO_IPV6, IPV6_JOIN_GROUP, &group, sizeof group) != 0)
+        m_socketFd = socket(AF_INET6, SOCK_DGRAM, 0);
+        if (setsockopt(m_socketFd, IPPROTO_IPV6, IPV6_V6ONLY, &off, sizeof off) != 0 ||
+            setsockopt(m_socketFd, IPPROTO_IPV6, IPV6_RECVPKTINFO, &on, sizeof on) != 0 ||
+            setsockopt(m_socketFd, SOL_SOCKET, SO_RCVTIMEO, &tick, sizeof tick) != 0 ||
+            bind(m_socketFd, reinterpret_cast<const sockaddr *>(&any), sizeof any) != 0 ||
+            setsockopt(m_socketFd, IPPROTO_IPV6, IPV6_JOIN_GROUP, &group, sizeof group) != 0)
             error = QString("listener set-up failed: ") + std::strerror(errno);
     }
 
@@ -99,26 +99,26 @@ private:
         alignas(cmsghdr) char control[256];
         iovec io{data, sizeof data};
         msghdr message{nullptr, 0, &io, 1, control, sizeof control, 0};
-        const ssize_t length = recvmsg(socketFd, &message, 0);
+        const ssize_t length = recvmsg(m_socketFd, &message, 0);
         const cmsghdr *info = length >= 0 ? CMSG_FIRSTHDR(&message) : nullptr;
         if (!info || info->cmsg_type != IPV6_PKTINFO)
             return;
         char to[INET6_ADDRSTRLEN] = {};
         inet_ntop(AF_INET6, CMSG_DATA(info), to, sizeof to); // in6_pktinfo starts with it
-        received.append({QString(to).remove("::ffff:"), QByteArray(data, length)});
-        if (received.last().second != magicPacket(kMac))
+        m_received.append({QString(to).remove("::ffff:"), QByteArray(data, length)});
+        if (m_received.last().second != magicPacket(kMac))
             return;
-        QSaveFile file(awakeFile);
+        QSaveFile file(m_awakeFile);
         file.open(QIODevice::WriteOnly);
         file.write(QByteArray::number(QDateTime::currentMSecsSinceEpoch() + 200));
         file.commit();
     }
 
-    const QString awakeFile;
-    int socketFd = -1;
-    QList<std::pair<QString, QByteArray>> received;
-    std::atomic<bool> stopping{false};
-    std::thread thread;
+    const QString m_awakeFile;
+    int m_socketFd = -1;
+    QList<std::pair<QString, QByteArray>> m_received;
+    std::atomic<bool> m_stopping{false};
+    std::thread m_thread;
 };
 
 // The printer, in a namespace of its own, is asked at each of its addresses

@@ -60,7 +60,7 @@ TEST(ControlsTest, communityField) {
         alerts.clear();
         OVRestrictedTextField field;
         makeCommunityField(field, showMessage);
-        EventRecorder edits(OVRestrictedTextField::DidEditingNotification);
+        EventRecorder edits(OVRestrictedTextField::didEditingNotification);
         typeText(&field, typed);
         EXPECT_EQ(field.text(), expected);
         EXPECT_EQ(edits.events.size(), eventCount);
@@ -107,13 +107,13 @@ TEST(ControlsTest, macAddressFieldAndAutoTrim) {
         field.setText(initial);
         if (pasted)
             field.setAllowAutoTrim();
-        EventRecorder events(OVCustomRestrictedTextField::Notification);
+        EventRecorder events(OVCustomRestrictedTextField::notification);
         QApplication::clipboard()->setText(input);
         pasted ? field.paste() : typeText(&field, input);
         EXPECT_EQ(field.text(), expected) << input.toStdString();
         ASSERT_EQ(events.events.size(), changes);
         for (const OVNotification &event : events.events)
-            EXPECT_EQ(event.userInfo[OVCustomRestrictedTextField::MethodNameKey], "textDidChange");
+            EXPECT_EQ(event.userInfo[OVCustomRestrictedTextField::methodNameKey], "textDidChange");
     }
 }
 
@@ -149,9 +149,9 @@ TEST(ControlsTest, hostileInputKeepsEachFieldsRules) {
 // The first button sits rightmost, a missing title leaves no gap, each answers its result.
 TEST(ControlsTest, alertDialog) {
     const std::tuple<QStringList, QStringList, int, int> cases[] = {
-        {{QString(), QString(), QString()}, {"OK"}, 0, OVAlert::DefaultReturn},
-        {{"Save", "Cancel", "Discard"}, {"Save", "Discard", "Cancel"}, 2, OVAlert::AlternateReturn},
-        {{"Save", QString(), "Discard"}, {"Save", "Discard"}, 1, OVAlert::OtherReturn}};
+        {{QString(), QString(), QString()}, {"OK"}, 0, OVAlert::defaultReturn},
+        {{"Save", "Cancel", "Discard"}, {"Save", "Discard", "Cancel"}, 2, OVAlert::alternateReturn},
+        {{"Save", QString(), "Discard"}, {"Save", "Discard"}, 1, OVAlert::otherReturn}};
     for (const auto &[titles, panelOrder, pressed, result] : cases) {
         const auto alert = OVAlert::alertWithMessageText("", titles[0], titles[1], titles[2], "%@");
         QMap<int, QString> rightToLeft;
@@ -204,7 +204,7 @@ TEST(ControlsTest, stringListModel) {
     EXPECT_EQ(source.getElementAtRow(0), "Form");
     OVPreferredLanguages::setOverride(std::nullopt);
     source.setElementsArray(QStringList{"Form A", "Form B", "Form C"});
-    EventRecorder events(OVTableViewDataSource::SelectionChangedNotification);
+    EventRecorder events(OVTableViewDataSource::selectionChangedNotification);
     const QPoint rowB = view.visualRect(source.index(1, 0)).center();
     const std::tuple<std::function<void()>, int, QString, int> steps[] = {
         {[&] { source.selectLastRow(); }, 2, "Form C", 1},
