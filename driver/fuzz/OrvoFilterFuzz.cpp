@@ -44,7 +44,7 @@ Options parse(const char *text) {
 bool isUpdateJob(const Options &job) {
     for (const auto &[name, value] : job)
         if (strcasecmp(name.c_str(), OrvoSettingsKeywords::UpdatePPDOptions) == 0)
-            return value == "true" || value == OrvoSettingsKeywords::UpdatePPDOptionsValue;
+            return value == "true" || value == OrvoSettingsKeywords::updatePpdOptionsValue;
     return false;
 }
 
@@ -90,7 +90,7 @@ bool changesPPD(const std::string &name, const std::string &value) {
 } // namespace
 
 extern "C" int LLVMFuzzerInitialize(int *, char ***) {
-    setenv("CONTENT_TYPE", OrvoSettingsKeywords::UpdateDocumentFormat, 1);
+    setenv("CONTENT_TYPE", OrvoSettingsKeywords::updateDocumentFormat, 1);
     unsetenv("PPD");
     return 0;
 }
