@@ -24,6 +24,13 @@ OVCupsConnection::OVCupsConnection()
         httpSetTimeout(m_http, waitSlice, keepWaiting, this);
 }
 
+QString OVCupsConnection::serverName() {
+    const QString server = QString::fromUtf8(cupsServer());
+    if (server.startsWith('/'))
+        return QStringLiteral("localhost");
+    return ippPort() == IPP_PORT ? server : QStringLiteral("%1:%2").arg(server).arg(ippPort());
+}
+
 OVCupsConnection::~OVCupsConnection() {
     if (m_http)
         httpClose(m_http);

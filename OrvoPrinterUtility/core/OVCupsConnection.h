@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QString>
+
 #include <cups/http.h>
 
 #include <chrono>
@@ -23,6 +25,10 @@ public:
     ~OVCupsConnection();
     OVCupsConnection(const OVCupsConnection &) = delete;
     OVCupsConnection &operator=(const OVCupsConnection &) = delete;
+
+    // The server as a user knows it: a local server's socket file means
+    // nothing to them; a port is named when it is not the usual one.
+    static QString serverName();
 
     // Null when the server could not be reached.
     http_t *http() const { return m_http; }

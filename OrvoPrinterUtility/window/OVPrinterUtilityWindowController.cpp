@@ -4,6 +4,7 @@
 #include "OVCustomRestrictedTextField.h"
 #include "OVInputHold.h"
 #include "OVLaunchEvent.h"
+#include "OVMessageBar.h"
 #include "OVNotificationCenter.h"
 #include "OVPrinterUtilityHelper.h"
 #include "OVSleep.h"
@@ -30,8 +31,10 @@ std::optional<QVariantMap> &informationDictionary() {
 OVPrinterUtilityWindowController::OVPrinterUtilityWindowController(QObject *parent)
     : QObject(parent)
     , m_window(std::make_unique<QWidget>())
-    , m_ui(std::make_unique<Ui::MainUtilityWindiw>()) {
+    , m_ui(std::make_unique<Ui::MainUtilityWindiw>())
+    , m_messageBar(new OVMessageBar(m_window.get())) {
     m_ui->setupUi(m_window.get());
+    m_ui->mainLayout->insertWidget(m_ui->mainLayout->indexOf(m_ui->meinTabView), m_messageBar);
     m_window->installEventFilter(this);
     resetLaunchState();
     connectActions();
@@ -163,6 +166,8 @@ void OVPrinterUtilityWindowController::connectActions() {
     for (const auto &[button, action] : others)
         connect(button, &QAbstractButton::clicked, this,
                 [this, button = button, action = action] { runAction(button, action, false); });
+    connect(m_messageBar, &OVMessageBar::actionTriggered, this,
+            &OVPrinterUtilityWindowController::messageBarActionTriggered);
 }
 
 QList<QAbstractButton *> OVPrinterUtilityWindowController::fetchButtons() const {

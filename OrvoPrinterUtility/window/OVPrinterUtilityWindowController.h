@@ -2,6 +2,7 @@
 
 #include "OVFolderSelection.h"
 #include "OVPrinterInfoFetch.h"
+#include "OVWindowQueue.h"
 #include "OVWindowSave.h"
 
 #include <QObject>
@@ -14,6 +15,7 @@
 #include <span>
 
 class OVControlsLock;
+class OVMessageBar;
 class OVTableViewDataSource;
 struct OVSettingsSnapshot;
 class QAbstractButton;
@@ -26,10 +28,12 @@ class MainUtilityWindiw;
 
 // Owns the utility's one window ("MainUtilityWindiw") and all its controls,
 // and coordinates what happens to them: the stored settings of the queue
-// (OVStoredSettings) load in the background and fill the controls; the folder
-// tab shows an OVFolderSelection; Get Printer Info runs OVPrinterInfoFetch;
-// OK saves through OVWindowSave. Every call that may wait on the network
-// goes through OVBackgroundTask.
+// (OVWindowQueue) load in the background and fill the controls, and a bar
+// above the tabs says what keeps the window from saving (offering the set-up
+// of a queue that is not set up); the folder tab shows an OVFolderSelection;
+// Get Printer Info runs OVPrinterInfoFetch; OK saves through OVWindowSave and
+// closes the window only once the settings are stored. Every call that may
+// wait on the network goes through OVBackgroundTask.
 class OVPrinterUtilityWindowController : public QObject {
     Q_OBJECT
 
@@ -43,6 +47,7 @@ public:
 
     QWidget *mainWindowObject() const;
     Ui::MainUtilityWindiw &controls() const;
+    OVMessageBar *messageBar() const { return m_messageBar; }
     QString printerID() const { return m_printerId; }
     void setPrinterID(const QString &printerID) { m_printerId = printerID; }
     bool bError() const { return m_bError; }
@@ -138,14 +143,21 @@ private:
     QList<QAbstractButton *> fetchButtons() const;
     void bindTable(OVTableViewDataSource *dataSource, QTableView *table);
     QList<QWidget *> settingsControls() const;
-    void finishLoading(const std::optional<OVSettingsSnapshot> &settings);
+    void finishLoading(const OVWindowQueue::Loaded &loaded);
+    void lockSettings(const char *progressText);
+    void unlockSettings();
+    void showProblem(OVWindowQueue::Problem problem);
+    void messageBarActionTriggered();
+    void setUpQueue();
+    void setUpEnded(const OVQueueSetup::Result &result);
+    void alert(const QString &text);
     void applySettings(const OVSettingsSnapshot &settings);
     void applyFolderSettings(const OVSettingsSnapshot &settings);
     void applyListSettings(const OVSettingsSnapshot &settings);
     void showList(OVTableViewDataSource *dataSource, QTableView *table, const QStringList &list);
     void showRegisterFolders();
     void showSelectedFolders();
-    void saved(OVWindowSave::Outcome outcome);
+    void saved(const OVWindowSave::Outcome &outcome);
     void showTooLongMessage(const QStringList &listKeys);
     OVPrinterInfoFetch::Printer fetchTarget() const;
     void fetch(std::span<const OVPrinterInfoFetch::Step> steps);
@@ -164,7 +176,13 @@ private:
     std::unique_ptr<OVTableViewDataSource> m_formTableViewDataSource;
     std::unique_ptr<OVTableViewDataSource> m_barcodeAreaDefinitionTableViewDataSource;
     std::unique_ptr<OVTableViewDataSource> m_colorProfileTableViewDataSource;
-    std::unique_ptr<OVControlsLock> m_loading;
+    OVMessageBar *m_messageBar;
+    // The settings controls are off while the window loads, saves or sets
+    // up the queue.
+    std::unique_ptr<OVControlsLock> m_busy;
+    // What keeps the window from saving, as the bar says it.
+    OVWindowQueue::Problem m_problem = OVWindowQueue::Problem::None;
+    QString m_server;
     OVFolderSelection m_folders;
     QString m_printerId;
     bool m_bError = false;

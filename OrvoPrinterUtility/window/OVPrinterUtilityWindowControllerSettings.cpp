@@ -7,7 +7,6 @@
 #include "OVPrinterUtilityWindowController.h"
 #include "OVSaveSizeCheck.h"
 #include "OVSettingsSnapshot.h"
-#include "OVStoredSettings.h"
 #include "OVTableViewDataSource.h"
 #include "OVWindowLog.h"
 #include "OVWindowTexts.h"
@@ -15,16 +14,15 @@
 
 using namespace OVWindowTexts;
 
-// The steps after the stored settings are in.
-void OVPrinterUtilityWindowController::finishLoading(
-    const std::optional<OVSettingsSnapshot> &settings) {
-    if (m_loading)
-        m_loading->release();
-    m_loading.reset();
+// The steps after the stored settings are in, or the window's defaults
+// stayed because the queue has none to give.
+void OVPrinterUtilityWindowController::finishLoading(const OVWindowQueue::Loaded &loaded) {
+    unlockSettings();
     m_ui->progressIndicatorText->setText(localized(gettingInformation));
-    showProgress(false);
-    if (settings)
-        applySettings(*settings);
+    m_server = loaded.server;
+    if (loaded.settings)
+        applySettings(*loaded.settings);
+    showProblem(loaded.problem);
     initAddDeleteState();
     m_registerFolderTableViewDataSource->selectFirstRow();
     loadFormValues();
@@ -46,24 +44,29 @@ QList<QWidget *> OVPrinterUtilityWindowController::settingsControls() const {
 }
 
 // The window shows at once with its settings off while the print server is
-// asked. A missing server, queue, PPD or attribute is never an error: the
-// window keeps its defaults.
+// asked. A missing server, queue, PPD or attribute leaves the window's
+// defaults in place, and the bar above the tabs says what is missing.
 void OVPrinterUtilityWindowController::loadOptionsFromPPD() {
-    if (!m_loading)
-        m_loading = std::make_unique<OVControlsLock>(settingsControls());
-    m_ui->progressIndicatorText->setText(localized(loadingSettings));
-    showProgress(true);
+    lockSettings(loadingSettings);
     OVBackgroundTask::run(
-        this,
-        [printerID = m_printerId]() -> std::optional<OVSettingsSnapshot> {
-            OVSettingsSnapshot settings;
-            const auto status = OVStoredSettings::load(printerID, settings);
-            qCDebug(orvoWindow) << "settings of" << printerID << "loaded:" << int(status);
-            if (status != OVStoredSettings::Status::Loaded)
-                return std::nullopt;
-            return settings;
-        },
-        [this](const std::optional<OVSettingsSnapshot> &settings) { finishLoading(settings); });
+        this, [printerID = m_printerId] { return OVWindowQueue::load(printerID); },
+        [this](const OVWindowQueue::Loaded &loaded) { finishLoading(loaded); });
+}
+
+// Held from the start of a load, save or set-up to its end; a second hold
+// while one is on keeps the first, which knows the controls' own states.
+void OVPrinterUtilityWindowController::lockSettings(const char *progressText) {
+    if (!m_busy)
+        m_busy = std::make_unique<OVControlsLock>(settingsControls());
+    m_ui->progressIndicatorText->setText(localized(progressText));
+    showProgress(true);
+}
+
+void OVPrinterUtilityWindowController::unlockSettings() {
+    if (m_busy)
+        m_busy->release();
+    m_busy.reset();
+    showProgress(false);
 }
 
 void OVPrinterUtilityWindowController::applySettings(const OVSettingsSnapshot &s) {
@@ -111,6 +114,13 @@ void OVPrinterUtilityWindowController::showList(OVTableViewDataSource *dataSourc
 void OVPrinterUtilityWindowController::okButtonClicked(QObject *) {
     if (m_saving)
         return;
+    // Settings that did not come from the queue would replace the stored
+    // ones with defaults, and a queue that is not set up would print them:
+    // OK says what stands in the way, as the bar does.
+    if (m_problem != OVWindowQueue::Problem::None) {
+        alert(OVWindowQueue::problemText(m_problem, m_printerId, m_server));
+        return;
+    }
     updateStringArrays();
     m_isPpdOptionsUpdated = true;
     // cupsd hands all job options to the filter in one argument, which the
@@ -125,17 +135,18 @@ void OVPrinterUtilityWindowController::okButtonClicked(QObject *) {
     saveOptionsToPPD();
 }
 
-// On a queue that is not set up the settings would be lost: say so and keep
-// the window open with everything set. Otherwise the job is on its way.
-void OVPrinterUtilityWindowController::saved(OVWindowSave::Outcome outcome) {
+// The window closes only on settings the queue's PPD holds; otherwise it
+// stays open with everything set, and says what became of the save.
+void OVPrinterUtilityWindowController::saved(const OVWindowSave::Outcome &outcome) {
     m_saving = false;
-    if (outcome == OVWindowSave::Outcome::Submitted) {
+    unlockSettings();
+    if (outcome.stored()) {
         closeButtonClicked(m_ui->closeButton);
         return;
     }
-    OVAlert::alertWithMessageText(localized(queueNotSetUp).arg(m_printerId), localized(ok),
-                                  QString(), QString(), OVAlert::plainMessageFormat, {})
-        ->runModal();
+    if (!outcome.queueSetUp || outcome.save.result == OVSettingsSave::Result::Damaged)
+        showProblem(OVWindowQueue::Problem::NotSetUp);
+    alert(OVWindowSave::failureText(outcome, m_printerId));
 }
 
 void OVPrinterUtilityWindowController::showTooLongMessage(const QStringList &listKeys) {
@@ -154,8 +165,9 @@ void OVPrinterUtilityWindowController::closeButtonClicked(QObject *) {
 
 void OVPrinterUtilityWindowController::saveOptionsToPPD() {
     m_saving = true;
+    lockSettings(savingSettings);
     OVWindowSave::save(this, settingsSnapshot(), m_printerId,
-                       [this](OVWindowSave::Outcome outcome) { saved(outcome); });
+                       [this](const OVWindowSave::Outcome &outcome) { saved(outcome); });
 }
 
 OVSettingsSnapshot OVPrinterUtilityWindowController::settingsSnapshot() const {

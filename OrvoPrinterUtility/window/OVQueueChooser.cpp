@@ -2,6 +2,7 @@
 
 #include "OVBackgroundTask.h"
 #include "OVChooserTexts.h"
+#include "OVCupsConnection.h"
 
 #include <QDialogButtonBox>
 #include <QHBoxLayout>
@@ -15,8 +16,6 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
-#include <cups/cups.h>
-
 #include <algorithm>
 
 namespace T = OVChooserTexts;
@@ -26,15 +25,6 @@ namespace {
 enum Column { NameColumn, DescriptionColumn, MakeAndModelColumn, StateColumn, ColumnCount };
 // What the filter matches: name, description, make and model in one text.
 constexpr int searchRole = Qt::UserRole + 1;
-
-// A local server is reached through its socket file, which means nothing to a
-// user; a port is named when it is not the usual one.
-QString serverName() {
-    const QString server = QString::fromUtf8(cupsServer());
-    if (server.startsWith('/'))
-        return QStringLiteral("localhost");
-    return ippPort() == IPP_PORT ? server : QStringLiteral("%1:%2").arg(server).arg(ippPort());
-}
 
 QList<QStandardItem *> queueRow(const OVQueueSetup::Queue &queue) {
     QList<QStandardItem *> row;
@@ -140,7 +130,7 @@ void OVQueueChooser::load() {
     OVBackgroundTask::run(
         this,
         [] {
-            return Listing{OVQueueSetup::queues(), serverName()};
+            return Listing{OVQueueSetup::queues(), OVCupsConnection::serverName()};
         },
         [this](const Listing &listing) { showListing(listing); });
 }

@@ -1,20 +1,65 @@
 #include "OVWindowSave.h"
 
 #include "OVBackgroundTask.h"
+#include "OVChooserTexts.h"
 #include "OVQueueSetup.h"
-#include "OVUpdateJob.h"
+#include "OVWindowLog.h"
+#include "OVWindowTexts.h"
+
+using OVChooserTexts::localized;
+using namespace OVWindowTexts;
 
 void OVWindowSave::save(QObject *context, const OVSettingsSnapshot &settings,
-                        const QString &printerID, std::function<void(Outcome)> done) {
+                        const QString &printerID, std::function<void(const Outcome &)> done) {
     OVBackgroundTask::run(
         context,
         [settings, printerID] {
+            Outcome outcome;
             // On a queue that is not set up the update job would be printed,
             // and the settings lost.
-            if (OVQueueSetup::state(printerID) == OVQueueSetup::State::NotSetUp)
-                return Outcome::QueueNotSetUp;
-            OVUpdateJob::saveOptionsToPPD(settings, printerID);
-            return Outcome::Submitted;
+            outcome.queueSetUp = OVQueueSetup::state(printerID) != OVQueueSetup::State::NotSetUp;
+            if (outcome.queueSetUp)
+                outcome.save = OVSettingsSave::save(settings, printerID);
+            qCDebug(orvoWindow) << "save to" << printerID << "set up:" << outcome.queueSetUp
+                                << "result:" << int(outcome.save.result)
+                                << "job:" << outcome.save.jobId;
+            return outcome;
         },
         std::move(done));
+}
+
+QString OVWindowSave::failureText(const Outcome &outcome, const QString &queue) {
+    using Result = OVSettingsSave::Result;
+    const OVSettingsSave::Outcome &save = outcome.save;
+    if (!outcome.queueSetUp)
+        return localized(queueNotSetUp).arg(queue);
+    switch (save.result) {
+    case Result::Stored:
+        return {};
+    case Result::NotSent:
+        if (OVSettingsSave::serverLost(save.refusal))
+            return localized(saveServerLost);
+        return localized(saveRefused).arg(save.refusalText);
+    case Result::JobNotCompleted:
+        return jobFailureText(save);
+    case Result::NotHeld:
+        return localized(saveNotHeld).arg(save.jobId).arg(save.differing.join(", "));
+    case Result::Damaged:
+        return localized(saveDamaged).arg(queue);
+    case Result::NotReadBack:
+        break;
+    }
+    return localized(saveNotReadBack);
+}
+
+QString OVWindowSave::jobFailureText(const OVSettingsSave::Outcome &save) {
+    using End = OVUpdateJob::JobEnd;
+    switch (save.job.end) {
+    case End::ServerLost:
+        return localized(saveServerLost);
+    case End::Pending:
+        return localized(saveJobPending).arg(save.jobId);
+    default:
+        return localized(saveJobStopped).arg(save.jobId);
+    }
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "OVSettingsSave.h"
 #include "OVSettingsSnapshot.h"
 
 #include <QString>
@@ -9,12 +10,26 @@
 class QObject;
 
 // OK's way to the print server, off the GUI thread: the queue's set-up check,
-// then the update job that carries the settings to the PPD.
+// then the update job, waited for, and the queue's PPD read back. The window
+// closes only on a save that stored every setting; anything else is said in
+// words the user can act on.
 class OVWindowSave {
 public:
-    enum class Outcome { Submitted, QueueNotSetUp };
+    struct Outcome {
+        // False: the queue is not set up, and nothing was sent.
+        bool queueSetUp = true;
+        OVSettingsSave::Outcome save;
+
+        bool stored() const { return queueSetUp && save.result == OVSettingsSave::Result::Stored; }
+    };
 
     // done runs on context's thread, and not at all once context is gone.
     static void save(QObject *context, const OVSettingsSnapshot &settings, const QString &printerID,
-                     std::function<void(Outcome)> done);
+                     std::function<void(const Outcome &)> done);
+
+    // What became of a save that did not store, in the user's language.
+    static QString failureText(const Outcome &outcome, const QString &queue);
+
+private:
+    static QString jobFailureText(const OVSettingsSave::Outcome &save);
 };

@@ -31,6 +31,44 @@ inline constexpr char UsePersonalFolder[] = "Use Personal folder";
 inline constexpr char failedToObtain[] = "Failed to obtain information.";
 inline constexpr char settingsTooLong[] = "IDS_SETTINGS_TOO_LONG";
 inline constexpr char queueNotSetUp[] = "IDS_QUEUE_NOT_SET_UP"; // %1: the queue
+inline constexpr char savingSettings[] = "Saving settings...";
+inline constexpr char settingUpQueue[] = "Setting up the queue...";
+inline constexpr char setUpButton[] = "Set Up…";
+// %1: the server, %2: the queue
+inline constexpr char queueUnknown[] = "The print server %1 has no print queue \"%2\".";
+// %1: the queue, in this and the following texts
+inline constexpr char queueWithoutPpd[] =
+    "The print queue \"%1\" has no PPD, so it keeps no printer settings.";
+inline constexpr char unreadablePpd[] = "The PPD of the print queue \"%1\" cannot be read, so its "
+                                        "settings cannot be shown or saved.";
+inline constexpr char setUpNotAuthorized[] = "The print queue \"%1\" was not set up: the print "
+                                             "server did not accept the user name and password.";
+inline constexpr char setUpLacksFilter[] = // %1: the server
+    "The print server %1 lacks the utility's driver filter, so its queues cannot be set up. "
+    "Install the utility on the print server first.";
+// %2: the server's own words
+inline constexpr char setUpFailed[] = "The print queue \"%1\" could not be set up: %2";
+// %1: the server's own words
+inline constexpr char saveRefused[] =
+    "The print server refused the settings (%1). Nothing was saved.";
+inline constexpr char saveServerLost[] =
+    "The print server stopped answering while the settings were saved. Whether they arrived "
+    "shows when the window is opened again.";
+// %1: the job's number, in this and the following two texts
+inline constexpr char saveJobStopped[] =
+    "The print server ended update job %1 before it stored the settings, so nothing was saved. "
+    "Check the print queue on the server, then try again.";
+inline constexpr char saveJobPending[] =
+    "Update job %1 did not end in time; the print queue may be paused. The settings are stored "
+    "when the queue runs again, unless the job is cancelled.";
+// %2: the settings' option names
+inline constexpr char saveNotHeld[] =
+    "Update job %1 ended, but the queue's PPD does not hold every setting (%2). Try again.";
+inline constexpr char saveDamaged[] = "The PPD of the print queue \"%1\" was damaged while the "
+                                      "settings were stored. Set up the queue again, then save.";
+inline constexpr char saveNotReadBack[] =
+    "The settings were sent, but the queue's PPD could not be read back to check them. Open the "
+    "window again to see what is stored.";
 
 // Every key the window looks up (the model-name key names an entry of the
 // application's information dictionary, not a text).
@@ -62,5 +100,21 @@ inline constexpr const char *localizedKeys[] = {
     failedToObtain,
     settingsTooLong,
     queueNotSetUp,
+    savingSettings,
+    settingUpQueue,
+    setUpButton,
+    queueUnknown,
+    queueWithoutPpd,
+    unreadablePpd,
+    setUpNotAuthorized,
+    setUpLacksFilter,
+    setUpFailed,
+    saveRefused,
+    saveServerLost,
+    saveJobStopped,
+    saveJobPending,
+    saveNotHeld,
+    saveDamaged,
+    saveNotReadBack,
 };
 } // namespace OVWindowTexts

@@ -1,13 +1,19 @@
-// The queue chooser and the password prompt against private cupsd servers, also
-// through a proxy that makes the server slow.
+// The utility as a desktop user meets it, against private cupsd servers, also
+// through a proxy that makes the server slow: the queue chooser, the window on a
+// queue that is not set up or whose saves fail, and the password prompt.
 #include "CupsServerEnvironment.h"
 #include "DelayingProxy.h"
 #include "EventLoopStallMeter.h"
+#include "OVAlert.h"
 #include "OVBackgroundTask.h"
 #include "OVChooserTexts.h"
+#include "OVMessageBar.h"
 #include "OVPasswordPrompt.h"
 #include "OVPrinterUtilityHelper.h"
+#include "OVPrinterUtilityWindowController.h"
 #include "OVQueueChooser.h"
+#include "OVTableViewDataSource.h"
+#include "ui_MainUtilityWindiw.h"
 
 #include <QDialogButtonBox>
 #include <QFileInfo>
@@ -80,6 +86,21 @@ const bool administrator = addAdministrator();
 // libcups keeps the server per thread: the worker's is the one that counts.
 void useServer(const QString &address) {
     OVBackgroundTask::wait([address] { cupsSetServer(address.toUtf8().constData()); });
+}
+
+// Loading fonts for the first window of the process is not the code under test's doing.
+void warmUp() {
+    QDialog first;
+    first.show();
+    QTest::qWait(50);
+}
+
+int jobCount(const QString &queue) {
+    cups_job_t *jobs = nullptr;
+    const int count =
+        cupsGetJobs2(CUPS_HTTP_DEFAULT, &jobs, queue.toUtf8().constData(), 0, CUPS_WHICHJOBS_ALL);
+    cupsFreeJobs(count, jobs);
+    return count;
 }
 
 QStringList column(const QTableView *table, int column) {
@@ -210,10 +231,7 @@ TEST_F(QueueChooserTest, SaysWhenTheServerCannotBeReached) {
 // on a loaded machine too; the first window of the process is shown beforehand,
 // as loading fonts is not the chooser's doing.
 TEST_F(QueueChooserTest, ASlowServerNeverStallsTheChooser) {
-    QDialog warmUp;
-    warmUp.show();
-    QTest::qWait(50);
-    warmUp.hide();
+    warmUp();
     const DelayingProxy proxy(CupsServerEnvironment::server().address(), 500ms);
     ASSERT_TRUE(proxy.isListening());
     useServer(proxy.address());
@@ -225,6 +243,117 @@ TEST_F(QueueChooserTest, ASlowServerNeverStallsTheChooser) {
     EXPECT_TRUE(listed.isEmpty());
     ASSERT_TRUE(listed.wait(30000));
     EXPECT_EQ(m_chooser.queueTable()->model()->rowCount(), 3);
+    EXPECT_LT(meter.largestGap(), 100ms);
+}
+
+// The settings window on a queue of the server; every alert is answered at once and kept.
+class WindowOnServerTest : public QueueChooserTest {
+protected:
+    using Controller = OVPrinterUtilityWindowController;
+
+    void SetUp() override {
+        QueueChooserTest::SetUp();
+        OVAlert::setResponder([this](const OVAlert &alert) {
+            m_alerts << alert.text();
+            return 0;
+        });
+    }
+    void TearDown() override {
+        m_window.reset();
+        OVAlert::setResponder({});
+    }
+
+    // Shows the window at once; waitForSettings waits for them to arrive.
+    void show(const QString &queue) {
+        m_window = std::make_unique<Controller>();
+        m_window->applicationDidFinishLaunching({"--printer", queue});
+        m_window->mainWindowObject()->show();
+    }
+    void waitForSettings() {
+        QSignalSpy loaded(m_window.get(), &Controller::settingsLoaded);
+        ASSERT_TRUE(loaded.wait(30000));
+    }
+    // Clicks OK; whether the window closed, or else alerted.
+    bool ok() {
+        QSignalSpy closed(m_window.get(), &Controller::applicationShouldTerminate);
+        const qsizetype alerts = m_alerts.size();
+        QTest::mouseClick(m_window->controls().okButton, Qt::LeftButton);
+        EXPECT_TRUE(
+            QTest::qWaitFor([&] { return !closed.isEmpty() || m_alerts.size() > alerts; }, 60000));
+        return !closed.isEmpty();
+    }
+    bool setUpFromTheBar() {
+        OVMessageBar *bar = m_window->messageBar();
+        QTest::mouseClick(bar->actionButton(), Qt::LeftButton);
+        return QTest::qWaitFor([&] { return bar->isHidden(); }, 60000);
+    }
+
+    std::unique_ptr<Controller> m_window;
+    QStringList m_alerts;
+};
+
+// The bar says the queue is not set up; OK refuses without sending anything until
+// Set Up has set it up, and then closes only once the PPD holds the settings.
+TEST_F(WindowOnServerTest, AQueueThatIsNotSetUpIsSetUpFromTheBar) {
+    CupsServer &server = CupsServerEnvironment::server();
+    QTemporaryDir dir;
+    ASSERT_TRUE(server.addQueue("Delta", plainPpd(dir)));
+    show("Delta");
+    waitForSettings();
+    const OVMessageBar *bar = m_window->messageBar();
+    ASSERT_TRUE(bar->isVisible());
+    EXPECT_TRUE(bar->text().startsWith("The print queue \"Delta\" is not set up"));
+    EXPECT_EQ(bar->actionButton()->text(), "Set Up\u2026");
+    m_window->formTableViewDataSource()->setElementsArray(QStringList{"Invoice"});
+    EXPECT_FALSE(ok());
+    EXPECT_EQ(m_alerts, QStringList{bar->text()});
+    EXPECT_EQ(jobCount("Delta"), 0);
+    ASSERT_TRUE(setUpFromTheBar());
+    EXPECT_TRUE(ok());
+    EXPECT_TRUE(server.queuePpd("Delta").contains("*PSFormName0_Part1: \"" +
+                                                  QByteArray("Invoice").toBase64() + '"'));
+    EXPECT_EQ(jobCount("Delta"), 1);
+}
+
+// A queue whose filter fails ends the update job unsaved: the window says so and keeps
+// what the user set, so that OK can be tried again.
+TEST_F(WindowOnServerTest, ASaveThatDoesNotArriveKeepsTheWindowOpen) {
+    CupsServer::Options options;
+    options.clientsUseIt = false;
+    CupsServer failing(QStringLiteral("/bin/false"), options);
+    ASSERT_TRUE(failing.isRunning() && failing.addQueue("Office") &&
+                failing.lpadmin({"-p", "Office", "-o", "printer-error-policy=abort-job"}));
+    useServer(failing.address());
+    show("Office");
+    waitForSettings();
+    EXPECT_TRUE(m_window->messageBar()->isHidden());
+    QLineEdit *address = m_window->controls().printerIPAddressText;
+    address->setText("192.0.2.7");
+    EXPECT_FALSE(ok());
+    ASSERT_EQ(m_alerts.size(), 1);
+    EXPECT_TRUE(m_alerts[0].startsWith("The print server ended update job"))
+        << m_alerts[0].toStdString();
+    EXPECT_EQ(address->text(), "192.0.2.7");
+    EXPECT_TRUE(m_window->controls().okButton->isEnabled());
+}
+
+// Every answer of the server comes half a second late: the window shows at once, loads,
+// sets up and saves without its event loop pausing.
+TEST_F(WindowOnServerTest, ASlowServerNeverStallsTheWindow) {
+    warmUp();
+    QTemporaryDir dir;
+    ASSERT_TRUE(CupsServerEnvironment::server().addQueue("Epsilon", plainPpd(dir)));
+    const DelayingProxy proxy(CupsServerEnvironment::server().address(), 500ms);
+    ASSERT_TRUE(proxy.isListening());
+    useServer(proxy.address());
+    const EventLoopStallMeter meter;
+    show("Epsilon");
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(m_window->mainWindowObject()));
+    EXPECT_EQ(m_window->controls().progressIndicatorText->text(), "Loading settings...");
+    EXPECT_FALSE(m_window->controls().okButton->isEnabled());
+    waitForSettings();
+    ASSERT_TRUE(setUpFromTheBar());
+    EXPECT_TRUE(ok());
     EXPECT_LT(meter.largestGap(), 100ms);
 }
 

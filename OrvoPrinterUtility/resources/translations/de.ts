@@ -105,7 +105,7 @@
     </message>
     <message>
         <source>IDS_QUEUE_NOT_SET_UP</source>
-        <translation>Diese Druckwarteschlange ist nicht dafür eingerichtet, die Einstellungen des Dienstprogramms zu speichern; es wurde nichts gespeichert. Ein Druckadministrator kann sie einrichten mit: orvo-printer-utility-cli setup %1</translation>
+        <translation>Die Druckwarteschlange „%1“ ist nicht dafür eingerichtet, die Einstellungen des Dienstprogramms zu speichern; es kann noch nichts in ihr gespeichert werden. Wählen Sie „Einrichten…“, um sie einzurichten; der Druckserver fragt eventuell nach dem Passwort eines Administrators.</translation>
     </message>
     <message>
         <source>Shared Folder 1</source>
@@ -602,6 +602,70 @@
     <message>
         <source>Loading settings...</source>
         <translation>Einstellungen werden geladen...</translation>
+    </message>
+    <message>
+        <source>Saving settings...</source>
+        <translation>Einstellungen werden gespeichert...</translation>
+    </message>
+    <message>
+        <source>Setting up the queue...</source>
+        <translation>Warteschlange wird eingerichtet...</translation>
+    </message>
+    <message>
+        <source>Set Up…</source>
+        <translation>Einrichten…</translation>
+    </message>
+    <message>
+        <source>The print server %1 has no print queue "%2".</source>
+        <translation>Der Druckserver %1 hat keine Druckwarteschlange „%2“.</translation>
+    </message>
+    <message>
+        <source>The print queue "%1" has no PPD, so it keeps no printer settings.</source>
+        <translation>Die Druckwarteschlange „%1“ hat keine PPD-Datei und speichert daher keine Druckereinstellungen.</translation>
+    </message>
+    <message>
+        <source>The PPD of the print queue "%1" cannot be read, so its settings cannot be shown or saved.</source>
+        <translation>Die PPD-Datei der Druckwarteschlange „%1“ kann nicht gelesen werden; ihre Einstellungen können daher weder angezeigt noch gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>The print queue "%1" was not set up: the print server did not accept the user name and password.</source>
+        <translation>Die Druckwarteschlange „%1“ wurde nicht eingerichtet: Der Druckserver hat Benutzername und Passwort nicht angenommen.</translation>
+    </message>
+    <message>
+        <source>The print server %1 lacks the utility's driver filter, so its queues cannot be set up. Install the utility on the print server first.</source>
+        <translation>Dem Druckserver %1 fehlt der Treiberfilter des Dienstprogramms, daher können seine Warteschlangen nicht eingerichtet werden. Installieren Sie das Dienstprogramm zuerst auf dem Druckserver.</translation>
+    </message>
+    <message>
+        <source>The print queue "%1" could not be set up: %2</source>
+        <translation>Die Druckwarteschlange „%1“ konnte nicht eingerichtet werden: %2</translation>
+    </message>
+    <message>
+        <source>The print server refused the settings (%1). Nothing was saved.</source>
+        <translation>Der Druckserver hat die Einstellungen abgelehnt (%1). Es wurde nichts gespeichert.</translation>
+    </message>
+    <message>
+        <source>The print server stopped answering while the settings were saved. Whether they arrived shows when the window is opened again.</source>
+        <translation>Der Druckserver hat während des Speicherns aufgehört zu antworten. Ob die Einstellungen angekommen sind, zeigt sich beim nächsten Öffnen des Fensters.</translation>
+    </message>
+    <message>
+        <source>The print server ended update job %1 before it stored the settings, so nothing was saved. Check the print queue on the server, then try again.</source>
+        <translation>Der Druckserver hat den Aktualisierungsauftrag %1 beendet, bevor er die Einstellungen gespeichert hat; es wurde nichts gespeichert. Prüfen Sie die Druckwarteschlange auf dem Server und versuchen Sie es erneut.</translation>
+    </message>
+    <message>
+        <source>Update job %1 did not end in time; the print queue may be paused. The settings are stored when the queue runs again, unless the job is cancelled.</source>
+        <translation>Der Aktualisierungsauftrag %1 wurde nicht rechtzeitig beendet; die Druckwarteschlange ist vielleicht angehalten. Die Einstellungen werden gespeichert, sobald sie wieder läuft, sofern der Auftrag nicht abgebrochen wird.</translation>
+    </message>
+    <message>
+        <source>Update job %1 ended, but the queue's PPD does not hold every setting (%2). Try again.</source>
+        <translation>Der Aktualisierungsauftrag %1 ist beendet, aber die PPD-Datei der Warteschlange enthält nicht alle Einstellungen (%2). Versuchen Sie es erneut.</translation>
+    </message>
+    <message>
+        <source>The PPD of the print queue "%1" was damaged while the settings were stored. Set up the queue again, then save.</source>
+        <translation>Die PPD-Datei der Druckwarteschlange „%1“ wurde beim Speichern beschädigt. Richten Sie die Warteschlange erneut ein und speichern Sie dann.</translation>
+    </message>
+    <message>
+        <source>The settings were sent, but the queue's PPD could not be read back to check them. Open the window again to see what is stored.</source>
+        <translation>Die Einstellungen wurden gesendet, aber die PPD-Datei der Warteschlange konnte zur Prüfung nicht gelesen werden. Öffnen Sie das Fenster erneut, um zu sehen, was gespeichert ist.</translation>
     </message>
 </context>
 </TS>

@@ -105,7 +105,7 @@
     </message>
     <message>
         <source>IDS_QUEUE_NOT_SET_UP</source>
-        <translation>This print queue is not set up to keep the utility&apos;s settings, so nothing was saved. A print administrator can set it up with: orvo-printer-utility-cli setup %1</translation>
+        <translation>The print queue "%1" is not set up to store the utility's settings, so nothing can be saved to it yet. Choose Set Up… to set it up; the print server may ask for an administrator's password.</translation>
     </message>
     <message>
         <source>Shared Folder 1</source>
@@ -602,6 +602,70 @@
     <message>
         <source>Loading settings...</source>
         <translation>Loading settings...</translation>
+    </message>
+    <message>
+        <source>Saving settings...</source>
+        <translation>Saving settings...</translation>
+    </message>
+    <message>
+        <source>Setting up the queue...</source>
+        <translation>Setting up the queue...</translation>
+    </message>
+    <message>
+        <source>Set Up…</source>
+        <translation>Set Up…</translation>
+    </message>
+    <message>
+        <source>The print server %1 has no print queue "%2".</source>
+        <translation>The print server %1 has no print queue "%2".</translation>
+    </message>
+    <message>
+        <source>The print queue "%1" has no PPD, so it keeps no printer settings.</source>
+        <translation>The print queue "%1" has no PPD, so it keeps no printer settings.</translation>
+    </message>
+    <message>
+        <source>The PPD of the print queue "%1" cannot be read, so its settings cannot be shown or saved.</source>
+        <translation>The PPD of the print queue "%1" cannot be read, so its settings cannot be shown or saved.</translation>
+    </message>
+    <message>
+        <source>The print queue "%1" was not set up: the print server did not accept the user name and password.</source>
+        <translation>The print queue "%1" was not set up: the print server did not accept the user name and password.</translation>
+    </message>
+    <message>
+        <source>The print server %1 lacks the utility's driver filter, so its queues cannot be set up. Install the utility on the print server first.</source>
+        <translation>The print server %1 lacks the utility's driver filter, so its queues cannot be set up. Install the utility on the print server first.</translation>
+    </message>
+    <message>
+        <source>The print queue "%1" could not be set up: %2</source>
+        <translation>The print queue "%1" could not be set up: %2</translation>
+    </message>
+    <message>
+        <source>The print server refused the settings (%1). Nothing was saved.</source>
+        <translation>The print server refused the settings (%1). Nothing was saved.</translation>
+    </message>
+    <message>
+        <source>The print server stopped answering while the settings were saved. Whether they arrived shows when the window is opened again.</source>
+        <translation>The print server stopped answering while the settings were saved. Whether they arrived shows when the window is opened again.</translation>
+    </message>
+    <message>
+        <source>The print server ended update job %1 before it stored the settings, so nothing was saved. Check the print queue on the server, then try again.</source>
+        <translation>The print server ended update job %1 before it stored the settings, so nothing was saved. Check the print queue on the server, then try again.</translation>
+    </message>
+    <message>
+        <source>Update job %1 did not end in time; the print queue may be paused. The settings are stored when the queue runs again, unless the job is cancelled.</source>
+        <translation>Update job %1 did not end in time; the print queue may be paused. The settings are stored when the queue runs again, unless the job is cancelled.</translation>
+    </message>
+    <message>
+        <source>Update job %1 ended, but the queue's PPD does not hold every setting (%2). Try again.</source>
+        <translation>Update job %1 ended, but the queue's PPD does not hold every setting (%2). Try again.</translation>
+    </message>
+    <message>
+        <source>The PPD of the print queue "%1" was damaged while the settings were stored. Set up the queue again, then save.</source>
+        <translation>The PPD of the print queue "%1" was damaged while the settings were stored. Set up the queue again, then save.</translation>
+    </message>
+    <message>
+        <source>The settings were sent, but the queue's PPD could not be read back to check them. Open the window again to see what is stored.</source>
+        <translation>The settings were sent, but the queue's PPD could not be read back to check them. Open the window again to see what is stored.</translation>
     </message>
 </context>
 </TS>

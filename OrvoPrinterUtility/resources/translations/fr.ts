@@ -105,7 +105,7 @@
     </message>
     <message>
         <source>IDS_QUEUE_NOT_SET_UP</source>
-        <translation>Cette file d&apos;impression n&apos;est pas configurée pour conserver les réglages de l&apos;utilitaire : rien n&apos;a été enregistré. Un administrateur d&apos;impression peut la configurer avec : orvo-printer-utility-cli setup %1</translation>
+        <translation>La file d’attente « %1 » n’est pas configurée pour enregistrer les réglages de l’utilitaire : rien ne peut encore y être enregistré. Choisissez « Configurer… » pour la configurer ; le serveur d’impression peut demander le mot de passe d’un administrateur.</translation>
     </message>
     <message>
         <source>Shared Folder 1</source>
@@ -602,6 +602,70 @@
     <message>
         <source>Loading settings...</source>
         <translation>Chargement des réglages...</translation>
+    </message>
+    <message>
+        <source>Saving settings...</source>
+        <translation>Enregistrement des réglages...</translation>
+    </message>
+    <message>
+        <source>Setting up the queue...</source>
+        <translation>Configuration de la file d’attente...</translation>
+    </message>
+    <message>
+        <source>Set Up…</source>
+        <translation>Configurer…</translation>
+    </message>
+    <message>
+        <source>The print server %1 has no print queue "%2".</source>
+        <translation>Le serveur d’impression %1 n’a pas de file d’attente « %2 ».</translation>
+    </message>
+    <message>
+        <source>The print queue "%1" has no PPD, so it keeps no printer settings.</source>
+        <translation>La file d’attente « %1 » n’a pas de fichier PPD et ne conserve donc aucun réglage d’imprimante.</translation>
+    </message>
+    <message>
+        <source>The PPD of the print queue "%1" cannot be read, so its settings cannot be shown or saved.</source>
+        <translation>Le fichier PPD de la file d’attente « %1 » est illisible : ses réglages ne peuvent être ni affichés ni enregistrés.</translation>
+    </message>
+    <message>
+        <source>The print queue "%1" was not set up: the print server did not accept the user name and password.</source>
+        <translation>La file d’attente « %1 » n’a pas été configurée : le serveur d’impression n’a pas accepté le nom d’utilisateur et le mot de passe.</translation>
+    </message>
+    <message>
+        <source>The print server %1 lacks the utility's driver filter, so its queues cannot be set up. Install the utility on the print server first.</source>
+        <translation>Le filtre de pilote de l’utilitaire manque sur le serveur d’impression %1 : ses files d’attente ne peuvent pas être configurées. Installez d’abord l’utilitaire sur le serveur d’impression.</translation>
+    </message>
+    <message>
+        <source>The print queue "%1" could not be set up: %2</source>
+        <translation>La file d’attente « %1 » n’a pas pu être configurée : %2</translation>
+    </message>
+    <message>
+        <source>The print server refused the settings (%1). Nothing was saved.</source>
+        <translation>Le serveur d’impression a refusé les réglages (%1). Rien n’a été enregistré.</translation>
+    </message>
+    <message>
+        <source>The print server stopped answering while the settings were saved. Whether they arrived shows when the window is opened again.</source>
+        <translation>Le serveur d’impression a cessé de répondre pendant l’enregistrement. Vous verrez si les réglages sont arrivés en rouvrant la fenêtre.</translation>
+    </message>
+    <message>
+        <source>The print server ended update job %1 before it stored the settings, so nothing was saved. Check the print queue on the server, then try again.</source>
+        <translation>Le serveur d’impression a arrêté la tâche de mise à jour %1 avant qu’elle n’enregistre les réglages : rien n’a été enregistré. Vérifiez la file d’attente sur le serveur, puis réessayez.</translation>
+    </message>
+    <message>
+        <source>Update job %1 did not end in time; the print queue may be paused. The settings are stored when the queue runs again, unless the job is cancelled.</source>
+        <translation>La tâche de mise à jour %1 ne s’est pas terminée à temps ; la file d’attente est peut-être en pause. Les réglages seront enregistrés à sa reprise, sauf si la tâche est annulée.</translation>
+    </message>
+    <message>
+        <source>Update job %1 ended, but the queue's PPD does not hold every setting (%2). Try again.</source>
+        <translation>La tâche de mise à jour %1 est terminée, mais le fichier PPD de la file d’attente ne contient pas tous les réglages (%2). Réessayez.</translation>
+    </message>
+    <message>
+        <source>The PPD of the print queue "%1" was damaged while the settings were stored. Set up the queue again, then save.</source>
+        <translation>Le fichier PPD de la file d’attente « %1 » a été endommagé pendant l’enregistrement. Configurez de nouveau la file d’attente, puis enregistrez.</translation>
+    </message>
+    <message>
+        <source>The settings were sent, but the queue's PPD could not be read back to check them. Open the window again to see what is stored.</source>
+        <translation>Les réglages ont été envoyés, mais le fichier PPD de la file d’attente n’a pas pu être relu pour les vérifier. Rouvrez la fenêtre pour voir ce qui est enregistré.</translation>
     </message>
 </context>
 </TS>

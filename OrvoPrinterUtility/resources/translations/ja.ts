@@ -105,7 +105,7 @@
     </message>
     <message>
         <source>IDS_QUEUE_NOT_SET_UP</source>
-        <translation>この印刷キューはユーティリティの設定を保存するように設定されていないため、何も保存されませんでした。プリンター管理者は次のコマンドで設定できます: orvo-printer-utility-cli setup %1</translation>
+        <translation>プリントキュー「%1」はユーティリティの設定を保存するように設定されていないため、まだ何も保存できません。「設定…」を選んで設定してください。プリントサーバーが管理者のパスワードを求めることがあります。</translation>
     </message>
     <message>
         <source>Shared Folder 1</source>
@@ -602,6 +602,70 @@
     <message>
         <source>Loading settings...</source>
         <translation>設定を読み込んでいます...</translation>
+    </message>
+    <message>
+        <source>Saving settings...</source>
+        <translation>設定を保存しています...</translation>
+    </message>
+    <message>
+        <source>Setting up the queue...</source>
+        <translation>キューを設定しています...</translation>
+    </message>
+    <message>
+        <source>Set Up…</source>
+        <translation>設定…</translation>
+    </message>
+    <message>
+        <source>The print server %1 has no print queue "%2".</source>
+        <translation>プリントサーバー %1 にプリントキュー「%2」はありません。</translation>
+    </message>
+    <message>
+        <source>The print queue "%1" has no PPD, so it keeps no printer settings.</source>
+        <translation>プリントキュー「%1」には PPD がないため、プリンターの設定を保持できません。</translation>
+    </message>
+    <message>
+        <source>The PPD of the print queue "%1" cannot be read, so its settings cannot be shown or saved.</source>
+        <translation>プリントキュー「%1」の PPD を読み取れないため、設定を表示も保存もできません。</translation>
+    </message>
+    <message>
+        <source>The print queue "%1" was not set up: the print server did not accept the user name and password.</source>
+        <translation>プリントキュー「%1」は設定されませんでした。プリントサーバーがユーザー名とパスワードを受け付けませんでした。</translation>
+    </message>
+    <message>
+        <source>The print server %1 lacks the utility's driver filter, so its queues cannot be set up. Install the utility on the print server first.</source>
+        <translation>プリントサーバー %1 にはユーティリティのドライバーフィルターがないため、キューを設定できません。先にプリントサーバーにユーティリティをインストールしてください。</translation>
+    </message>
+    <message>
+        <source>The print queue "%1" could not be set up: %2</source>
+        <translation>プリントキュー「%1」を設定できませんでした: %2</translation>
+    </message>
+    <message>
+        <source>The print server refused the settings (%1). Nothing was saved.</source>
+        <translation>プリントサーバーが設定を拒否しました (%1)。何も保存されていません。</translation>
+    </message>
+    <message>
+        <source>The print server stopped answering while the settings were saved. Whether they arrived shows when the window is opened again.</source>
+        <translation>保存中にプリントサーバーが応答しなくなりました。設定が届いたかどうかは、ウィンドウをもう一度開くと分かります。</translation>
+    </message>
+    <message>
+        <source>The print server ended update job %1 before it stored the settings, so nothing was saved. Check the print queue on the server, then try again.</source>
+        <translation>プリントサーバーは設定を保存する前に更新ジョブ %1 を終了したため、何も保存されていません。サーバー上のプリントキューを確認してから、もう一度お試しください。</translation>
+    </message>
+    <message>
+        <source>Update job %1 did not end in time; the print queue may be paused. The settings are stored when the queue runs again, unless the job is cancelled.</source>
+        <translation>更新ジョブ %1 が時間内に終了しませんでした。プリントキューが一時停止している可能性があります。ジョブが取り消されない限り、キューが再開したときに設定が保存されます。</translation>
+    </message>
+    <message>
+        <source>Update job %1 ended, but the queue's PPD does not hold every setting (%2). Try again.</source>
+        <translation>更新ジョブ %1 は終了しましたが、キューの PPD にすべての設定が含まれていません (%2)。もう一度お試しください。</translation>
+    </message>
+    <message>
+        <source>The PPD of the print queue "%1" was damaged while the settings were stored. Set up the queue again, then save.</source>
+        <translation>設定の保存中にプリントキュー「%1」の PPD が破損しました。キューをもう一度設定してから保存してください。</translation>
+    </message>
+    <message>
+        <source>The settings were sent, but the queue's PPD could not be read back to check them. Open the window again to see what is stored.</source>
+        <translation>設定は送信されましたが、確認のためにキューの PPD を読み戻せませんでした。ウィンドウをもう一度開いて、保存内容を確認してください。</translation>
     </message>
 </context>
 </TS>

@@ -105,7 +105,7 @@
     </message>
     <message>
         <source>IDS_QUEUE_NOT_SET_UP</source>
-        <translation>此打印队列尚未设置为保存本实用程序的设置，因此未保存任何内容。打印管理员可以使用以下命令进行设置：orvo-printer-utility-cli setup %1</translation>
+        <translation>打印队列“%1”尚未设置为保存本实用程序的设置，因此目前无法保存任何内容。请选择“设置…”进行设置；打印服务器可能会要求输入管理员密码。</translation>
     </message>
     <message>
         <source>Shared Folder 1</source>
@@ -602,6 +602,70 @@
     <message>
         <source>Loading settings...</source>
         <translation>正在载入设置...</translation>
+    </message>
+    <message>
+        <source>Saving settings...</source>
+        <translation>正在保存设置...</translation>
+    </message>
+    <message>
+        <source>Setting up the queue...</source>
+        <translation>正在设置队列...</translation>
+    </message>
+    <message>
+        <source>Set Up…</source>
+        <translation>设置…</translation>
+    </message>
+    <message>
+        <source>The print server %1 has no print queue "%2".</source>
+        <translation>打印服务器 %1 上没有打印队列“%2”。</translation>
+    </message>
+    <message>
+        <source>The print queue "%1" has no PPD, so it keeps no printer settings.</source>
+        <translation>打印队列“%1”没有 PPD，因此无法保存打印机设置。</translation>
+    </message>
+    <message>
+        <source>The PPD of the print queue "%1" cannot be read, so its settings cannot be shown or saved.</source>
+        <translation>无法读取打印队列“%1”的 PPD，因此无法显示或保存其设置。</translation>
+    </message>
+    <message>
+        <source>The print queue "%1" was not set up: the print server did not accept the user name and password.</source>
+        <translation>未设置打印队列“%1”：打印服务器不接受该用户名和密码。</translation>
+    </message>
+    <message>
+        <source>The print server %1 lacks the utility's driver filter, so its queues cannot be set up. Install the utility on the print server first.</source>
+        <translation>打印服务器 %1 缺少本实用程序的驱动程序过滤器，因此无法设置其队列。请先在打印服务器上安装本实用程序。</translation>
+    </message>
+    <message>
+        <source>The print queue "%1" could not be set up: %2</source>
+        <translation>无法设置打印队列“%1”：%2</translation>
+    </message>
+    <message>
+        <source>The print server refused the settings (%1). Nothing was saved.</source>
+        <translation>打印服务器拒绝了这些设置（%1）。未保存任何内容。</translation>
+    </message>
+    <message>
+        <source>The print server stopped answering while the settings were saved. Whether they arrived shows when the window is opened again.</source>
+        <translation>保存设置时打印服务器停止了响应。再次打开窗口即可看到设置是否已送达。</translation>
+    </message>
+    <message>
+        <source>The print server ended update job %1 before it stored the settings, so nothing was saved. Check the print queue on the server, then try again.</source>
+        <translation>打印服务器在保存设置之前结束了更新作业 %1，因此未保存任何内容。请检查服务器上的打印队列，然后重试。</translation>
+    </message>
+    <message>
+        <source>Update job %1 did not end in time; the print queue may be paused. The settings are stored when the queue runs again, unless the job is cancelled.</source>
+        <translation>更新作业 %1 未能及时结束，打印队列可能已暂停。除非作业被取消，否则队列恢复运行时将保存这些设置。</translation>
+    </message>
+    <message>
+        <source>Update job %1 ended, but the queue's PPD does not hold every setting (%2). Try again.</source>
+        <translation>更新作业 %1 已结束，但队列的 PPD 未包含全部设置（%2）。请重试。</translation>
+    </message>
+    <message>
+        <source>The PPD of the print queue "%1" was damaged while the settings were stored. Set up the queue again, then save.</source>
+        <translation>保存设置时打印队列“%1”的 PPD 已损坏。请重新设置该队列，然后保存。</translation>
+    </message>
+    <message>
+        <source>The settings were sent, but the queue's PPD could not be read back to check them. Open the window again to see what is stored.</source>
+        <translation>设置已发送，但无法读回队列的 PPD 进行核对。请再次打开窗口查看已保存的内容。</translation>
     </message>
 </context>
 </TS>

@@ -105,7 +105,7 @@
     </message>
     <message>
         <source>IDS_QUEUE_NOT_SET_UP</source>
-        <translation>此列印佇列尚未設定為儲存本公用程式的設定，因此未儲存任何內容。列印管理員可使用以下命令進行設定：orvo-printer-utility-cli setup %1</translation>
+        <translation>列印佇列「%1」尚未設定為儲存本公用程式的設定，因此目前無法儲存任何內容。請選擇「設定…」進行設定；列印伺服器可能會要求輸入管理員密碼。</translation>
     </message>
     <message>
         <source>Shared Folder 1</source>
@@ -602,6 +602,70 @@
     <message>
         <source>Loading settings...</source>
         <translation>正在載入設定...</translation>
+    </message>
+    <message>
+        <source>Saving settings...</source>
+        <translation>正在儲存設定...</translation>
+    </message>
+    <message>
+        <source>Setting up the queue...</source>
+        <translation>正在設定佇列...</translation>
+    </message>
+    <message>
+        <source>Set Up…</source>
+        <translation>設定…</translation>
+    </message>
+    <message>
+        <source>The print server %1 has no print queue "%2".</source>
+        <translation>列印伺服器 %1 上沒有列印佇列「%2」。</translation>
+    </message>
+    <message>
+        <source>The print queue "%1" has no PPD, so it keeps no printer settings.</source>
+        <translation>列印佇列「%1」沒有 PPD，因此無法保存印表機設定。</translation>
+    </message>
+    <message>
+        <source>The PPD of the print queue "%1" cannot be read, so its settings cannot be shown or saved.</source>
+        <translation>無法讀取列印佇列「%1」的 PPD，因此無法顯示或儲存其設定。</translation>
+    </message>
+    <message>
+        <source>The print queue "%1" was not set up: the print server did not accept the user name and password.</source>
+        <translation>未設定列印佇列「%1」：列印伺服器不接受該使用者名稱和密碼。</translation>
+    </message>
+    <message>
+        <source>The print server %1 lacks the utility's driver filter, so its queues cannot be set up. Install the utility on the print server first.</source>
+        <translation>列印伺服器 %1 缺少本公用程式的驅動程式過濾器，因此無法設定其佇列。請先在列印伺服器上安裝本公用程式。</translation>
+    </message>
+    <message>
+        <source>The print queue "%1" could not be set up: %2</source>
+        <translation>無法設定列印佇列「%1」：%2</translation>
+    </message>
+    <message>
+        <source>The print server refused the settings (%1). Nothing was saved.</source>
+        <translation>列印伺服器拒絕了這些設定（%1）。未儲存任何內容。</translation>
+    </message>
+    <message>
+        <source>The print server stopped answering while the settings were saved. Whether they arrived shows when the window is opened again.</source>
+        <translation>儲存設定時列印伺服器停止回應。再次開啟視窗即可看到設定是否已送達。</translation>
+    </message>
+    <message>
+        <source>The print server ended update job %1 before it stored the settings, so nothing was saved. Check the print queue on the server, then try again.</source>
+        <translation>列印伺服器在儲存設定之前結束了更新工作 %1，因此未儲存任何內容。請檢查伺服器上的列印佇列，然後再試一次。</translation>
+    </message>
+    <message>
+        <source>Update job %1 did not end in time; the print queue may be paused. The settings are stored when the queue runs again, unless the job is cancelled.</source>
+        <translation>更新工作 %1 未能及時結束，列印佇列可能已暫停。除非工作被取消，否則佇列恢復執行時將儲存這些設定。</translation>
+    </message>
+    <message>
+        <source>Update job %1 ended, but the queue's PPD does not hold every setting (%2). Try again.</source>
+        <translation>更新工作 %1 已結束，但佇列的 PPD 未包含全部設定（%2）。請再試一次。</translation>
+    </message>
+    <message>
+        <source>The PPD of the print queue "%1" was damaged while the settings were stored. Set up the queue again, then save.</source>
+        <translation>儲存設定時列印佇列「%1」的 PPD 已損壞。請重新設定該佇列，然後儲存。</translation>
+    </message>
+    <message>
+        <source>The settings were sent, but the queue's PPD could not be read back to check them. Open the window again to see what is stored.</source>
+        <translation>設定已傳送，但無法讀回佇列的 PPD 進行核對。請再次開啟視窗查看已儲存的內容。</translation>
     </message>
 </context>
 </TS>

@@ -1,0 +1,59 @@
+// The controller's part in the queue itself: the bar above the tabs that says
+// what keeps the window from saving, and the set-up it offers.
+#include "OVAlert.h"
+#include "OVBackgroundTask.h"
+#include "OVChooserTexts.h"
+#include "OVMessageBar.h"
+#include "OVPrinterUtilityWindowController.h"
+#include "OVWindowTexts.h"
+#include "ui_MainUtilityWindiw.h"
+
+using Problem = OVWindowQueue::Problem;
+
+void OVPrinterUtilityWindowController::showProblem(Problem problem) {
+    m_problem = problem;
+    if (problem == Problem::None) {
+        m_messageBar->clearMessage();
+        return;
+    }
+    // The one way out the window itself has, where there is one.
+    const char *action = problem == Problem::NotSetUp            ? OVWindowTexts::setUpButton
+                         : problem == Problem::ServerUnreachable ? OVChooserTexts::retry
+                                                                 : nullptr;
+    m_messageBar->showMessage(OVWindowQueue::problemText(problem, m_printerId, m_server),
+                              action ? localized(action) : QString());
+}
+
+void OVPrinterUtilityWindowController::messageBarActionTriggered() {
+    if (m_busy)
+        return;
+    if (m_problem == Problem::NotSetUp)
+        setUpQueue();
+    else if (m_problem == Problem::ServerUnreachable)
+        loadOptionsFromPPD();
+}
+
+void OVPrinterUtilityWindowController::setUpQueue() {
+    lockSettings(OVWindowTexts::settingUpQueue);
+    m_messageBar->actionButton()->setEnabled(false);
+    OVBackgroundTask::run(
+        this, [queue = m_printerId] { return OVWindowQueue::setUp(queue); },
+        [this](const OVQueueSetup::Result &result) { setUpEnded(result); });
+}
+
+void OVPrinterUtilityWindowController::setUpEnded(const OVQueueSetup::Result &result) {
+    unlockSettings();
+    m_messageBar->actionButton()->setEnabled(true);
+    using Outcome = OVQueueSetup::Outcome;
+    if (result.outcome == Outcome::Changed || result.outcome == Outcome::Unchanged) {
+        showProblem(Problem::None);
+        return;
+    }
+    alert(OVWindowQueue::setUpFailureText(result, m_printerId, m_server));
+}
+
+void OVPrinterUtilityWindowController::alert(const QString &text) {
+    OVAlert::alertWithMessageText(text, localized(OVWindowTexts::ok), QString(), QString(),
+                                  OVAlert::plainMessageFormat, {})
+        ->runModal();
+}
