@@ -1,13 +1,23 @@
 // The window against a private cupsd and the simulated printer:
 // - start-up: from process start to the window shown with the queue's settings
 //   loaded, in a fresh process each time (median of 10);
-// - save: from OK to the queue's PPD holding the new settings (median of 10);
+// - save: from OK to the window closed, which it is once the queue's PPD holds
+//   the new settings (median of 10);
 // - fetch: the combined Get Printer Info with 20 ms added to every answer,
 //   against round trips x delay (median of 5), and the longest the event loop
-//   went without running meanwhile (the worst of the 5).
+//   went without running meanwhile (the worst of the 5);
+// - slow server: the longest the event loop went without running while the
+//   window loads, sets up its queue and saves through a server that answers
+//   every request 500 ms late.
 // Ends with one RESULT line.
 #include "CupsServer.h"
+#include "DelayingProxy.h"
+#include "EventLoopStallMeter.h"
+#include "OVAlert.h"
+#include "OVBackgroundTask.h"
+#include "OVMessageBar.h"
 #include "OVPrinterUtilityWindowController.h"
+#include "OVQueueSetup.h"
 #include "SimulatedPrinter.h"
 #include "ui_MainUtilityWindiw.h"
 
@@ -16,12 +26,14 @@
 #include <QEventLoop>
 #include <QFile>
 #include <QProcess>
-#include <QThread>
 #include <QTimer>
+
+#include <cups/cups.h>
 
 #include <algorithm>
 #include <cstdio>
 #include <ctime>
+#include <functional>
 #include <unistd.h>
 
 namespace {
@@ -37,6 +49,30 @@ void launch(OVPrinterUtilityWindowController &controller, const QString &queueNa
     controller.applicationDidFinishLaunching({"--printer", queueName});
     controller.mainWindowObject()->show();
     loading.exec();
+}
+
+// Runs the event loop until done() holds, or for a minute.
+void waitUntil(const std::function<bool()> &done) {
+    QEventLoop loop;
+    QTimer poll;
+    QObject::connect(&poll, &QTimer::timeout, &loop, [&] {
+        if (done())
+            loop.quit();
+    });
+    poll.start(5);
+    QTimer::singleShot(60000, &loop, &QEventLoop::quit);
+    if (!done())
+        loop.exec();
+}
+
+// Clicks OK and waits for the window to close, which it does once the save is
+// known to have arrived.
+void okAndWaitForClose(OVPrinterUtilityWindowController &controller) {
+    bool closed = false;
+    QObject::connect(&controller, &OVPrinterUtilityWindowController::applicationShouldTerminate,
+                     [&closed] { closed = true; });
+    controller.controls().okButton->click();
+    waitUntil([&closed] { return closed; });
 }
 
 double median(std::vector<double> values) {
@@ -76,7 +112,7 @@ double startupMs(const QString &self) {
     return median(times);
 }
 
-// OK to the queue's PPD holding the saved address.
+// OK to the window closed, the queue's PPD holding the saved address.
 double saveMs(CupsServer &cups, const QString &saveQueue) {
     std::vector<double> times;
     for (int i = 0; i < runs; ++i) {
@@ -84,15 +120,35 @@ double saveMs(CupsServer &cups, const QString &saveQueue) {
         launch(controller, saveQueue);
         const QString marker = QString("10.9.%1.1").arg(i);
         controller.controls().printerIPAddressText->setText(marker);
-        const QByteArray stored = marker.toLatin1().toBase64();
         QElapsedTimer timer;
         timer.start();
-        controller.controls().okButton->click();
-        while (!cups.queuePpd(saveQueue).contains(stored) && timer.elapsed() < 30000)
-            QThread::msleep(5);
+        okAndWaitForClose(controller);
         times.push_back(timer.nsecsElapsed() / 1e6);
+        if (!cups.queuePpd(saveQueue).contains(marker.toLatin1().toBase64()))
+            return -1;
     }
     return median(times);
+}
+
+// Load, set-up from the window's bar and save, each request 500 ms late.
+double slowServerMaxStallMs(const CupsServer &cups) {
+    const QString slowQueue = "OrvoSlow";
+    if (!cups.addQueue(slowQueue) ||
+        OVQueueSetup::remove(slowQueue).outcome != OVQueueSetup::Outcome::Changed)
+        return -1;
+    using namespace std::chrono_literals;
+    const DelayingProxy proxy(cups.address(), 500ms);
+    const QByteArray address = proxy.address().toUtf8();
+    OVBackgroundTask::wait([&address] { cupsSetServer(address.constData()); });
+    const EventLoopStallMeter meter;
+    OVPrinterUtilityWindowController controller;
+    launch(controller, slowQueue);
+    controller.messageBar()->actionButton()->click();
+    waitUntil([&controller] { return controller.messageBar()->isHidden(); });
+    okAndWaitForClose(controller);
+    const double stall = double(meter.largestGap().count());
+    OVBackgroundTask::wait([] { cupsSetServer(nullptr); });
+    return stall;
 }
 
 struct Fetch {
@@ -129,6 +185,13 @@ Fetch fetch(SimulatedPrinter &printer) {
 
 int main(int argc, char **argv) {
     QApplication app(argc, argv);
+    // An alert would wait for a click no one gives: it is shown and the run fails.
+    bool alerted = false;
+    OVAlert::setResponder([&alerted](const OVAlert &alert) {
+        std::fprintf(stderr, "alert: %s\n", qPrintable(alert.text()));
+        alerted = true;
+        return 0;
+    });
     // The child talks to its parent's server, found through the environment.
     if (app.arguments().contains("--startup-child"))
         return startupChild();
@@ -157,9 +220,10 @@ int main(int argc, char **argv) {
         overheads.push_back(fetched.overhead);
         stalls.push_back(fetched.maxStallMs);
     }
+    const double slowServerStall = slowServerMaxStallMs(cups);
     std::printf("RESULT startup_ms=%.0f save_ms=%.0f save_ipp_ms=%.0f fetch_overhead=%.3f "
-                "max_stall_ms=%.1f\n",
+                "max_stall_ms=%.1f slow_server_max_stall_ms=%.0f\n",
                 startup, save, saveIpp, median(overheads),
-                *std::max_element(stalls.begin(), stalls.end()));
-    return 0;
+                *std::max_element(stalls.begin(), stalls.end()), slowServerStall);
+    return alerted ? 1 : 0;
 }
