@@ -1,0 +1,87 @@
+#include "DemoScreenshots.h"
+
+#include "OVPrinterUtilityWindowController.h"
+#include "OVQueueChooser.h"
+#include "ui_MainUtilityWindiw.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QEventLoop>
+#include <QTimer>
+
+#include <iostream>
+
+namespace {
+constexpr int answerTimeoutMs = 30000;
+
+// Runs the event loop until the signal comes or the time is up.
+template <typename Sender, typename Signal> bool waitFor(Sender *sender, Signal signal) {
+    QEventLoop loop;
+    bool arrived = false;
+    QObject::connect(sender, signal, &loop, [&] {
+        arrived = true;
+        loop.quit();
+    });
+    QTimer::singleShot(answerTimeoutMs, &loop, &QEventLoop::quit);
+    loop.exec();
+    return arrived;
+}
+} // namespace
+
+DemoScreenshots::DemoScreenshots(QString directory)
+    : m_directory(std::move(directory)) {}
+
+bool DemoScreenshots::takeAll() const {
+    using S = DemoScreenshots;
+    const Shot shots[] = {
+        {"queue-chooser", 1, &S::queueChooser},
+        {"settings-window", 1,
+         [](const S &s, const QString &file) { return s.settingsWindow(file, 0); }},
+        {"window-form", 1,
+         [](const S &s, const QString &file) { return s.settingsWindow(file, 1); }},
+        {"window-barcode-area-definition", 1,
+         [](const S &s, const QString &file) { return s.settingsWindow(file, 2); }},
+        {"window-color-profile", 1,
+         [](const S &s, const QString &file) { return s.settingsWindow(file, 3); }},
+        {"window-200-percent", 2,
+         [](const S &s, const QString &file) { return s.settingsWindow(file, 0); }},
+    };
+    const double scale = qEnvironmentVariable("QT_SCALE_FACTOR", "1").toDouble();
+    QDir().mkpath(m_directory);
+    bool allTaken = true;
+    for (const Shot &shot : shots) {
+        if (!qFuzzyCompare(shot.scale, scale))
+            continue;
+        const QString file = QDir(m_directory).filePath(QString::fromUtf8(shot.name) + ".png");
+        const bool taken = shot.take(*this, file);
+        std::cout << (taken ? "wrote " : "FAILED ") << file.toStdString() << '\n';
+        allTaken = allTaken && taken;
+    }
+    return allTaken;
+}
+
+bool DemoScreenshots::queueChooser(const QString &file) const {
+    OVQueueChooser chooser;
+    chooser.start();
+    return waitFor(&chooser, &OVQueueChooser::listed) && chooser.isVisible() &&
+           save(&chooser, file);
+}
+
+// The window of the demo queue after Get Printer Info, on the given tab.
+bool DemoScreenshots::settingsWindow(const QString &file, int tab) const {
+    OVPrinterUtilityWindowController controller;
+    controller.applicationDidFinishLaunching({"--printer", demoQueue});
+    QWidget *window = controller.mainWindowObject();
+    window->show();
+    if (!waitFor(&controller, &OVPrinterUtilityWindowController::settingsLoaded))
+        return false;
+    Ui::MainUtilityWindiw &c = controller.controls();
+    c.printerGetPrinterInfoButton->click();
+    c.meinTabView->setCurrentIndex(tab);
+    return !controller.bError() && save(window, file);
+}
+
+bool DemoScreenshots::save(QWidget *widget, const QString &file) {
+    QApplication::processEvents();
+    return widget->grab().save(file);
+}
