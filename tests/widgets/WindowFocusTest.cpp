@@ -57,7 +57,7 @@ void expectTabReachesEveryNamedControl(QWidget *window, const std::string &where
     SCOPED_TRACE(where);
     const QList<QWidget *> reached = walkWithTab(window);
     const QSet<QWidget *> controls = interactiveControls(window);
-    EXPECT_GE(controls.size(), 3);
+    EXPECT_GE(controls.size(), 4);
     for (QWidget *control : controls)
         EXPECT_TRUE(reached.contains(control)) << "not reached: " << describe(control);
     for (QWidget *control : reached) {
@@ -82,11 +82,21 @@ TEST_F(WindowFocusTest, EveryTabOfTheSettingsWindow) {
     QWidget *window = controller.mainWindowObject();
     window->show();
     ASSERT_TRUE(loaded.wait(30000));
-    QTabWidget *tabs = controller.controls().meinTabView;
+    Ui::MainUtilityWindiw &c = controller.controls();
+    // Turns the community field and Add on.
+    c.snmpCommunityCheck->click();
+    c.folderSharedFolderTable->selectRow(1);
+    QTabWidget *tabs = c.meinTabView;
     for (int tab = 0; tab < tabs->count(); ++tab) {
         tabs->setCurrentIndex(tab);
-        controller.controls().snmpCommunityCheck->setFocus();
+        c.snmpCommunityCheck->setFocus();
         expectTabReachesEveryNamedControl(window, tabs->tabText(tab).toStdString());
+    }
+    // The labels' mnemonics go to the fields they name.
+    for (const auto &[key, field] :
+         {std::pair{Qt::Key_M, c.macAddressText1}, std::pair{Qt::Key_I, c.printerIPAddressText}}) {
+        QTest::keyClick(QApplication::focusWidget(), key, Qt::AltModifier);
+        EXPECT_EQ(QApplication::focusWidget(), field) << describe(field);
     }
 }
 
