@@ -32,19 +32,14 @@ DemoScreenshots::DemoScreenshots(QString directory)
     : m_directory(std::move(directory)) {}
 
 bool DemoScreenshots::takeAll() const {
-    using S = DemoScreenshots;
+    // A new picture is a row here, with a function that stages the state it shows.
     const Shot shots[] = {
-        {"queue-chooser", 1, &S::queueChooser},
-        {"settings-window", 1,
-         [](const S &s, const QString &file) { return s.settingsWindow(file, 0); }},
-        {"window-form", 1,
-         [](const S &s, const QString &file) { return s.settingsWindow(file, 1); }},
-        {"window-barcode-area-definition", 1,
-         [](const S &s, const QString &file) { return s.settingsWindow(file, 2); }},
-        {"window-color-profile", 1,
-         [](const S &s, const QString &file) { return s.settingsWindow(file, 3); }},
-        {"window-200-percent", 2,
-         [](const S &s, const QString &file) { return s.settingsWindow(file, 0); }},
+        {"queue-chooser", 1, &DemoScreenshots::queueChooser},
+        {"settings-window", 1, windowOnTab(0)},
+        {"window-form", 1, windowOnTab(1)},
+        {"window-barcode-area-definition", 1, windowOnTab(2)},
+        {"window-color-profile", 1, windowOnTab(3)},
+        {"window-200-percent", 2, windowOnTab(0)},
     };
     const double scale = qEnvironmentVariable("QT_SCALE_FACTOR", "1").toDouble();
     QDir().mkpath(m_directory);
@@ -60,6 +55,12 @@ bool DemoScreenshots::takeAll() const {
     return allTaken;
 }
 
+DemoScreenshots::Stage DemoScreenshots::windowOnTab(int tab) {
+    return [tab](const DemoScreenshots &shots, const QString &file) {
+        return shots.settingsWindow(file, tab);
+    };
+}
+
 bool DemoScreenshots::queueChooser(const QString &file) const {
     OVQueueChooser chooser;
     chooser.start();
@@ -67,7 +68,7 @@ bool DemoScreenshots::queueChooser(const QString &file) const {
            save(&chooser, file);
 }
 
-// The window of the demo queue after Get Printer Info, on the given tab.
+// Waits for the queue's settings, since Get Printer Info is off until they are in.
 bool DemoScreenshots::settingsWindow(const QString &file, int tab) const {
     OVPrinterUtilityWindowController controller;
     controller.applicationDidFinishLaunching({"--printer", demoQueue});

@@ -33,6 +33,8 @@ private:
         Stage take;
     };
 
+    // The settings window after Get Printer Info, on the given tab.
+    static Stage windowOnTab(int tab);
     bool queueChooser(const QString &file) const;
     bool settingsWindow(const QString &file, int tab) const;
     static bool save(QWidget *widget, const QString &file);

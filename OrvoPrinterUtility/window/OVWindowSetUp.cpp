@@ -54,6 +54,16 @@ void setUpAccessibleNames(Ui::MainUtilityWindiw &c) {
     c.colorProfileTable->setAccessibleName(spokenLabel(colorProfileTab));
 }
 
+// The controls above the tabs, then the tab bar (the tab widget hands its
+// focus to it).
+QList<QWidget *> settingsChain(Ui::MainUtilityWindiw &c) {
+    return {c.snmpCommunityCheck, c.snmpCommunityText,    c.wakeOnLANCheck,
+            c.macAddressText1,    c.macAddressText2,      c.macAddressText3,
+            c.macAddressText4,    c.macAddressText5,      c.macAddressText6,
+            c.overstepTheRouter,  c.printerIPAddressText, c.printerGetPrinterInfoButton,
+            c.meinTabView};
+}
+
 // Tab visits the controls of the page on show after the tab bar, in reading
 // order; Qt skips those of the hidden pages.
 QList<QWidget *> tabPageChain(Ui::MainUtilityWindiw &c) {
@@ -159,14 +169,7 @@ void OVWindowSetUp::setTabOrder(Ui::MainUtilityWindiw &c) {
         QGuiApplication::styleHints()->tabFocusBehavior() == Qt::TabFocusAllControls;
     QList<QWidget *> chain;
     if (allControls)
-        chain = QList<QWidget *>{c.snmpCommunityCheck,   c.snmpCommunityText,
-                                 c.wakeOnLANCheck,       c.macAddressText1,
-                                 c.macAddressText2,      c.macAddressText3,
-                                 c.macAddressText4,      c.macAddressText5,
-                                 c.macAddressText6,      c.overstepTheRouter,
-                                 c.printerIPAddressText, c.printerGetPrinterInfoButton,
-                                 c.meinTabView} +
-                tabPageChain(c) + QList<QWidget *>{c.closeButton, c.okButton};
+        chain = settingsChain(c) + tabPageChain(c) + QList<QWidget *>{c.closeButton, c.okButton};
     else
         chain = {c.snmpCommunityText, c.macAddressText1, c.macAddressText2, c.macAddressText3,
                  c.macAddressText4,   c.macAddressText5, c.macAddressText6, c.printerIPAddressText};
