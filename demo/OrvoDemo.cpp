@@ -1,19 +1,18 @@
-// The embedded demo: a private cupsd with the queue "Orvo-Demo" and a simulated
-// printer on loopback, then the utility's window for that queue. scripts/demo
+// The embedded demo: a private cupsd with the queue "Orvo-Demo" (and two more
+// for the queue chooser) and a simulated printer on loopback, then the
+// utility's window for that queue. scripts/demo
 // runs this inside a network namespace of its own, so nothing it does can
 // reach a real network.
 //
 //   orvo-demo                    opens the window (again, after OK, on request)
-//   orvo-demo --screenshots DIR  fetches from the printer in-process and writes
-//                                one PNG per tab (for machines without a display)
+//   orvo-demo --screenshots DIR  draws the pictures of DemoScreenshots made at
+//                                this process's scale (QT_SCALE_FACTOR) into DIR
 #include "CupsServer.h"
-#include "OVPrinterUtilityWindowController.h"
+#include "DemoScreenshots.h"
 #include "OVQueueSetup.h"
 #include "SimulatedPrinter.h"
-#include "ui_MainUtilityWindiw.h"
 
 #include <QApplication>
-#include <QDir>
 #include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
@@ -22,13 +21,14 @@
 #include <iostream>
 
 namespace {
-constexpr char queue[] = "Orvo-Demo";
+constexpr const char *queue = DemoScreenshots::demoQueue;
+constexpr char plainPpd[] = "/usr/share/ppd/cupsfilters/Generic-PDF_Printer-PDF.ppd";
 
 // The demo queue's PPD: a PDF printer's, as cups-filters ships it, with the
 // printer's address stored, as if the utility had saved it once. The queue is
 // then set up for the utility by the same code as the command line's setup.
 QString writeDemoPpd(const QTemporaryDir &dir) {
-    QFile source("/usr/share/ppd/cupsfilters/Generic-PDF_Printer-PDF.ppd");
+    QFile source(plainPpd);
     QFile target(dir.filePath("orvo-demo.ppd"));
     if (!source.open(QIODevice::ReadOnly) || !target.open(QIODevice::WriteOnly))
         return QString();
@@ -36,6 +36,23 @@ QString writeDemoPpd(const QTemporaryDir &dir) {
     target.write("*PrinterIPAddress: \"" +
                  SimulatedPrinter::loopbackAddress().toLatin1().toBase64() + "\"\n");
     return target.fileName();
+}
+
+// The demo queue, a second queue set up for the utility and one that is not,
+// so that the queue chooser has a list to show.
+bool addQueues(const CupsServer &cups, const QString &ppd) {
+    const std::pair<const char *, const char *> described[] = {
+        {DemoScreenshots::demoQueue, "Demo printer on loopback"},
+        {DemoScreenshots::secondQueue, "Copy room, second floor"},
+        {DemoScreenshots::plainQueue, "Lab laser, prints with its own driver"}};
+    for (const auto &[name, description] : described) {
+        const bool plain = QString(name) == DemoScreenshots::plainQueue;
+        if (!cups.addQueue(name, plain ? QString(plainPpd) : ppd) ||
+            !cups.lpadmin({"-p", name, "-D", description}) ||
+            (!plain && OVQueueSetup::setUp(name).outcome != OVQueueSetup::Outcome::Changed))
+            return false;
+    }
+    return true;
 }
 
 bool askToReopen() {
@@ -54,26 +71,6 @@ int runWindow(const QString &utility) {
     return 0;
 }
 
-// Clicks Get Printer Info in a window of this process and saves each tab.
-int writeScreenshots(const QString &directory) {
-    QDir().mkpath(directory);
-    OVPrinterUtilityWindowController controller;
-    controller.applicationDidFinishLaunching({"--printer", queue});
-    QWidget *window = controller.mainWindowObject();
-    window->show();
-    Ui::MainUtilityWindiw &c = controller.controls();
-    c.printerGetPrinterInfoButton->click();
-    const QStringList names{"folder", "form", "barcode-area-definition", "color-profile"};
-    for (int tab = 0; tab < names.size(); ++tab) {
-        c.meinTabView->setCurrentIndex(tab);
-        QApplication::processEvents();
-        const QString file = QDir(directory).filePath("window-" + names[tab] + ".png");
-        if (!window->grab().save(file))
-            return 1;
-        std::cout << "wrote " << file.toStdString() << '\n';
-    }
-    return controller.bError() ? 1 : 0;
-}
 } // namespace
 
 int main(int argc, char **argv) {
@@ -84,8 +81,7 @@ int main(int argc, char **argv) {
     SimulatedPrinter printer;
     printer.setDefaults();
     const QString ppd = writeDemoPpd(dir);
-    if (!cups.isRunning() || ppd.isEmpty() || !cups.addQueue(queue, ppd) ||
-        OVQueueSetup::setUp(queue).outcome != OVQueueSetup::Outcome::Changed || !printer.start()) {
+    if (!cups.isRunning() || ppd.isEmpty() || !addQueues(cups, ppd) || !printer.start()) {
         std::cerr << "The demo's print server or printer did not start. "
                   << printer.errorText().toStdString() << '\n';
         return 1;
@@ -94,6 +90,6 @@ int main(int argc, char **argv) {
               << ", printer at " << SimulatedPrinter::loopbackAddress().toStdString() << '\n';
     const int screenshots = arguments.indexOf("--screenshots");
     if (screenshots > 0 && screenshots + 1 < arguments.size())
-        return writeScreenshots(arguments[screenshots + 1]);
+        return DemoScreenshots(arguments[screenshots + 1]).takeAll() ? 0 : 1;
     return runWindow(ORVO_UTILITY);
 }

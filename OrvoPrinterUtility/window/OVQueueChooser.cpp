@@ -57,6 +57,7 @@ OVQueueChooser::OVQueueChooser(QWidget *parent)
 
 OVQueueChooser::~OVQueueChooser() = default;
 
+// The controls are made in reading order, which Tab follows.
 void OVQueueChooser::buildControls() {
     setWindowTitle(T::localized(T::chooserTitle));
     auto *layout = new QVBoxLayout(this);
@@ -81,6 +82,8 @@ void OVQueueChooser::buildControls() {
     m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_table->setSelectionMode(QAbstractItemView::SingleSelection);
     m_table->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    // Tab moves on to the buttons; the arrow keys move through the queues.
+    m_table->setTabKeyNavigation(false);
     m_table->verticalHeader()->hide();
     m_table->horizontalHeader()->setSectionResizeMode(DescriptionColumn, QHeaderView::Stretch);
     layout->addWidget(m_table, 1);

@@ -1,5 +1,6 @@
 #include "OVWindowSetUp.h"
 
+#include "OVChooserTexts.h"
 #include "OVCustomRestrictedTextField.h"
 #include "OVPrinterUtilityHelper.h"
 #include "OVRestrictedTextField.h"
@@ -25,6 +26,63 @@ constexpr int ipAddressMaxLength = 39;
 
 QString localized(const char *key) {
     return OVPrinterUtilityHelper::getLocalizedStringFor(QString::fromUtf8(key));
+}
+
+// A label's text as the name assistive technology reads for its field.
+QString spokenLabel(const char *key) {
+    return OVChooserTexts::withoutMnemonic(localized(key));
+}
+
+// "Add ->" read aloud would end in "dash greater than": the arrows only point
+// at the list the button moves a folder to, which the layout already shows.
+QString withoutArrows(QString text) {
+    static const QRegularExpression arrows(QStringLiteral("\\s*(->|<-)\\s*"));
+    return text.remove(arrows);
+}
+
+// The fields a label or check box names, which have no text of their own to
+// be read by.
+void setUpAccessibleNames(Ui::MainUtilityWindiw &c) {
+    c.snmpCommunityText->setAccessibleName(spokenLabel(SnmpCommunityName));
+    const QList<QLineEdit *> macFields = {c.macAddressText1, c.macAddressText2, c.macAddressText3,
+                                          c.macAddressText4, c.macAddressText5, c.macAddressText6};
+    for (qsizetype i = 0; i < macFields.size(); ++i)
+        macFields[i]->setAccessibleName(localized(macAddressByte).arg(i + 1));
+    c.printerIPAddressText->setAccessibleName(spokenLabel(ipAddressLabel));
+    c.formTable->setAccessibleName(spokenLabel(formTab));
+    c.barcodeAreaDefinitionTable->setAccessibleName(spokenLabel(barcodeTab));
+    c.colorProfileTable->setAccessibleName(spokenLabel(colorProfileTab));
+}
+
+// The controls above the tabs, then the tab bar (the tab widget hands its
+// focus to it).
+QList<QWidget *> settingsChain(Ui::MainUtilityWindiw &c) {
+    return {c.snmpCommunityCheck, c.snmpCommunityText,    c.wakeOnLANCheck,
+            c.macAddressText1,    c.macAddressText2,      c.macAddressText3,
+            c.macAddressText4,    c.macAddressText5,      c.macAddressText6,
+            c.overstepTheRouter,  c.printerIPAddressText, c.printerGetPrinterInfoButton,
+            c.meinTabView};
+}
+
+// Tab visits the controls of the page on show after the tab bar, in reading
+// order; Qt skips those of the hidden pages.
+QList<QWidget *> tabPageChain(Ui::MainUtilityWindiw &c) {
+    return {c.folderSharedFolderTable,
+            c.folderAddButton,
+            c.folderDeleteButton,
+            c.folderSelectedFolderTable,
+            c.folderPersonalFolderCheck,
+            c.folderGetPrinterInfoButton,
+            c.folderClearButton,
+            c.formTable,
+            c.formGetPrinterInfoButton,
+            c.formClearButton,
+            c.barcodeAreaDefinitionTable,
+            c.barcodeAreaDefinitionGetPrinterInfoButton,
+            c.barcodeAreaDefinitionClearButton,
+            c.colorProfileTable,
+            c.colorProfileGetPrinterInfoButton,
+            c.colorProfileClearButton};
 }
 } // namespace
 
@@ -66,6 +124,7 @@ void OVWindowSetUp::setUpTexts(Ui::MainUtilityWindiw &c) {
     for (QPushButton *button : {c.folderClearButton, c.formClearButton,
                                 c.barcodeAreaDefinitionClearButton, c.colorProfileClearButton})
         button->setText(localized(clear));
+    setUpAccessibleNames(c);
 }
 
 void OVWindowSetUp::setUpSettingsFields(Ui::MainUtilityWindiw &c) {
@@ -97,6 +156,10 @@ void OVWindowSetUp::setUpFolderTab(Ui::MainUtilityWindiw &c) {
     c.folderAddButton->setText(localized(add));
     c.folderDeleteButton->setText(localized(deleteButton));
     c.folderPersonalFolderCheck->setText(localized(UsePersonalFolder));
+    c.folderSharedFolderTable->setAccessibleName(spokenLabel(sharedFolderInPrinter));
+    c.folderSelectedFolderTable->setAccessibleName(spokenLabel(registerFolder));
+    c.folderAddButton->setAccessibleName(withoutArrows(c.folderAddButton->text()));
+    c.folderDeleteButton->setAccessibleName(withoutArrows(c.folderDeleteButton->text()));
     c.folderPersonalFolderCheck->setEnabled(false);
     c.folderPersonalFolderCheck->setChecked(false);
 }
@@ -106,11 +169,7 @@ void OVWindowSetUp::setTabOrder(Ui::MainUtilityWindiw &c) {
         QGuiApplication::styleHints()->tabFocusBehavior() == Qt::TabFocusAllControls;
     QList<QWidget *> chain;
     if (allControls)
-        chain = {c.snmpCommunityCheck, c.snmpCommunityText,    c.wakeOnLANCheck,
-                 c.macAddressText1,    c.macAddressText2,      c.macAddressText3,
-                 c.macAddressText4,    c.macAddressText5,      c.macAddressText6,
-                 c.overstepTheRouter,  c.printerIPAddressText, c.printerGetPrinterInfoButton,
-                 c.meinTabView,        c.closeButton,          c.okButton};
+        chain = settingsChain(c) + tabPageChain(c) + QList<QWidget *>{c.closeButton, c.okButton};
     else
         chain = {c.snmpCommunityText, c.macAddressText1, c.macAddressText2, c.macAddressText3,
                  c.macAddressText4,   c.macAddressText5, c.macAddressText6, c.printerIPAddressText};

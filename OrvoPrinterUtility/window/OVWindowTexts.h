@@ -13,6 +13,8 @@ inline constexpr char SnmpCommunityName[] = "SNMP Community Name";
 inline constexpr char prohibitCharacter[] = "IDS_SNMP_PROHIBIT_CHARACTER_ERROR";
 inline constexpr char wakeOnLan[] = "Wake On LAN";
 inline constexpr char macAddressLabel[] = "MAC Address of the Printer:";
+// What assistive technology calls each of the six MAC fields; %1: 1 to 6.
+inline constexpr char macAddressByte[] = "MAC address, byte %1";
 inline constexpr char overTheRouter[] = "Connect to Another Network";
 inline constexpr char ipAddressLabel[] = "IP address of the printer:";
 inline constexpr char getPrinterInfo[] = "Get Printer Info";
@@ -82,6 +84,7 @@ inline constexpr const char *localizedKeys[] = {
     prohibitCharacter,
     wakeOnLan,
     macAddressLabel,
+    macAddressByte,
     overTheRouter,
     ipAddressLabel,
     getPrinterInfo,

@@ -37,7 +37,11 @@
     </message>
     <message>
         <source>MAC Address of the Printer:</source>
-        <translation>MAC-Adresse des Druckers:</translation>
+        <translation>&amp;MAC-Adresse des Druckers:</translation>
+    </message>
+    <message>
+        <source>MAC address, byte %1</source>
+        <translation>MAC-Adresse, Byte %1</translation>
     </message>
     <message>
         <source>Connect to Another Network</source>
@@ -45,7 +49,7 @@
     </message>
     <message>
         <source>IP address of the printer:</source>
-        <translation>IP-Adresse des Druckers:</translation>
+        <translation>&amp;IP-Adresse des Druckers:</translation>
     </message>
     <message>
         <source>Get Printer Info</source>

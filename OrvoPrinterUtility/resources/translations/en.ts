@@ -37,7 +37,11 @@
     </message>
     <message>
         <source>MAC Address of the Printer:</source>
-        <translation>MAC Address of the Printer:</translation>
+        <translation>&amp;MAC Address of the Printer:</translation>
+    </message>
+    <message>
+        <source>MAC address, byte %1</source>
+        <translation>MAC address, byte %1</translation>
     </message>
     <message>
         <source>Connect to Another Network</source>
@@ -45,7 +49,7 @@
     </message>
     <message>
         <source>IP address of the printer:</source>
-        <translation>IP address of the printer:</translation>
+        <translation>&amp;IP address of the printer:</translation>
     </message>
     <message>
         <source>Get Printer Info</source>

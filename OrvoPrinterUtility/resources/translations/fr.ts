@@ -37,7 +37,11 @@
     </message>
     <message>
         <source>MAC Address of the Printer:</source>
-        <translation>Adresse MAC de l'imprimante :</translation>
+        <translation>Adresse &amp;MAC de l'imprimante :</translation>
+    </message>
+    <message>
+        <source>MAC address, byte %1</source>
+        <translation>Adresse MAC, octet %1</translation>
     </message>
     <message>
         <source>Connect to Another Network</source>
@@ -45,7 +49,7 @@
     </message>
     <message>
         <source>IP address of the printer:</source>
-        <translation>Adresse IP de l'imprimante :</translation>
+        <translation>Adresse &amp;IP de l'imprimante :</translation>
     </message>
     <message>
         <source>Get Printer Info</source>

@@ -37,7 +37,11 @@
     </message>
     <message>
         <source>MAC Address of the Printer:</source>
-        <translation>プリンターの MAC アドレス:</translation>
+        <translation>プリンターの MAC アドレス(&amp;M):</translation>
+    </message>
+    <message>
+        <source>MAC address, byte %1</source>
+        <translation>MAC アドレス、%1 バイト目</translation>
     </message>
     <message>
         <source>Connect to Another Network</source>
@@ -45,7 +49,7 @@
     </message>
     <message>
         <source>IP address of the printer:</source>
-        <translation>プリンターの IP アドレス:</translation>
+        <translation>プリンターの IP アドレス(&amp;I):</translation>
     </message>
     <message>
         <source>Get Printer Info</source>

@@ -37,7 +37,11 @@
     </message>
     <message>
         <source>MAC Address of the Printer:</source>
-        <translation>打印机的 MAC 地址:</translation>
+        <translation>打印机的 MAC 地址(&amp;M):</translation>
+    </message>
+    <message>
+        <source>MAC address, byte %1</source>
+        <translation>MAC 地址，第 %1 字节</translation>
     </message>
     <message>
         <source>Connect to Another Network</source>
@@ -45,7 +49,7 @@
     </message>
     <message>
         <source>IP address of the printer:</source>
-        <translation>打印机的 IP 地址:</translation>
+        <translation>打印机的 IP 地址(&amp;I):</translation>
     </message>
     <message>
         <source>Get Printer Info</source>

@@ -37,7 +37,11 @@
     </message>
     <message>
         <source>MAC Address of the Printer:</source>
-        <translation>印表機的 MAC 位址:</translation>
+        <translation>印表機的 MAC 位址(&amp;M):</translation>
+    </message>
+    <message>
+        <source>MAC address, byte %1</source>
+        <translation>MAC 位址，第 %1 位元組</translation>
     </message>
     <message>
         <source>Connect to Another Network</source>
@@ -45,7 +49,7 @@
     </message>
     <message>
         <source>IP address of the printer:</source>
-        <translation>印表機的 IP 位址:</translation>
+        <translation>印表機的 IP 位址(&amp;I):</translation>
     </message>
     <message>
         <source>Get Printer Info</source>
