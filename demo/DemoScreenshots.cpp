@@ -40,6 +40,8 @@ bool DemoScreenshots::takeAll() const {
         {"window-barcode-area-definition", 1, windowOnTab(2)},
         {"window-color-profile", 1, windowOnTab(3)},
         {"window-200-percent", 2, windowOnTab(0)},
+        {"window-not-set-up", 1, &DemoScreenshots::notSetUpWindow},
+        {"window-saving", 1, &DemoScreenshots::savingWindow},
     };
     const double scale = qEnvironmentVariable("QT_SCALE_FACTOR", "1").toDouble();
     QDir().mkpath(m_directory);
@@ -80,6 +82,29 @@ bool DemoScreenshots::settingsWindow(const QString &file, int tab) const {
     c.printerGetPrinterInfoButton->click();
     c.meinTabView->setCurrentIndex(tab);
     return !controller.bError() && save(window, file);
+}
+
+// The bar above the tabs, offering to set up a queue that is not.
+bool DemoScreenshots::notSetUpWindow(const QString &file) const {
+    OVPrinterUtilityWindowController controller;
+    controller.applicationDidFinishLaunching({"--printer", plainQueue});
+    controller.mainWindowObject()->show();
+    return waitFor(&controller, &OVPrinterUtilityWindowController::settingsLoaded) &&
+           save(controller.mainWindowObject(), file);
+}
+
+// The window while OK's save waits for the update job; drawn before the save
+// ends, and the save then runs to its end so that the next shot finds the
+// queue's PPD written.
+bool DemoScreenshots::savingWindow(const QString &file) const {
+    OVPrinterUtilityWindowController controller;
+    controller.applicationDidFinishLaunching({"--printer", demoQueue});
+    controller.mainWindowObject()->show();
+    if (!waitFor(&controller, &OVPrinterUtilityWindowController::settingsLoaded))
+        return false;
+    controller.controls().okButton->click();
+    return save(controller.mainWindowObject(), file) &&
+           waitFor(&controller, &OVPrinterUtilityWindowController::applicationShouldTerminate);
 }
 
 bool DemoScreenshots::save(QWidget *widget, const QString &file) {

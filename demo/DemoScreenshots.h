@@ -37,6 +37,8 @@ private:
     static Stage windowOnTab(int tab);
     bool queueChooser(const QString &file) const;
     bool settingsWindow(const QString &file, int tab) const;
+    bool notSetUpWindow(const QString &file) const;
+    bool savingWindow(const QString &file) const;
     static bool save(QWidget *widget, const QString &file);
 
     QString m_directory;

@@ -241,5 +241,5 @@ QByteArray OVPrinterUtilityWindowController::getSnmpCommunityFromUI() const {
 }
 
 void OVPrinterUtilityWindowController::setTabOrder() {
-    OVWindowSetUp::setTabOrder(*m_ui);
+    OVWindowSetUp::setTabOrder(*m_ui, {m_messageBar->actionButton()});
 }

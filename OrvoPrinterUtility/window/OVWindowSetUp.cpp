@@ -164,12 +164,13 @@ void OVWindowSetUp::setUpFolderTab(Ui::MainUtilityWindiw &c) {
     c.folderPersonalFolderCheck->setChecked(false);
 }
 
-void OVWindowSetUp::setTabOrder(Ui::MainUtilityWindiw &c) {
+void OVWindowSetUp::setTabOrder(Ui::MainUtilityWindiw &c, const QList<QWidget *> &aboveTabs) {
     const bool allControls =
         QGuiApplication::styleHints()->tabFocusBehavior() == Qt::TabFocusAllControls;
     QList<QWidget *> chain;
     if (allControls)
-        chain = settingsChain(c) + tabPageChain(c) + QList<QWidget *>{c.closeButton, c.okButton};
+        chain = settingsChain(c) + aboveTabs + tabPageChain(c) +
+                QList<QWidget *>{c.closeButton, c.okButton};
     else
         chain = {c.snmpCommunityText, c.macAddressText1, c.macAddressText2, c.macAddressText3,
                  c.macAddressText4,   c.macAddressText5, c.macAddressText6, c.printerIPAddressText};

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QList>
 #include <QVariantMap>
 
 #include <optional>
@@ -19,7 +20,9 @@ public:
     static void setUpTexts(Ui::MainUtilityWindiw &c);
     static void setUpSettingsFields(Ui::MainUtilityWindiw &c);
     static void setUpFolderTab(Ui::MainUtilityWindiw &c);
-    // With "tab focus reaches all controls" every control is in the chain;
-    // otherwise Tab moves between the text fields only.
-    static void setTabOrder(Ui::MainUtilityWindiw &c);
+    // With "tab focus reaches all controls" every control is in the chain,
+    // aboveTabs (controls made in code, such as the message bar's button)
+    // between the settings and the tabs; otherwise Tab moves between the text
+    // fields only.
+    static void setTabOrder(Ui::MainUtilityWindiw &c, const QList<QWidget *> &aboveTabs);
 };

@@ -2,8 +2,10 @@
 // window and of the queue chooser, and each control it stops at has a name a
 // screen reader can say. The window and the chooser read a private cupsd.
 #include "CupsServerEnvironment.h"
+#include "OVMessageBar.h"
 #include "OVPrinterUtilityWindowController.h"
 #include "OVQueueChooser.h"
+#include "OVQueueSetup.h"
 #include "ui_MainUtilityWindiw.h"
 
 #include <QAccessible>
@@ -69,19 +71,22 @@ void expectTabReachesEveryNamedControl(QWidget *window, const std::string &where
 class WindowFocusTest : public ::testing::Test {
 protected:
     static void SetUpTestSuite() {
-        // Two queues set up for the utility: the chooser shows its list.
+        // Two queues set up for the utility, so that the chooser shows its list,
+        // and one that is not, whose window shows the bar with its button.
         CupsServer &cups = CupsServerEnvironment::server();
-        ASSERT_TRUE(cups.addQueue("Office") && cups.addQueue("Lab"));
+        ASSERT_TRUE(cups.addQueue("Office") && cups.addQueue("Lab") && cups.addQueue("Plain"));
+        ASSERT_EQ(OVQueueSetup::remove("Plain").outcome, OVQueueSetup::Outcome::Changed);
     }
 };
 
 TEST_F(WindowFocusTest, EveryTabOfTheSettingsWindow) {
     OVPrinterUtilityWindowController controller;
     QSignalSpy loaded(&controller, &OVPrinterUtilityWindowController::settingsLoaded);
-    controller.applicationDidFinishLaunching({"--printer", "Office"});
+    controller.applicationDidFinishLaunching({"--printer", "Plain"});
     QWidget *window = controller.mainWindowObject();
     window->show();
     ASSERT_TRUE(loaded.wait(30000));
+    ASSERT_TRUE(controller.messageBar()->actionButton()->isVisible());
     Ui::MainUtilityWindiw &c = controller.controls();
     // Turns the community field and Add on.
     c.snmpCommunityCheck->click();
