@@ -315,6 +315,24 @@ TEST_F(WindowOnServerTest, AQueueThatIsNotSetUpIsSetUpFromTheBar) {
     EXPECT_EQ(jobCount("Delta"), 1);
 }
 
+// Without the server the window shows its defaults and OK will not save them over the
+// stored settings; Retry loads those once the server answers.
+TEST_F(WindowOnServerTest, AServerThatCannotBeReachedKeepsTheStoredSettings) {
+    useServer("127.0.0.1:1");
+    show("Alpha");
+    waitForSettings();
+    const OVMessageBar *bar = m_window->messageBar();
+    EXPECT_TRUE(bar->text().startsWith("The print server 127.0.0.1:1 cannot be reached"));
+    EXPECT_FALSE(ok());
+    EXPECT_EQ(m_alerts, QStringList{bar->text()});
+    useServer(CupsServerEnvironment::server().address());
+    QSignalSpy loaded(m_window.get(), &Controller::settingsLoaded);
+    QTest::mouseClick(bar->actionButton(), Qt::LeftButton);
+    ASSERT_TRUE(loaded.wait(30000));
+    EXPECT_TRUE(bar->isHidden());
+    EXPECT_TRUE(ok());
+}
+
 // A queue whose filter fails ends the update job unsaved: the window says so and keeps
 // what the user set, so that OK can be tried again.
 TEST_F(WindowOnServerTest, ASaveThatDoesNotArriveKeepsTheWindowOpen) {
