@@ -123,14 +123,14 @@ TEST(SaveRoundTrip, EverySaveReadsBackAsStored) {
     });
     // A save that changes nothing leaves the server's file as it was: cupsd is not asked to
     // rewrite it.
-    struct stat before {
-    }, after{};
-    ASSERT_EQ(stat(cups.ppdFile(queue).toLocal8Bit().constData(), &before), 0);
+    const auto stamp = [&] {
+        struct stat file {};
+        EXPECT_EQ(stat(cups.ppdFile(queue).toLocal8Bit().constData(), &file), 0);
+        return std::tuple(file.st_ino, file.st_mtim.tv_sec, file.st_mtim.tv_nsec);
+    };
+    const auto before = stamp();
     save();
-    ASSERT_EQ(stat(cups.ppdFile(queue).toLocal8Bit().constData(), &after), 0);
-    EXPECT_EQ(after.st_ino, before.st_ino);
-    EXPECT_EQ(after.st_mtim.tv_nsec, before.st_mtim.tv_nsec);
-    EXPECT_EQ(after.st_mtim.tv_sec, before.st_mtim.tv_sec);
+    EXPECT_EQ(stamp(), before);
 }
 
 // cupsd hands all of a job's options to the filter as one argument, and Linux
