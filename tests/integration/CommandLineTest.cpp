@@ -64,6 +64,9 @@ TEST(CommandLine, QueueAndPpdCommands) {
     const QString longNames =
         variant("long.ppd", QByteArray(ppd).replace("Long Edge", QByteArray(90, 'L')));
     const QString latin1 = variant("latin1.ppd", QByteArray(ppd).replace("Off", "Arr\xeat"));
+    // cupsd logs each job request it is sent, taken or not.
+    const auto jobRequests = [&] { return server.errorLog().count("] Create-Job "); };
+    const qsizetype jobsBefore = jobRequests();
     check({"list", "-h", "127.0.0.1:1"}, 3, "cannot reach the CUPS server");
     check({"show", "nosuch"}, 4, "no queue \"nosuch\"");
     check({"save", "--help"}, 0, "--colorProfiles <value>");
@@ -72,10 +75,11 @@ TEST(CommandLine, QueueAndPpdCommands) {
     check({"save", "orvo", "--settings", "-"}, 6, "too large", tooLarge);
     check({"save", "plain", "--forms", "A"}, 6,
           "Set it up with: orvo-printer-utility-cli setup plain");
+    // None of the refusals above sent a job.
+    EXPECT_EQ(jobRequests(), jobsBefore);
+    check({"show", "--json", "orvo"}, 0, "\"optionsUpdated\": false");
     check({"save", "failing", "--forms", "A"}, 1, "did not complete (state");
     check({"save", "forgetful", "--forms", "A"}, 1, "the PPD does not hold: PPDOptionsUpdated");
-    // None of the refusals above sent a job.
-    check({"show", "--json", "orvo"}, 0, "\"optionsUpdated\": false");
     check({"save", "orvo", "--customCommunity", "yes", "--community", "blue", "--forms", "A"}, 0,
           "the PPD holds the settings");
     check({"show", "orvo"}, 0, "customCommunity: yes\ncommunity: blue\n");

@@ -16,8 +16,6 @@ namespace {
 
 namespace K = OrvoSettingsKeywords;
 using Outcome = OVQueueSetup::Outcome;
-const auto readFile = CupsServer::readFile;
-const auto writeFile = CupsServer::writeFile;
 
 // What differs between two prints of the same file: job numbers, times, document IDs and the
 // random tags of embedded font subsets.
@@ -68,7 +66,7 @@ TEST(QueueSetup, PrintingQueuesOfEveryStyleKeepPrintingAndTakeSaves) {
         {"Driverless", {}},
     };
     const QString text = cups.outputPath("hello.txt"), pdf = "/usr/share/cups/data/classified.pdf";
-    writeFile(text, "Hello, printer.\n");
+    CupsServer::writeFile(text, "Hello, printer.\n");
     int remoteJobs = 0;
     for (const auto &[what, ppd] : styles) {
         SCOPED_TRACE(what);
@@ -84,7 +82,7 @@ TEST(QueueSetup, PrintingQueuesOfEveryStyleKeepPrintingAndTakeSaves) {
             QByteArray made; // the server makes the PPD in the background
             for (int poll = 0; poll < 100 && made.isEmpty(); ++poll, QThread::msleep(50))
                 made = cups.queuePpd(queue);
-            writeFile(cups.outputPath("driverless.ppd"), made);
+            CupsServer::writeFile(cups.outputPath("driverless.ppd"), made);
             ASSERT_TRUE(cups.lpadmin({"-p", queue, "-P", cups.outputPath("driverless.ppd")}));
         } else {
             ASSERT_TRUE(cups.addQueue(queue, ppd, "file:" + device));
@@ -98,7 +96,7 @@ TEST(QueueSetup, PrintingQueuesOfEveryStyleKeepPrintingAndTakeSaves) {
             if (driverless) {
                 EXPECT_EQ(remote.waitForJob(++remoteJobs), IPP_JSTATE_COMPLETED);
             }
-            return normalised(readFile(device));
+            return normalised(CupsServer::readFile(device));
         };
         const QByteArray textBefore = print(text, "text/plain");
         const QByteArray pdfBefore = print(pdf, "application/pdf");
@@ -125,7 +123,7 @@ TEST(QueueSetup, PrintingQueuesOfEveryStyleKeepPrintingAndTakeSaves) {
         const int job = OVUpdateJob::saveOptionsToPPD(settings, queue);
         EXPECT_EQ(cups.waitForJob(job), IPP_JSTATE_COMPLETED);
         EXPECT_EQ(filtersOf(cups.errorLog(), job), QStringList{K::driverFilter});
-        EXPECT_EQ(readFile(device), QByteArray());
+        EXPECT_EQ(CupsServer::readFile(device), QByteArray());
         EXPECT_EQ(remote.errorLog().count("Queued on"), remoteJobsLogged);
         OVSettingsSnapshot stored;
         EXPECT_EQ(OVStoredSettings::load(queue, stored), OVStoredSettings::Status::Loaded);
