@@ -73,6 +73,7 @@ TEST(SnmpQueries, AnswersOfHealthyFaultyAndSlowPrinters) {
                 coreLog << line;
         });
     const QByteArray form2 = P::nameOid(P::Table::Form, 2); // the first form in use
+    const QByteArray form50 = P::nameOid(P::Table::Form, 50);
     const struct {
         const char *label;
         QByteArray oid;
@@ -87,13 +88,7 @@ TEST(SnmpQueries, AnswersOfHealthyFaultyAndSlowPrinters) {
         {"longestName", form2, QByteArray(4095, 'n'), Forms, std::string(4095, 'n') + " +49"},
         {"tooLongName", form2, QByteArray(4096, 'n'), Forms, "failed"},
         {"notUtf8", form2, QByteArray("\xe8\xab"), Forms, "failed"},
-        {"missingName",
-         P::nameOid(P::Table::Form, 50),
-         {},
-         Forms,
-         "failed",
-         -1,
-         "refused: (noSuchName)"},
+        {"missingName", form50, {}, Forms, "failed", -1, "refused: (noSuchName)"},
         // A later variable of another type than the first fails the list.
         {"nameIsInteger", P::nameOid(P::Table::Form, 3), 7L, Forms, "failed"},
         {"stateIsText", P::stateOid(P::Table::Form, 4), QByteArray("1"), Forms, "failed"},
