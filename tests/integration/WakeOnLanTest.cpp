@@ -226,7 +226,7 @@ TEST(WakeOnLan, ReachesAndWakesThePrinter) {
     for (const auto &[mac, exit] : macs) {
         SCOPED_TRACE(mac);
         printer.set(SimulatedPrinter::kSleepMode, kAsleep);
-        const auto wake = [&, exit = exit] {
+        const auto wake = [&, mac = mac, exit = exit] {
             EXPECT_EQ(QProcess::execute(ORVO_CLI, {"fetch", "--wake", "--over-router", "--mac", mac,
                                                    "--address", kV4}),
                       exit);
