@@ -36,20 +36,18 @@ constexpr const char *kV6 = Net::kPrinterULA;
 constexpr const char *kLinkLocal = "fe80::2%en0";
 constexpr long kAsleep = 4;
 constexpr const char *kNoAddress = "ERROR: convert ip address text to byte [";
-// Destinations seen only inside the network namespaces this test creates.
-const QString kAll4 = "255.255.255.255";
-const QString kAll6 = "ff02::2";
+const QString kAll4 = "255.255.255.255"; // sent only inside this test's network namespaces
+const QString kAll6 = "ff02::2";         // sent only inside this test's network namespaces
 
 QByteArray magicPacket(const char *mac) {
     const QByteArray bytes = QByteArray::fromHex(QByteArray(mac).replace(':', ""));
     return QByteArray(6, char(0xFF)) + bytes.repeated(16) + QByteArray(6, '\0');
 }
 
-// The Wake-on-LAN side of the printer, inside its namespace: listens on UDP
-// port 2304 of its interface for IPv4 broadcast and unicast and for the IPv6
-// group FF02::2. The magic packet for kMac wakes the printer: it writes the
-// "awake-at" file the printer's agent reads, so the sleep mode reads 1 from
-// 200 ms later on.
+// The Wake-on-LAN side of the printer, inside its namespace: listens on UDP port 2304 of its
+// interface for IPv4 broadcast and unicast and for the IPv6 all-routers group. The magic packet
+// for kMac wakes the printer: it writes the "awake-at" file the printer's agent reads, so the
+// sleep mode reads 1 from 200 ms later on.
 class MagicPacketListener {
 public:
     // One dual-stack socket (IPv4 packets arrive with a v4-mapped
