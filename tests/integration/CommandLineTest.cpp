@@ -1,5 +1,6 @@
 // The command line as a separate process against the private cupsd and the
 // simulated printer, with the exit codes and messages its manual documents.
+#include "CommandLineRun.h"
 #include "CupsServerEnvironment.h"
 #include "SimulatedPrinter.h"
 
@@ -10,24 +11,17 @@
 
 namespace {
 
-// The exit code, and what the command printed to stdout on success, to stderr otherwise.
-std::pair<int, QByteArray> cli(const QStringList &arguments, const QByteArray &input = {}) {
-    QProcess process;
-    process.start(ORVO_CLI, arguments);
-    process.write(input);
-    process.closeWriteChannel();
-    process.waitForFinished(120000);
-    const int exit = process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;
-    return {exit, exit == 0 ? process.readAllStandardOutput() : process.readAllStandardError()};
+CommandLineRun cli(const QStringList &arguments, const QByteArray &input = {}) {
+    return CommandLineRun(ORVO_CLI, arguments, input);
 }
 
 // One run: its exit code and a text it shows.
 void check(const QStringList &arguments, int exit, const QByteArray &expected,
            const QByteArray &input = {}) {
     SCOPED_TRACE(arguments.join(' ').left(120).toStdString());
-    const auto [code, shown] = cli(arguments, input);
-    EXPECT_EQ(code, exit);
-    EXPECT_TRUE(shown.contains(expected)) << shown.toStdString();
+    const CommandLineRun run = cli(arguments, input);
+    EXPECT_EQ(run.exit, exit);
+    EXPECT_TRUE(run.shown.contains(expected)) << run.shown.toStdString();
 }
 
 // The sample PPD without its settings route: a queue that prints but is not set up.
@@ -63,13 +57,16 @@ TEST(CommandLine, QueueAndPpdCommands) {
     }
     const QByteArray tooLarge =
         QJsonDocument(QJsonObject{{"sharedFolders", names}, {"forms", names}}).toJson();
-    EXPECT_EQ(cli({"list"}).second,
+    EXPECT_EQ(cli({"list"}).shown,
               "failing    set up      Orvo Printer\nforgetful  set up      Orvo Printer\n"
               "orvo       set up      Orvo Printer\nplain      not set up  Orvo Printer\n");
     const QString german = variant("de.ppd", ppd + "*de.Translation Duplex/Beidseitig: \"\"\n");
     const QString longNames =
         variant("long.ppd", QByteArray(ppd).replace("Long Edge", QByteArray(90, 'L')));
     const QString latin1 = variant("latin1.ppd", QByteArray(ppd).replace("Off", "Arr\xeat"));
+    // cupsd logs each job request it is sent, taken or not.
+    const auto jobRequests = [&] { return server.errorLog().count("] Create-Job "); };
+    const qsizetype jobsBefore = jobRequests();
     check({"list", "-h", "127.0.0.1:1"}, 3, "cannot reach the CUPS server");
     check({"show", "nosuch"}, 4, "no queue \"nosuch\"");
     check({"save", "--help"}, 0, "--colorProfiles <value>");
@@ -78,10 +75,11 @@ TEST(CommandLine, QueueAndPpdCommands) {
     check({"save", "orvo", "--settings", "-"}, 6, "too large", tooLarge);
     check({"save", "plain", "--forms", "A"}, 6,
           "Set it up with: orvo-printer-utility-cli setup plain");
+    // None of the refusals above sent a job.
+    EXPECT_EQ(jobRequests(), jobsBefore);
+    check({"show", "--json", "orvo"}, 0, "\"optionsUpdated\": false");
     check({"save", "failing", "--forms", "A"}, 1, "did not complete (state");
     check({"save", "forgetful", "--forms", "A"}, 1, "the PPD does not hold: PPDOptionsUpdated");
-    // None of the refusals above sent a job.
-    check({"show", "--json", "orvo"}, 0, "\"optionsUpdated\": false");
     check({"save", "orvo", "--customCommunity", "yes", "--community", "blue", "--forms", "A"}, 0,
           "the PPD holds the settings");
     check({"show", "orvo"}, 0, "customCommunity: yes\ncommunity: blue\n");
@@ -91,14 +89,14 @@ TEST(CommandLine, QueueAndPpdCommands) {
     check({"ppd", longNames}, 1, "longer than the PPD reader's fixed fields allow");
     check({"ppd", latin1}, 1, "is not UTF-8 text");
     // What show --json prints, save takes back unchanged but for the edits.
-    QJsonObject settings = QJsonDocument::fromJson(cli({"show", "--json", "orvo"}).second).object();
+    QJsonObject settings = QJsonDocument::fromJson(cli({"show", "--json", "orvo"}).shown).object();
     // Names any user who may print can store: text output shows their control characters
     // escaped, so none reaches the terminal; JSON keeps them exactly.
     const QString forged = QString::fromUtf8("\x1b[2J\r\nforms: (0)\xc2\x9b\\");
     settings["barcodeAreas"] = QJsonArray{"Zone \"1\"", "区域 2", forged};
     settings["chosenFolderIndexes"] = QJsonArray{6};
-    EXPECT_EQ(cli({"save", "orvo", "--settings", "-"}, QJsonDocument(settings).toJson()).first, 0);
-    EXPECT_EQ(QJsonDocument::fromJson(cli({"show", "--json", "orvo"}).second).object(), settings);
+    EXPECT_EQ(cli({"save", "orvo", "--settings", "-"}, QJsonDocument(settings).toJson()).exit, 0);
+    EXPECT_EQ(QJsonDocument::fromJson(cli({"show", "--json", "orvo"}).shown).object(), settings);
     check({"show", "orvo"}, 0, "\n  \\x1b[2J\\x0d\\x0aforms: (0)\\x9b\\\\\n");
 }
 

@@ -1,6 +1,7 @@
 // A print server that fails in the middle of the utility's work: killed during saves, stopped
 // during show and save, a paused queue, and a disk too small for the PPDs. The command line
 // must end within its time limit and say what happened.
+#include "CommandLineRun.h"
 #include "CupsServer.h"
 #include "OVQueueSetup.h"
 #include "OrvoPPD_Interface.h"
@@ -20,24 +21,9 @@
 
 namespace {
 
-struct Outcome {
-    bool finished;
-    int exit;
-    QByteArray shown; // stdout on success, stderr otherwise
-};
-
 // Runs the command line, doing `meanwhile` to the server once it has started.
-Outcome cli(const QStringList &arguments, const std::function<void()> &meanwhile = {}) {
-    QProcess process;
-    process.start(ORVO_CLI, arguments);
-    process.waitForStarted();
-    if (meanwhile)
-        meanwhile();
-    // Far beyond every --timeout given here: a command still running then hangs.
-    const bool finished = process.waitForFinished(60000);
-    const int exit = process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;
-    return {finished, exit,
-            exit == 0 ? process.readAllStandardOutput() : process.readAllStandardError()};
+CommandLineRun cli(const QStringList &arguments, const std::function<void()> &meanwhile = {}) {
+    return CommandLineRun(ORVO_CLI, arguments, {}, meanwhile);
 }
 
 QStringList save(int number, int timeout = 10) {
@@ -57,7 +43,7 @@ bool damaged(const CupsServer &server, const QString &queue) {
 }
 
 // Each way a killed save can end, with the words that say it.
-bool saidWhatHappened(const Outcome &run) {
+bool saidWhatHappened(const CommandLineRun &run) {
     static const std::pair<int, const char *> designed[] = {
         {0, "the PPD holds the settings"},
         {1, "is gone from the server"},
@@ -88,7 +74,7 @@ TEST(FaultInjection, CupsdKilledAtSeededPointsOfASave) {
     for (int trial = 1; trial <= trials; ++trial) {
         const int delay = killAfterMs(seeded);
         SCOPED_TRACE(delay);
-        const Outcome run = cli(save(trial), [&] {
+        const CommandLineRun run = cli(save(trial), [&] {
             QThread::msleep(delay);
             ::kill(pid_t(server.pid()), SIGKILL);
         });
@@ -111,7 +97,7 @@ TEST(FaultInjection, StoppedServerAndPausedQueue) {
     ::kill(pid_t(server.pid()), SIGSTOP);
     for (const QStringList &arguments :
          {QStringList{"show", "--timeout", "2", "Office"}, save(1, 2)}) {
-        const Outcome run = cli(arguments);
+        const CommandLineRun run = cli(arguments);
         EXPECT_TRUE(run.finished);
         EXPECT_EQ(run.exit, 3);
         EXPECT_TRUE(run.shown.contains("did not answer in time")) << run.shown.toStdString();
@@ -119,7 +105,7 @@ TEST(FaultInjection, StoppedServerAndPausedQueue) {
     ::kill(pid_t(server.pid()), SIGCONT);
     // A save to a paused queue waits there and is applied once the queue runs again.
     ASSERT_EQ(QProcess::execute("cupsdisable", {"-h", server.address(), "Office"}), 0);
-    const Outcome queued = cli(save(2, 2));
+    const CommandLineRun queued = cli(save(2, 2));
     EXPECT_EQ(queued.exit, 8);
     EXPECT_TRUE(queued.shown.contains("may still be applied when the queue runs"));
     ASSERT_EQ(QProcess::execute("cupsenable", {"-h", server.address(), "Office"}), 0);
@@ -137,7 +123,7 @@ TEST(FaultInjection, PpdFolderWithoutRoom) {
     QStringList arguments{"save", "Office"};
     for (int i = 0; i < 100; ++i)
         arguments << "--forms" << QString(150, QChar('a' + i % 26));
-    const Outcome run = cli(arguments);
+    const CommandLineRun run = cli(arguments);
     EXPECT_TRUE(run.finished);
     EXPECT_EQ(run.exit, 1);
     EXPECT_TRUE(run.shown.contains("is damaged after the save: restore the route with"))

@@ -1,5 +1,6 @@
 // `cmake --install` into a staging folder, then a queue from the installed sample PPD on a
 // private cupsd running the installed filter, saved and shown by the installed command line.
+#include "CommandLineRun.h"
 #include "CupsServer.h"
 
 #include <QJsonArray>
@@ -13,11 +14,9 @@
 namespace {
 
 QByteArray run(const QString &program, const QStringList &arguments) {
-    QProcess process;
-    process.start(program, arguments);
-    process.waitForFinished(120000);
-    EXPECT_EQ(process.exitCode(), 0) << process.readAllStandardError().toStdString();
-    return process.readAllStandardOutput();
+    const CommandLineRun run(program, arguments);
+    EXPECT_EQ(run.exit, 0) << run.shown.toStdString();
+    return run.shown;
 }
 
 TEST(Installation, SaveAndShowThroughTheInstalledFiles) {

@@ -64,7 +64,16 @@ TEST(SnmpQueries, AnswersOfHealthyFaultyAndSlowPrinters) {
     // An empty address would be Net-SNMP's localhost: no session opens.
     EXPECT_EQ(ask(SleepMode, ""), "status 1 mode -1");
 
+    // A failed request also logs Net-SNMP's own reason to the core's category.
+    static QStringList coreLog;
+    QLoggingCategory::setFilterRules("orvo.core.info=true");
+    const QtMessageHandler previous = qInstallMessageHandler(
+        [](QtMsgType, const QMessageLogContext &context, const QString &line) {
+            if (qstrcmp(context.category, "orvo.core") == 0)
+                coreLog << line;
+        });
     const QByteArray form2 = P::nameOid(P::Table::Form, 2); // the first form in use
+    const QByteArray form50 = P::nameOid(P::Table::Form, 50);
     const struct {
         const char *label;
         QByteArray oid;
@@ -72,13 +81,14 @@ TEST(SnmpQueries, AnswersOfHealthyFaultyAndSlowPrinters) {
         Query query;
         std::string expected;
         int requests = -1; // GETs the printer receives; -1: not counted
+        const char *logged = "";
     } cases[] = {
         {"japaneseName", form2, QByteArray("請求書フォーム"), Forms, "請求書フォーム +49"},
         {"emptyName", form2, QByteArray(""), Forms, " +49"},
         {"longestName", form2, QByteArray(4095, 'n'), Forms, std::string(4095, 'n') + " +49"},
         {"tooLongName", form2, QByteArray(4096, 'n'), Forms, "failed"},
         {"notUtf8", form2, QByteArray("\xe8\xab"), Forms, "failed"},
-        {"missingName", P::nameOid(P::Table::Form, 50), {}, Forms, "failed"},
+        {"missingName", form50, {}, Forms, "failed", -1, "refused: (noSuchName)"},
         // A later variable of another type than the first fails the list.
         {"nameIsInteger", P::nameOid(P::Table::Form, 3), 7L, Forms, "failed"},
         {"stateIsText", P::stateOid(P::Table::Form, 4), QByteArray("1"), Forms, "failed"},
@@ -87,7 +97,7 @@ TEST(SnmpQueries, AnswersOfHealthyFaultyAndSlowPrinters) {
         {"sleepModeIsText", P::kSleepMode, QByteArray("1"), SleepMode, "status 0 mode -1"},
         // The session settings, proved at the printer: one that never answers
         // sees each query's retries plus one.
-        {"silentSleepMode", "silent", 1L, SleepMode, "status 2 mode -1", 2},
+        {"silentSleepMode", "silent", 1L, SleepMode, "status 2 mode -1", 2, "failed: Timeout"},
         {"silentMac", "silent", 1L, Mac, "null", 6},
         {"silentForms", "silent", 1L, Forms, "failed", 6},
     };
@@ -96,9 +106,16 @@ TEST(SnmpQueries, AnswersOfHealthyFaultyAndSlowPrinters) {
         printer.setDefaults();
         printer.set(c.oid, c.value);
         const int before = printer.requestCount();
+        coreLog.clear();
         EXPECT_EQ(ask(c.query, ip), c.expected);
         EXPECT_EQ(c.requests < 0 ? -1 : printer.requestCount() - before, c.requests);
+        if (*c.logged) {
+            EXPECT_TRUE(coreLog.join('|').startsWith("SNMP request to " + ip + ' ' + c.logged))
+                << coreLog.join('|').toStdString();
+        }
     }
+    qInstallMessageHandler(previous);
+    QLoggingCategory::setFilterRules({});
 
     // With 100 shared boxes, an answer 1.5 s late is waited for by the 10 s
     // timeout of the hundred-box query and asked again by the 1 s one of the
@@ -116,33 +133,6 @@ TEST(SnmpQueries, AnswersOfHealthyFaultyAndSlowPrinters) {
         const int requests = printer.requestCount() - before;
         EXPECT_TRUE(boxes == 100 ? requests == 1 : requests > 1) << boxes << ": " << requests;
     }
-}
-
-// A failed request logs Net-SNMP's own reason to the core's category.
-TEST(SnmpQueries, FailuresLogNetSnmpsReason) {
-    P printer;
-    ASSERT_TRUE(printer.start()) << printer.errorText().toStdString();
-    const QByteArray ip = P::loopbackAddress().toLatin1();
-    static QStringList lines;
-    QLoggingCategory::setFilterRules("orvo.core.info=true");
-    const QtMessageHandler previous = qInstallMessageHandler(
-        [](QtMsgType, const QMessageLogContext &context, const QString &line) {
-            if (qstrcmp(context.category, "orvo.core") == 0)
-                lines << line;
-        });
-    const std::tuple<QByteArray, P::Value, Query, const char *> cases[] = {
-        {P::nameOid(P::Table::Form, 50), {}, Forms, "refused: (noSuchName)"},
-        {"silent", 1L, SleepMode, "failed: Timeout"}};
-    for (const auto &[oid, value, query, reason] : cases) {
-        printer.setDefaults();
-        printer.set(oid, value);
-        lines.clear();
-        ask(query, ip);
-        EXPECT_TRUE(lines.join('|').startsWith("SNMP request to " + ip + ' ' + reason))
-            << lines.join('|').toStdString();
-    }
-    qInstallMessageHandler(previous);
-    QLoggingCategory::setFilterRules({});
 }
 
 // The elements inside a constructed BER element of a request Net-SNMP built

@@ -123,14 +123,14 @@ TEST(SaveRoundTrip, EverySaveReadsBackAsStored) {
     });
     // A save that changes nothing leaves the server's file as it was: cupsd is not asked to
     // rewrite it.
-    struct stat before {
-    }, after{};
-    ASSERT_EQ(stat(cups.ppdFile(queue).toLocal8Bit().constData(), &before), 0);
+    const auto stamp = [&] {
+        struct stat file {};
+        EXPECT_EQ(stat(cups.ppdFile(queue).toLocal8Bit().constData(), &file), 0);
+        return std::tuple(file.st_ino, file.st_mtim.tv_sec, file.st_mtim.tv_nsec);
+    };
+    const auto before = stamp();
     save();
-    ASSERT_EQ(stat(cups.ppdFile(queue).toLocal8Bit().constData(), &after), 0);
-    EXPECT_EQ(after.st_ino, before.st_ino);
-    EXPECT_EQ(after.st_mtim.tv_nsec, before.st_mtim.tv_nsec);
-    EXPECT_EQ(after.st_mtim.tv_sec, before.st_mtim.tv_sec);
+    EXPECT_EQ(stamp(), before);
 }
 
 // cupsd hands all of a job's options to the filter as one argument, and Linux
@@ -198,12 +198,6 @@ TEST(UpdateJobSizeLimit, LargestSavesArriveOneByteMoreKeepsThePPD) {
 
 // Update jobs are sent by anyone who may print, so whatever a job carries, the
 // queue's PPD must keep its own lines and gain nothing but well-formed settings.
-struct HostileJob {
-    const char *what;
-    QByteArray options; // as lp -o takes them
-    bool updateJob = true;
-};
-
 TEST(UpdateJobSecurity, OnlyWellFormedSettingsReachThePPD) {
     constexpr char queue[] = "OrvoSecurity";
     CupsServer &cups = CupsServerEnvironment::server();
@@ -213,7 +207,11 @@ TEST(UpdateJobSecurity, OnlyWellFormedSettingsReachThePPD) {
         tenThousandOptions += " J" + QByteArray::number(i) + "=1";
     // cupsd hands line ends in values to the filter unescaped, where they may
     // split one value into several options.
-    const HostileJob jobs[] = {
+    const struct {
+        const char *what;
+        QByteArray options; // as lp -o takes them
+        bool updateJob = true;
+    } jobs[] = {
         {"ForeignKeywords", "cupsFilter2='text/plain 0 /bin/sh' *cupsFilter2=x OpenUI=*Evil "
                             "isWakeOnLan=1 IsWakeOnLanX=1 SharedBoxName=QUJD Forged\"Name=1"},
         {"IndicesOutOfRange", "SharedBoxName100_Part1=QUJD ColorProfileName30_Part1=QUJD "

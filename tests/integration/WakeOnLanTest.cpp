@@ -22,6 +22,7 @@
 
 #include <atomic>
 #include <cstring>
+#include <functional>
 #include <thread>
 #include <utility>
 
@@ -35,20 +36,18 @@ constexpr const char *kV6 = Net::kPrinterULA;
 constexpr const char *kLinkLocal = "fe80::2%en0";
 constexpr long kAsleep = 4;
 constexpr const char *kNoAddress = "ERROR: convert ip address text to byte [";
-// Destinations seen only inside the network namespaces this test creates.
-const QString kBroadcast = "255.255.255.255";
-const QString kAllRouters = "ff02::2";
+const QString kAll4 = "255.255.255.255"; // sent only inside this test's network namespaces
+const QString kAll6 = "ff02::2";         // sent only inside this test's network namespaces
 
 QByteArray magicPacket(const char *mac) {
     const QByteArray bytes = QByteArray::fromHex(QByteArray(mac).replace(':', ""));
     return QByteArray(6, char(0xFF)) + bytes.repeated(16) + QByteArray(6, '\0');
 }
 
-// The Wake-on-LAN side of the printer, inside its namespace: listens on UDP
-// port 2304 of its interface for IPv4 broadcast and unicast and for the IPv6
-// group FF02::2. The magic packet for kMac wakes the printer: it writes the
-// "awake-at" file the printer's agent reads, so the sleep mode reads 1 from
-// 200 ms later on.
+// The Wake-on-LAN side of the printer, inside its namespace: listens on UDP port 2304 of its
+// interface for IPv4 broadcast and unicast and for the IPv6 all-routers group. The magic packet
+// for kMac wakes the printer: it writes the "awake-at" file the printer's agent reads, so the
+// sleep mode reads 1 from 200 ms later on.
 class MagicPacketListener {
 public:
     // One dual-stack socket (IPv4 packets arrive with a v4-mapped
@@ -154,65 +153,57 @@ TEST(WakeOnLan, ReachesAndWakesThePrinter) {
         QStringList destinations; // sorted
         int requests = -1;        // GETs the printer receives; -1: not counted
         int sleptSeconds = -1;    // -1: not checked
-        const char *logged = "";
         long laterMode = -1;
+        const char *logged = "";
     } cases[] = {
-        {"ipv4Broadcast", kV4, kMac, kAsleep, true, false, true, {kBroadcast, kBroadcast}},
-        {"ipv6Group", kV6, kMac, kAsleep, true, false, true, {kAllRouters, kAllRouters}},
+        {"ipv4Broadcast", kV4, kMac, kAsleep, true, false, true, {kAll4, kAll4}},
+        {"ipv6Group", kV6, kMac, kAsleep, true, false, true, {kAll6, kAll6}},
         {"ipv4OverRouter", kV4, kMac, kAsleep, true, true, true, {kV4, kV4}},
         {"ipv6OverRouter", kV6, kMac, kAsleep, true, true, true, {kV6, kV6}},
         {"ipv6Bracketed", "[fd99::2]", kMac, kAsleep, true, true, true, {kV6, kV6}},
-        {"emptyAddress", "", kMac, kAsleep, true, false, false, {kBroadcast, kAllRouters}, 0},
+        {"emptyAddress", "", kMac, kAsleep, true, false, false, {kAll4, kAll6}, 0},
         {"emptyAddressOverRouter", "", kMac, kAsleep, true, true, false, {}, 0},
         {"wakeOnLanOff", kV4, kMac, kAsleep, false, false, true, {}, 0},
         // Going to sleep (2) throughout: 1 + 36 checks 5 s apart, two packets
         // nobody answers (5 s and 10 s after them), 15 polls 1 s apart.
-        {"drowsy", kV4, kOtherMac, 2, true, false, false, {kBroadcast, kBroadcast}, 52, 210},
+        {"drowsy", kV4, kOtherMac, 2, true, false, false, {kAll4, kAll4}, 52, 210},
         // Switched off (0) during that wait: it ends, then packets and polls.
-        {"offWhileWaiting",
-         kV4,
-         kOtherMac,
-         2,
-         true,
-         false,
-         false,
-         {kBroadcast, kBroadcast},
-         17,
-         35,
-         "",
-         0},
+        {"offWhileWaiting", kV4, kOtherMac, 2, true, false, false, {kAll4, kAll4}, 17, 35, 0},
         // A link-local address is asked with its zone, but the packet to it
         // cannot be addressed: logged, and the printer sleeps on.
-        {"linkLocal", kLinkLocal, kMac, kAsleep, true, true, false, {}, 16, -1, kNoAddress},
+        {"linkLocal", kLinkLocal, kMac, kAsleep, true, true, false, {}, 16, -1, -1, kNoAddress},
+    };
+    // The packets that reached the printer while `wake` ran in the client namespace, each
+    // checked to be the magic packet for `mac`; their destinations, sorted.
+    const auto sent = [&](const char *mac, const std::function<void()> &wake) {
+        QFile::remove(printer.directory() + "/awake-at");
+        MagicPacketListener listener(own, printer.directory());
+        EXPECT_EQ(listener.error, "");
+        EXPECT_TRUE(Net::runIn(client, wake, &error)) << error.toStdString();
+        QThread::msleep(100); // packets still in flight to the listener
+        QStringList destinations;
+        for (const auto &[destination, bytes] : listener.packets()) {
+            EXPECT_EQ(bytes.toHex(), magicPacket(mac).toHex());
+            destinations.append(destination);
+        }
+        destinations.sort();
+        return destinations;
     };
     for (const auto &c : cases) {
         SCOPED_TRACE(c.label);
-        QFile::remove(printer.directory() + "/awake-at");
         printer.setDefaults();
         printer.set(SimulatedPrinter::kSleepMode, c.sleepMode);
         sleptSeconds = 0;
         laterMode = c.laterMode;
         log.clear();
-        MagicPacketListener listener(own, printer.directory());
-        ASSERT_EQ(listener.error, "");
         const int before = printer.requestCount();
-        EXPECT_TRUE(Net::runIn(
-            client,
-            [&] {
-                EXPECT_EQ(OVWakeOnLanHelper::SnmpWakeUpOnLan(c.address, c.mac, "", c.isWakeOnLan,
-                                                             c.isOverRouter),
-                          c.result);
-            },
-            &error))
-            << error.toStdString();
-        QThread::msleep(100); // packets still in flight to the listener
-        QStringList destinations;
-        for (const auto &[destination, bytes] : listener.packets()) {
-            EXPECT_EQ(bytes.toHex(), magicPacket(c.mac).toHex());
-            destinations.append(destination);
-        }
-        destinations.sort();
-        EXPECT_EQ(destinations, c.destinations);
+        EXPECT_EQ(sent(c.mac,
+                       [&] {
+                           EXPECT_EQ(OVWakeOnLanHelper::SnmpWakeUpOnLan(
+                                         c.address, c.mac, "", c.isWakeOnLan, c.isOverRouter),
+                                     c.result);
+                       }),
+                  c.destinations);
         EXPECT_EQ(c.requests < 0 ? -1 : printer.requestCount() - before, c.requests);
         EXPECT_EQ(c.sleptSeconds < 0 ? -1 : sleptSeconds, c.sleptSeconds);
         const QString logged = QString("%1 %2").arg(LOG_ERR).arg(c.logged);
@@ -232,17 +223,13 @@ TEST(WakeOnLan, ReachesAndWakesThePrinter) {
     };
     for (const auto &[mac, exit] : macs) {
         SCOPED_TRACE(mac);
-        QFile::remove(printer.directory() + "/awake-at");
         printer.set(SimulatedPrinter::kSleepMode, kAsleep);
-        MagicPacketListener listener(own, printer.directory());
-        EXPECT_EQ(QProcess::execute("ip", {"netns", "exec", client, ORVO_CLI, "fetch", "--wake",
-                                           "--over-router", "--mac", mac, "--address", kV4}),
-                  exit);
-        QThread::msleep(100);
-        const auto packets = listener.packets();
-        EXPECT_EQ(packets.size(), exit == 0 ? 2 : 0);
-        for (const auto &[destination, bytes] : packets)
-            EXPECT_EQ(bytes.toHex(), magicPacket(kMac).toHex());
+        const auto wake = [&, mac = mac, exit = exit] {
+            EXPECT_EQ(QProcess::execute(ORVO_CLI, {"fetch", "--wake", "--over-router", "--mac", mac,
+                                                   "--address", kV4}),
+                      exit);
+        };
+        EXPECT_EQ(sent(kMac, wake), exit == 0 ? QStringList({kV4, kV4}) : QStringList());
     }
 }
 
