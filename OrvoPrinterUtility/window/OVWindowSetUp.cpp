@@ -54,14 +54,12 @@ void setUpAccessibleNames(Ui::MainUtilityWindiw &c) {
     c.colorProfileTable->setAccessibleName(spokenLabel(colorProfileTab));
 }
 
-// The controls above the tabs, then the tab bar (the tab widget hands its
-// focus to it).
+// The settings above the tabs.
 QList<QWidget *> settingsChain(Ui::MainUtilityWindiw &c) {
     return {c.snmpCommunityCheck, c.snmpCommunityText,    c.wakeOnLANCheck,
             c.macAddressText1,    c.macAddressText2,      c.macAddressText3,
             c.macAddressText4,    c.macAddressText5,      c.macAddressText6,
-            c.overstepTheRouter,  c.printerIPAddressText, c.printerGetPrinterInfoButton,
-            c.meinTabView};
+            c.overstepTheRouter,  c.printerIPAddressText, c.printerGetPrinterInfoButton};
 }
 
 // Tab visits the controls of the page on show after the tab bar, in reading
@@ -169,7 +167,8 @@ void OVWindowSetUp::setTabOrder(Ui::MainUtilityWindiw &c, const QList<QWidget *>
         QGuiApplication::styleHints()->tabFocusBehavior() == Qt::TabFocusAllControls;
     QList<QWidget *> chain;
     if (allControls)
-        chain = settingsChain(c) + aboveTabs + tabPageChain(c) +
+        // The tab widget hands its focus to its tab bar.
+        chain = settingsChain(c) + aboveTabs + QList<QWidget *>{c.meinTabView} + tabPageChain(c) +
                 QList<QWidget *>{c.closeButton, c.okButton};
     else
         chain = {c.snmpCommunityText, c.macAddressText1, c.macAddressText2, c.macAddressText3,
