@@ -1,10 +1,10 @@
 // The utility as a desktop user meets it, against private cupsd servers, also
 // through a proxy that makes the server slow: the queue chooser, the window on a
 // queue that is not set up or whose saves fail, and the password prompt.
+#include "AlertRecorder.h"
 #include "CupsServerEnvironment.h"
 #include "DelayingProxy.h"
 #include "EventLoopStallMeter.h"
-#include "OVAlert.h"
 #include "OVBackgroundTask.h"
 #include "OVChooserTexts.h"
 #include "OVMessageBar.h"
@@ -251,17 +251,7 @@ class WindowOnServerTest : public QueueChooserTest {
 protected:
     using Controller = OVPrinterUtilityWindowController;
 
-    void SetUp() override {
-        QueueChooserTest::SetUp();
-        OVAlert::setResponder([this](const OVAlert &alert) {
-            m_alerts << alert.text();
-            return 0;
-        });
-    }
-    void TearDown() override {
-        m_window.reset();
-        OVAlert::setResponder({});
-    }
+    void TearDown() override { m_window.reset(); }
 
     // Shows the window at once; waitForSettings waits for them to arrive.
     void show(const QString &queue) {
@@ -288,8 +278,8 @@ protected:
         return QTest::qWaitFor([&] { return bar->isHidden(); }, 60000);
     }
 
+    AlertRecorder m_alerts;
     std::unique_ptr<Controller> m_window;
-    QStringList m_alerts;
 };
 
 // The bar says the queue is not set up; OK refuses without sending anything until

@@ -1,6 +1,6 @@
 // The main window driven by clicks and typing, against a private cupsd and printer.
+#include "AlertRecorder.h"
 #include "CupsServerEnvironment.h"
-#include "OVAlert.h"
 #include "OVPreferredLanguages.h"
 #include "OVPrinterUtilityWindowController.h"
 #include "OVTableViewDataSource.h"
@@ -47,14 +47,9 @@ protected:
         ASSERT_TRUE(CupsServerEnvironment::server().addQueue("Fresh"));
         ASSERT_TRUE(m_printer.start()) << m_printer.errorText().toStdString();
         m_printer.setDefaults();
-        OVAlert::setResponder([this](const OVAlert &alert) {
-            m_alerts << alert.text();
-            return 0;
-        });
     }
     void TearDown() override {
         m_window.reset();
-        OVAlert::setResponder({});
         OVPreferredLanguages::setOverride(std::nullopt);
     }
 
@@ -91,7 +86,7 @@ protected:
     }
 
     P m_printer{alsoOnIPv6()};
-    QStringList m_alerts;
+    AlertRecorder m_alerts;
     std::unique_ptr<Controller> m_window;
     Ui::MainUtilityWindiw *m_c = nullptr;
 };
