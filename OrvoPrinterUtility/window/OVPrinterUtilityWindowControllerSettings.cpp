@@ -5,7 +5,6 @@
 #include "OVControlsLock.h"
 #include "OVPrinterUtilityHelper.h"
 #include "OVPrinterUtilityWindowController.h"
-#include "OVSaveSizeCheck.h"
 #include "OVSettingsSnapshot.h"
 #include "OVTableViewDataSource.h"
 #include "OVWindowLog.h"
@@ -123,15 +122,6 @@ void OVPrinterUtilityWindowController::okButtonClicked(QObject *) {
     }
     updateStringArrays();
     m_isPpdOptionsUpdated = true;
-    // cupsd hands all job options to the filter in one argument, which the
-    // kernel limits to 128 KiB: a save that could not reach the driver keeps
-    // the window open and says which lists to shorten, instead of closing
-    // with the settings lost.
-    const QStringList tooLong = OVSaveSizeCheck::listsToShorten(settingsSnapshot());
-    if (!tooLong.isEmpty()) {
-        showTooLongMessage(tooLong);
-        return;
-    }
     saveOptionsToPPD();
 }
 
@@ -142,6 +132,13 @@ void OVPrinterUtilityWindowController::saved(const OVWindowSave::Outcome &outcom
     unlockSettings();
     if (outcome.stored()) {
         closeButtonClicked(m_ui->closeButton);
+        return;
+    }
+    // cupsd hands all job options to the filter in one argument, which the
+    // kernel limits to 128 KiB: a save that could not reach the driver says
+    // which lists to shorten, instead of closing with the settings lost.
+    if (!outcome.listsToShorten.isEmpty()) {
+        showTooLongMessage(outcome.listsToShorten);
         return;
     }
     if (!outcome.queueSetUp || outcome.save.result == OVSettingsSave::Result::Damaged)

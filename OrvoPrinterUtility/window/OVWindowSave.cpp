@@ -3,6 +3,7 @@
 #include "OVBackgroundTask.h"
 #include "OVChooserTexts.h"
 #include "OVQueueSetup.h"
+#include "OVSaveSizeCheck.h"
 #include "OVWindowLog.h"
 #include "OVWindowTexts.h"
 
@@ -15,6 +16,11 @@ void OVWindowSave::save(QObject *context, const OVSettingsSnapshot &settings,
         context,
         [settings, printerID] {
             Outcome outcome;
+            // Long lists take the size check a while to measure: it runs here
+            // too, so that OK never holds up the window.
+            outcome.listsToShorten = OVSaveSizeCheck::listsToShorten(settings);
+            if (!outcome.listsToShorten.isEmpty())
+                return outcome;
             // On a queue that is not set up the update job would be printed,
             // and the settings lost.
             outcome.queueSetUp = OVQueueSetup::state(printerID) != OVQueueSetup::State::NotSetUp;

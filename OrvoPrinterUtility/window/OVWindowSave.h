@@ -9,18 +9,25 @@
 
 class QObject;
 
-// OK's way to the print server, off the GUI thread: the queue's set-up check,
-// then the update job, waited for, and the queue's PPD read back. The window
+// OK's way to the print server, off the GUI thread: the size check, the
+// queue's set-up check, then the update job, waited for, and the queue's PPD
+// read back. The window
 // closes only on a save that stored every setting; anything else is said in
 // words the user can act on.
 class OVWindowSave {
 public:
     struct Outcome {
+        // Not empty: the job would not reach the driver unless these lists
+        // (OVSaveSizeCheck) are shortened, and nothing was sent.
+        QStringList listsToShorten;
         // False: the queue is not set up, and nothing was sent.
         bool queueSetUp = true;
         OVSettingsSave::Outcome save;
 
-        bool stored() const { return queueSetUp && save.result == OVSettingsSave::Result::Stored; }
+        bool stored() const {
+            return listsToShorten.isEmpty() && queueSetUp &&
+                   save.result == OVSettingsSave::Result::Stored;
+        }
     };
 
     // done runs on context's thread, and not at all once context is gone.

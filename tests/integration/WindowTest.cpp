@@ -123,6 +123,7 @@ TEST_F(WindowTest, DefaultsChooseFetchSaveAndReopen) {
     m_window->formTableViewDataSource()->setElementsArray(QStringList(100, QString(900, 'a')));
     QSignalSpy terminated(m_window.get(), &Controller::applicationShouldTerminate);
     click(m_c->okButton);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !m_alerts.isEmpty(); }, 30000));
     EXPECT_EQ(m_alerts.size(), 1);
     m_window->formTableViewDataSource()->setElementsArray(fetchedForms);
     click(m_c->okButton);
@@ -183,6 +184,7 @@ TEST_F(WindowTest, ClearButtons) {
     click(m_c->folderPersonalFolderCheck);
     m_window->formTableViewDataSource()->setElementsArray(QStringList(100, QString(900, 'a')));
     click(m_c->okButton); // too long to save: the window stays with its settings marked saved
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !m_alerts.isEmpty(); }, 30000));
     ASSERT_TRUE(m_window->isPPDOptionsUpdated());
     const auto counts = [this] {
         return QList<quint64>{m_window->formTableViewDataSource()->count(),
