@@ -150,7 +150,8 @@ private:
     void messageBarActionTriggered();
     void setUpQueue();
     void setUpEnded(const OVQueueSetup::Result &result);
-    void alert(const QString &text);
+    // An alert with the one button OK; detail is its informative text.
+    void alert(const QString &text, const QString &detail = QString());
     void applySettings(const OVSettingsSnapshot &settings);
     void applyFolderSettings(const OVSettingsSnapshot &settings);
     void applyListSettings(const OVSettingsSnapshot &settings);

@@ -1,6 +1,5 @@
 // The controller's part in Get Printer Info: it hands the fields to
 // OVPrinterInfoFetch off the GUI thread and shows what came back.
-#include "OVAlert.h"
 #include "OVBackgroundTask.h"
 #include "OVPrinterUtilityWindowController.h"
 #include "OVSleep.h"
@@ -23,9 +22,7 @@ void OVPrinterUtilityWindowController::showProgress(bool show) {
 
 void OVPrinterUtilityWindowController::showFailedMessage() {
     const QString text = localized(OVWindowTexts::failedToObtain);
-    auto alert = OVAlert::alertWithMessageText(text, localized(OVWindowTexts::ok), QString(),
-                                               QString(), OVAlert::plainMessageFormat, {text});
-    alert->runModal();
+    alert(text, text);
 }
 
 // The wake flow checks the community as typed (an empty one means the

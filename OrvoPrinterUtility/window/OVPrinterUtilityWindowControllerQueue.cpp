@@ -52,8 +52,9 @@ void OVPrinterUtilityWindowController::setUpEnded(const OVQueueSetup::Result &re
     alert(OVWindowQueue::setUpFailureText(result, m_printerId, m_server));
 }
 
-void OVPrinterUtilityWindowController::alert(const QString &text) {
+void OVPrinterUtilityWindowController::alert(const QString &text, const QString &detail) {
+    const QStringList arguments = detail.isNull() ? QStringList() : QStringList{detail};
     OVAlert::alertWithMessageText(text, localized(OVWindowTexts::ok), QString(), QString(),
-                                  OVAlert::plainMessageFormat, {})
+                                  OVAlert::plainMessageFormat, arguments)
         ->runModal();
 }

@@ -1,6 +1,5 @@
 // The controller's part in the queue's settings: they load in the background
 // while the window shows, fill the controls, and OK saves them.
-#include "OVAlert.h"
 #include "OVBackgroundTask.h"
 #include "OVControlsLock.h"
 #include "OVPrinterUtilityHelper.h"
@@ -150,10 +149,7 @@ void OVPrinterUtilityWindowController::showTooLongMessage(const QStringList &lis
     QStringList names;
     for (const QString &key : listKeys)
         names << "\u2022 " + OVPrinterUtilityHelper::getLocalizedStringFor(key);
-    const QString text = localized(settingsTooLong);
-    auto alert = OVAlert::alertWithMessageText(text, localized(ok), QString(), QString(),
-                                               OVAlert::plainMessageFormat, {names.join('\n')});
-    alert->runModal();
+    alert(localized(settingsTooLong), names.join('\n'));
 }
 
 void OVPrinterUtilityWindowController::closeButtonClicked(QObject *) {
