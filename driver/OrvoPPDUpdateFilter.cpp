@@ -76,6 +76,13 @@ bool OrvoPPDUpdateFilter::looksLikeJobAttribute(const char *name) {
 void OrvoPPDUpdateFilter::store(int count, cups_option_t *options, OrvoFilterLog &log,
                                 std::FILE *out) {
     const OrvoStoredSettings current(std::getenv("PPD"));
+    if (!current.takesUpdates()) {
+        // Ends the job as done: a failing filter would stop the queue for everyone.
+        log.write(OrvoFilterLog::Level::Warning,
+                  "The queue is not set up for settings updates, nothing stored; an administrator "
+                  "sets it up with: orvo-printer-utility-cli setup QUEUE");
+        return;
+    }
     OrvoPPDMessageWriter writer(out);
     std::size_t stored = 0;
     for (int i = 0; i < count; ++i) {

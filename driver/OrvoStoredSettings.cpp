@@ -1,5 +1,6 @@
 #include "OrvoStoredSettings.h"
 
+#include "OrvoSettingsKeywords.h"
 #include "OrvoSettingsOption.h"
 
 #include <fstream>
@@ -24,9 +25,12 @@ OrvoStoredSettings::OrvoStoredSettings(const char *ppdPath) {
     while (std::getline(ppd, line)) {
         if (!line.empty() && line.back() == '\r')
             line.pop_back();
-        if (splitAttribute(line, keyword, value) &&
-            OrvoSettingsOption::check(keyword, value).verdict == OrvoSettingsOption::Verdict::Store)
+        if (!splitAttribute(line, keyword, value))
+            continue;
+        if (OrvoSettingsOption::check(keyword, value).verdict == OrvoSettingsOption::Verdict::Store)
             m_values.try_emplace(keyword, value);
+        m_takesUpdates = m_takesUpdates || (keyword == OrvoSettingsKeywords::setUpKeyword &&
+                                            value == OrvoSettingsKeywords::setUpValue);
     }
 }
 

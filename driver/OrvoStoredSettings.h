@@ -16,8 +16,12 @@ public:
 
     // Whether storing the value would leave the PPD reading the same.
     bool unchangedBy(std::string_view name, std::string_view value) const;
+    // Whether the queue was set up for the utility: its PPD carries the set-up
+    // line. The server routes update jobs to the filter on every queue.
+    bool takesUpdates() const { return m_takesUpdates; }
 
 private:
+    bool m_takesUpdates = false;
     // The first line of a keyword is the one libcups reads.
     std::unordered_map<std::string, std::string> m_values;
 };

@@ -16,8 +16,8 @@ namespace {
 
 using Exit = OVCommandLine::Exit;
 using Outcome = OVQueueSetup::Outcome;
-const QCommandLineOption removeOption("remove",
-                                      "Take the route out again; saved settings stay in the PPD.");
+const QCommandLineOption
+    removeOption("remove", "Take the set-up line out again; saved settings stay in the PPD.");
 // libcups asks again after a wrong password; three tries, as login programs allow.
 constexpr int passwordTries = 3;
 
@@ -52,7 +52,7 @@ int failure(const OVQueueSetup::Result &result, const QString &queue) {
     case Outcome::ServerLacksRoute:
         return OVCommandLine::fail(
             Exit::Failed, "the server cannot route the utility's saves: install the Orvo Printer "
-                          "Utility (its filter and MIME type file) on the print server" +
+                          "Utility (its filter and MIME files) on the print server" +
                               unchanged);
     default:
         return OVCommandLine::fail(Exit::Failed, "setting up failed: " + result.detail);

@@ -5,7 +5,6 @@
 #include "OrvoPPD_Interface.h"
 #include "OrvoSettingsKeywords.h"
 
-#include <QCoreApplication>
 #include <QFile>
 
 #include <cups/cups.h>
@@ -18,7 +17,6 @@ namespace K = OrvoSettingsKeywords;
 namespace {
 
 constexpr char formatsAttribute[] = "document-format-supported";
-constexpr char scratchDevice[] = "file:/dev/null";
 
 QByteArray printerUri(const QString &queue) {
     char uri[HTTP_MAX_URI];
@@ -77,18 +75,27 @@ bool OVQueueSetup::routeLost(const QString &queue) {
 }
 
 OVQueueSetup::State OVQueueSetup::state(http_t *http, const QString &queue) {
+    const State route = routeState(http, queue);
+    if (route != State::SetUp)
+        return route;
+    return OVSettingsRoute::isIn(queuePpd(http, queue)) ? State::SetUp : State::NotSetUp;
+}
+
+// SetUp here: the server routes the update job's format for the queue, which
+// it does for every queue once it has the format's files and the filter.
+OVQueueSetup::State OVQueueSetup::routeState(http_t *http, const QString &queue) {
     ipp_t *request = printerRequest(IPP_OP_GET_PRINTER_ATTRIBUTES, queue);
     ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", nullptr,
                  formatsAttribute);
     ipp_t *response = cupsDoRequest(http, request, "/");
     const ipp_status_t status = cupsLastError();
-    const bool setUp = acceptsUpdates(response);
+    const bool routed = acceptsUpdates(response);
     ippDelete(response);
     if (status == IPP_STATUS_ERROR_NOT_FOUND)
         return State::QueueUnknown;
     if (status > IPP_STATUS_OK_EVENTS_COMPLETE)
         return State::ServerUnreachable;
-    return setUp ? State::SetUp : State::NotSetUp;
+    return routed ? State::SetUp : State::NotSetUp;
 }
 
 std::optional<QList<OVQueueSetup::Queue>> OVQueueSetup::queues() {
@@ -121,6 +128,10 @@ std::optional<QList<OVQueueSetup::Queue>> OVQueueSetup::queues() {
             break;
     }
     ippDelete(response);
+    // Listing the format says only that the server routes it; the PPD says
+    // whether the queue takes it.
+    for (Queue &each : found)
+        each.setUp = each.setUp && OVSettingsRoute::isIn(queuePpd(connection.http(), each.name));
     std::sort(found.begin(), found.end(),
               [](const Queue &a, const Queue &b) { return a.name < b.name; });
     return found;
@@ -131,40 +142,39 @@ std::optional<QList<OVQueueSetup::Queue>> OVQueueSetup::queues() {
 OVQueueSetup::Result OVQueueSetup::changeQueue(const QString &queue, const Change &change) {
     const OVCupsConnection connection;
     http_t *http = connection.http();
-    const State before = http ? state(http, queue) : State::ServerUnreachable;
-    if (before == State::ServerUnreachable || before == State::QueueUnknown)
-        return {before == State::QueueUnknown ? Outcome::QueueUnknown : Outcome::ServerUnreachable,
+    const State route = http ? routeState(http, queue) : State::ServerUnreachable;
+    if (route == State::ServerUnreachable || route == State::QueueUnknown)
+        return {route == State::QueueUnknown ? Outcome::QueueUnknown : Outcome::ServerUnreachable,
                 {}};
     const QByteArray ppd = queuePpd(http, queue);
     if (ppd.isEmpty())
         return {Outcome::NoPPD, {}};
-    return change(http, before, ppd);
+    return change(http, route == State::SetUp, ppd);
 }
 
+// A server without the format's files or the filter is refused before the
+// queue is touched: a queue set up there would still not take a save.
 OVQueueSetup::Result OVQueueSetup::setUp(const QString &queue) {
-    return changeQueue(queue, [&](http_t *http, State before, const QByteArray &ppd) -> Result {
-        const QByteArray routed = OVSettingsRoute::added(ppd);
-        if (before == State::SetUp && routed == ppd)
+    return changeQueue(queue, [&](http_t *http, bool routed, const QByteArray &ppd) -> Result {
+        if (!routed)
+            return {Outcome::ServerLacksRoute, {}};
+        const QByteArray withSetUp = OVSettingsRoute::added(ppd);
+        if (withSetUp == ppd)
             return {Outcome::Unchanged, {}};
-        if (before != State::SetUp) {
-            if (const Result checked = checkServerRoutes(http, routed);
-                checked.outcome != Outcome::Changed)
-                return checked;
-        }
-        const Result installed = install(http, queue, routed, false);
+        const Result installed = install(http, queue, withSetUp);
         if (installed.outcome == Outcome::Changed && state(http, queue) != State::SetUp) {
-            install(http, queue, ppd, false);
+            install(http, queue, ppd);
             return {Outcome::Failed,
-                    QStringLiteral("the queue did not take the route; its PPD was put back")};
+                    QStringLiteral("the queue did not keep its set-up line; its PPD was put back")};
         }
         return installed;
     });
 }
 
 OVQueueSetup::Result OVQueueSetup::remove(const QString &queue) {
-    return changeQueue(queue, [&](http_t *http, State, const QByteArray &ppd) {
+    return changeQueue(queue, [&](http_t *http, bool, const QByteArray &ppd) {
         const QByteArray plain = OVSettingsRoute::removed(ppd);
-        return plain == ppd ? Result{Outcome::Unchanged, {}} : install(http, queue, plain, false);
+        return plain == ppd ? Result{Outcome::Unchanged, {}} : install(http, queue, plain);
     });
 }
 
@@ -178,22 +188,8 @@ QByteArray OVQueueSetup::queuePpd(http_t *http, const QString &queue) {
     return text;
 }
 
-// A scratch queue, stopped and refusing jobs, takes the new PPD first: the
-// server lists the format for it only when it has both the format's type file
-// and the filter. The user's queue is not touched before that is known.
-OVQueueSetup::Result OVQueueSetup::checkServerRoutes(http_t *http, const QByteArray &ppd) {
-    const QString scratch =
-        QStringLiteral("orvo-setup-check-%1").arg(QCoreApplication::applicationPid());
-    const Result created = install(http, scratch, ppd, true);
-    if (created.outcome != Outcome::Changed)
-        return created;
-    const bool routes = state(http, scratch) == State::SetUp;
-    deleteQueue(http, scratch);
-    return routes ? created : Result{Outcome::ServerLacksRoute, {}};
-}
-
 OVQueueSetup::Result OVQueueSetup::install(http_t *http, const QString &queue,
-                                           const QByteArray &ppd, bool create) {
+                                           const QByteArray &ppd) {
     char fileName[1024];
     cups_file_t *file = cupsTempFile2(fileName, sizeof fileName);
     if (!file)
@@ -201,11 +197,6 @@ OVQueueSetup::Result OVQueueSetup::install(http_t *http, const QString &queue,
     cupsFileWrite(file, ppd.constData(), size_t(ppd.size()));
     cupsFileClose(file);
     ipp_t *request = printerRequest(IPP_OP_CUPS_ADD_MODIFY_PRINTER, queue);
-    if (create) {
-        ippAddString(request, IPP_TAG_PRINTER, IPP_TAG_URI, "device-uri", nullptr, scratchDevice);
-        ippAddBoolean(request, IPP_TAG_PRINTER, "printer-is-accepting-jobs", 0);
-        ippAddInteger(request, IPP_TAG_PRINTER, IPP_TAG_ENUM, "printer-state", IPP_PSTATE_STOPPED);
-    }
     ippDelete(cupsDoFileRequest(http, request, "/admin/", fileName));
     unlink(fileName);
     const ipp_status_t status = cupsLastError();
@@ -213,8 +204,4 @@ OVQueueSetup::Result OVQueueSetup::install(http_t *http, const QString &queue,
         return {Outcome::Changed, {}};
     const QString detail = QString::fromUtf8(cupsLastErrorString());
     return {refusedAsUnauthorized(status) ? Outcome::NotAuthorized : Outcome::Failed, detail};
-}
-
-void OVQueueSetup::deleteQueue(http_t *http, const QString &queue) {
-    ippDelete(cupsDoRequest(http, printerRequest(IPP_OP_CUPS_DELETE_PRINTER, queue), "/admin/"));
 }

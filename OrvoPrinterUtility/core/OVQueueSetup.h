@@ -11,8 +11,9 @@
 
 // Whether the server's queues are set up for the utility, and setting one up
 // or back. A queue is set up when the server accepts the update job's own
-// document format for it: only then does the update job reach the driver
-// filter instead of the printer. Works the same for a remote server.
+// document format for it (the server has the format's route to the driver
+// filter) and its PPD carries the set-up line (without which the filter
+// stores nothing). Works the same for a remote server.
 class OVQueueSetup {
 public:
     enum class State { SetUp, NotSetUp, QueueUnknown, ServerUnreachable };
@@ -31,7 +32,7 @@ public:
         QueueUnknown,
         NoPPD,            // a raw or driverless-without-PPD queue
         NotAuthorized,    // the server refused the administrator operation
-        ServerLacksRoute, // the server does not know the format or the filter
+        ServerLacksRoute, // the server does not know the format, its route or the filter
         Failed,
     };
     struct Result {
@@ -40,7 +41,7 @@ public:
     };
 
     static State state(const QString &queue);
-    // Whether the PPD as the server stores it lost the route: a PPD cut while
+    // Whether the PPD as the server stores it lost the set-up line: a PPD cut while
     // cupsd wrote it. Read from the file itself, since the queue's listed
     // formats follow a rewritten PPD only some time later. False when the
     // PPD cannot be fetched at all.
@@ -48,22 +49,20 @@ public:
     // Every queue of the server, sorted by name; nullopt when it cannot be asked.
     static std::optional<QList<Queue>> queues();
 
-    // Adds the route (and the settings' stored defaults) to the queue's PPD and
-    // installs it on the server as lpadmin -P does: device, options, state and
-    // every other PPD line stay. Before the queue changes, a stopped scratch
-    // queue shows whether the server can route the format at all.
+    // Adds the set-up line (and the settings' stored defaults) to the queue's
+    // PPD and installs it on the server as lpadmin -P does: device, options,
+    // state and every other PPD line stay.
     static Result setUp(const QString &queue);
-    // Takes the route out again; the saved settings stay in the PPD.
+    // Takes the set-up line out again; the saved settings stay in the PPD.
     static Result remove(const QString &queue);
 
 private:
     static State state(http_t *http, const QString &queue);
-    using Change = std::function<Result(http_t *http, State before, const QByteArray &ppd)>;
+    static State routeState(http_t *http, const QString &queue);
+    using Change = std::function<Result(http_t *http, bool routed, const QByteArray &ppd)>;
     // Runs a change on the queue's PPD as the server has it, unless the
     // server, the queue or its PPD is missing.
     static Result changeQueue(const QString &queue, const Change &change);
     static QByteArray queuePpd(http_t *http, const QString &queue);
-    static Result checkServerRoutes(http_t *http, const QByteArray &ppd);
-    static Result install(http_t *http, const QString &queue, const QByteArray &ppd, bool create);
-    static void deleteQueue(http_t *http, const QString &queue);
+    static Result install(http_t *http, const QString &queue, const QByteArray &ppd);
 };

@@ -12,14 +12,17 @@ namespace {
 
 using Lines = QList<QByteArray>; // each with its own line end
 
-constexpr char filterKeyword[] = "*cupsFilter:";
-constexpr char filter2Keyword[] = "*cupsFilter2:";
-// Marks the block that setting up adds, so that removing takes out exactly it.
-constexpr char marker[] = "*% Orvo Printer Utility: the settings update route; "
+// Says what the set-up line is for, to an administrator reading the PPD.
+constexpr char marker[] = "*% Orvo Printer Utility: this queue takes settings updates; "
                           "\"orvo-printer-utility-cli setup --remove QUEUE\" takes it out";
-// cupsd sends PostScript straight to the device only while a PPD names no
-// filter at all; once the route is there, this line keeps that path.
-constexpr char postScriptPath[] = "*cupsFilter: \"application/vnd.cups-postscript 0 -\"";
+// What setting up added before the update job had a route of its own on the
+// server: a comment, filter lines for the update job's format and, on a PPD
+// without filter lines, a PostScript pass-through line. Any filter line stops
+// cupsd's filters from counting the pages of a PostScript PPD, so setting up
+// again and removing take all of it out.
+constexpr char oldMarker[] = "*% Orvo Printer Utility: the settings update route; "
+                             "\"orvo-printer-utility-cli setup --remove QUEUE\" takes it out";
+constexpr char oldPostScriptPath[] = "*cupsFilter: \"application/vnd.cups-postscript 0 -\"";
 
 struct StoredDefault {
     const char *keyword;
@@ -66,22 +69,31 @@ QByteArray lineEnd(const Lines &lines) {
     return first.endsWith("\r\n") ? "\r\n" : first.endsWith('\r') ? "\r" : "\n";
 }
 
-bool isFilterLine(const QByteArray &line) {
-    return line.startsWith(filterKeyword) || line.startsWith(filter2Keyword);
+QByteArray setUpLine() {
+    return QByteArray("*") + K::setUpKeyword + ": \"" + K::setUpValue + "\"";
 }
 
-bool isRouteLine(const QByteArray &line) {
-    return isFilterLine(line) && line.contains(K::updateDocumentFormat);
+bool isOldRouteLine(const QByteArray &text) {
+    return (text.startsWith("*cupsFilter:") || text.startsWith("*cupsFilter2:")) &&
+           text.contains(K::updateDocumentFormat);
 }
 
-QByteArray routeLine(const Lines &lines) {
-    const bool filter2 = std::any_of(lines.begin(), lines.end(), [](const QByteArray &line) {
-        return line.startsWith(filter2Keyword);
-    });
-    const QByteArray format = K::updateDocumentFormat;
-    return filter2 ? QByteArray(filter2Keyword) + " \"" + format + " " + format + " 0 " +
-                         K::driverFilter + "\""
-                   : QByteArray(filterKeyword) + " \"" + format + " 0 " + K::driverFilter + "\"";
+// The PPD without the lines setting up adds, old ones included. The
+// PostScript line is ours only where setting up put it: right after the old
+// comment. One the PPD had of its own stays.
+Lines withoutSetUp(const QByteArray &ppd, bool keepSetUpLine) {
+    Lines kept;
+    bool afterOldMarker = false;
+    for (const QByteArray &line : splitLines(ppd)) {
+        const QByteArray text = content(line);
+        const bool ours = (!keepSetUpLine && (text == marker || text == setUpLine())) ||
+                          text == oldMarker || isOldRouteLine(text) ||
+                          (afterOldMarker && text == oldPostScriptPath);
+        afterOldMarker = text == oldMarker;
+        if (!ours)
+            kept << line;
+    }
+    return kept;
 }
 
 bool holds(const Lines &lines, const char *keyword) {
@@ -94,20 +106,17 @@ bool holds(const Lines &lines, const char *keyword) {
 
 bool OVSettingsRoute::isIn(const QByteArray &ppd) {
     const Lines lines = splitLines(ppd);
-    return std::any_of(lines.begin(), lines.end(), isRouteLine);
+    return std::any_of(lines.begin(), lines.end(),
+                       [](const QByteArray &line) { return content(line) == setUpLine(); });
 }
 
 // The new lines go right after the first one, where cupsd puts saved settings.
 QByteArray OVSettingsRoute::added(const QByteArray &ppd) {
-    Lines lines = splitLines(ppd);
+    Lines lines = withoutSetUp(ppd, true);
     const QByteArray end = lineEnd(lines);
     Lines block;
-    if (!std::any_of(lines.begin(), lines.end(), isRouteLine)) {
-        block << marker + end;
-        if (!std::any_of(lines.begin(), lines.end(), isFilterLine))
-            block << postScriptPath + end;
-        block << routeLine(lines) + end;
-    }
+    if (!isIn(ppd))
+        block << marker + end << setUpLine() + end;
     for (const auto &[keyword, value] : storedDefaults) {
         if (!holds(lines, keyword))
             block << QByteArray("*") + keyword + ": \"" + value + "\"" + end;
@@ -119,17 +128,5 @@ QByteArray OVSettingsRoute::added(const QByteArray &ppd) {
 }
 
 QByteArray OVSettingsRoute::removed(const QByteArray &ppd) {
-    Lines kept;
-    bool afterMarker = false;
-    for (const QByteArray &line : splitLines(ppd)) {
-        const QByteArray text = content(line);
-        // The PostScript line is ours only where setting up put it: right
-        // after the marker. One the PPD had of its own stays.
-        const bool ours =
-            text == marker || isRouteLine(text) || (afterMarker && text == postScriptPath);
-        afterMarker = text == marker;
-        if (!ours)
-            kept << line;
-    }
-    return kept.join();
+    return withoutSetUp(ppd, false).join();
 }

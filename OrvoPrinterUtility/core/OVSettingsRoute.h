@@ -2,18 +2,20 @@
 
 #include <QByteArray>
 
-// The lines of a queue's PPD that route the update job's document format to
-// the driver filter, added to and taken out of the PPD's text. Every other line
-// stays as it is, byte for byte, so the queue prints exactly as before.
+// The line of a queue's PPD that lets the driver filter store settings in it,
+// added to and taken out of the PPD's text. It is an attribute, not a filter
+// line: the update job's route is on the server, so the PPD's filter lines,
+// and with them everything cupsd's filters decide from them, stay as they
+// are. Every other line stays as it is, byte for byte.
 class OVSettingsRoute {
 public:
-    // Whether a filter line of the PPD accepts the update job's format.
+    // Whether the PPD carries the set-up line.
     static bool isIn(const QByteArray &ppd);
-    // The PPD with the route, in the PPD's own filter style, and with the
-    // settings that have a stored default where the PPD has none. The same
-    // text when both are there already.
+    // The PPD with the set-up line and with the settings that have a stored
+    // default where the PPD has none, and without what an earlier set-up put
+    // in the filter lines. The same text when all of that holds already.
     static QByteArray added(const QByteArray &ppd);
-    // The PPD without the route and the lines added with it; the settings
-    // stay, saved ones included.
+    // The PPD without the set-up line and the lines added with it; the
+    // settings stay, saved ones included.
     static QByteArray removed(const QByteArray &ppd);
 };

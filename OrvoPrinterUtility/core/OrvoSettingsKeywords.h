@@ -50,11 +50,15 @@ inline constexpr char updateJobTitle[] = "UpdatePPDOptions";
 inline constexpr char updateFileContent[] = "Update";
 inline constexpr char defaultCommunity[] = "cobalt";
 
-// The update job's own document format: a queue set up for the utility routes
-// it to the driver filter alone, so the job never reaches the printer's driver
-// and print jobs never reach the filter.
+// The update job's own document format: the server routes it to the driver
+// filter alone, so the job never reaches the printer's driver and print jobs
+// never reach the filter.
 inline constexpr char updateDocumentFormat[] = "application/vnd.orvo-settings-update";
 inline constexpr char driverFilter[] = "orvo-ppd-update";
+// The PPD line that setting a queue up adds: the filter stores settings only
+// in a PPD that carries it. Not a settings keyword, so no job can write it.
+inline constexpr char setUpKeyword[] = "OrvoSettingsUpdate";
+inline constexpr char setUpValue[] = "Accepted";
 
 inline constexpr Keyword all[] = {
     {UpdatePPDOptions, Encoding::JobMarker, 0},

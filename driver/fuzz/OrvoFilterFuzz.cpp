@@ -17,6 +17,7 @@
 #include <string>
 #include <string_view>
 #include <strings.h>
+#include <unistd.h>
 
 namespace {
 
@@ -89,9 +90,16 @@ bool changesPPD(const std::string &name, const std::string &value) {
 
 } // namespace
 
+// A PPD of a set-up queue that holds no settings yet.
 extern "C" int LLVMFuzzerInitialize(int *, char ***) {
     setenv("CONTENT_TYPE", OrvoSettingsKeywords::updateDocumentFormat, 1);
-    unsetenv("PPD");
+    static char path[] = "/tmp/orvo-filter-fuzz-XXXXXX";
+    std::FILE *ppd = fdopen(mkstemp(path), "w");
+    std::fprintf(ppd, "*PPD-Adobe: \"4.3\"\n*%s: \"%s\"\n", OrvoSettingsKeywords::setUpKeyword,
+                 OrvoSettingsKeywords::setUpValue);
+    std::fclose(ppd);
+    setenv("PPD", path, 1);
+    std::atexit([] { unlink(path); });
     return 0;
 }
 

@@ -24,10 +24,9 @@ void check(const QStringList &arguments, int exit, const QByteArray &expected,
     EXPECT_TRUE(run.shown.contains(expected)) << run.shown.toStdString();
 }
 
-// The sample PPD without its settings route: a queue that prints but is not set up.
+// The sample PPD without its set-up line: a queue that prints but is not set up.
 QByteArray notSetUp(const QByteArray &ppd) {
-    return QByteArray(ppd).replace(
-        "*cupsFilter: \"application/vnd.orvo-settings-update 0 orvo-ppd-update\"\n", "");
+    return QByteArray(ppd).replace("*OrvoSettingsUpdate: \"Accepted\"\n", "");
 }
 
 TEST(CommandLine, QueueAndPpdCommands) {
@@ -40,14 +39,13 @@ TEST(CommandLine, QueueAndPpdCommands) {
     CupsServer &server = CupsServerEnvironment::server();
     ASSERT_TRUE(server.addQueue("orvo"));
     ASSERT_TRUE(server.addQueue("plain", variant("plain.ppd", notSetUp(ppd))));
-    // Set-up queues whose route leads to a filter that fails on the update job, or to one
-    // that completes it without storing anything.
-    const auto routedTo = [&](const char *filter) {
-        return variant(filter,
-                       QByteArray(ppd).replace(" 0 orvo-ppd-update", QByteArray(" 0 ") + filter));
-    };
-    ASSERT_TRUE(server.addQueue("failing", routedTo("pdftopdf")) &&
-                server.addQueue("forgetful", routedTo("gziptoany")));
+    // Servers whose update job route leads to a filter that fails on the job, or to one that
+    // completes it without storing anything.
+    CupsServer::Options elsewhere;
+    elsewhere.clientsUseIt = false;
+    CupsServer failing("/usr/lib/cups/filter/pdftopdf", elsewhere);
+    CupsServer forgetful("/usr/lib/cups/filter/gziptoany", elsewhere);
+    ASSERT_TRUE(failing.addQueue("orvo") && forgetful.addQueue("orvo"));
     QStringList tooManyProfiles{"save", "orvo"};
     QJsonArray names; // each fits, all together do not fit in one job
     for (int i = 0; i < 100; ++i) {
@@ -58,8 +56,7 @@ TEST(CommandLine, QueueAndPpdCommands) {
     const QByteArray tooLarge =
         QJsonDocument(QJsonObject{{"sharedFolders", names}, {"forms", names}}).toJson();
     EXPECT_EQ(cli({"list"}).shown,
-              "failing    set up      Orvo Printer\nforgetful  set up      Orvo Printer\n"
-              "orvo       set up      Orvo Printer\nplain      not set up  Orvo Printer\n");
+              "orvo   set up      Orvo Printer\nplain  not set up  Orvo Printer\n");
     const QString german = variant("de.ppd", ppd + "*de.Translation Duplex/Beidseitig: \"\"\n");
     const QString longNames =
         variant("long.ppd", QByteArray(ppd).replace("Long Edge", QByteArray(90, 'L')));
@@ -78,8 +75,9 @@ TEST(CommandLine, QueueAndPpdCommands) {
     // None of the refusals above sent a job.
     EXPECT_EQ(jobRequests(), jobsBefore);
     check({"show", "--json", "orvo"}, 0, "\"optionsUpdated\": false");
-    check({"save", "failing", "--forms", "A"}, 1, "did not complete (state");
-    check({"save", "forgetful", "--forms", "A"}, 1, "the PPD does not hold: PPDOptionsUpdated");
+    check({"save", "-h", failing.address(), "orvo", "--forms", "A"}, 1, "did not complete (state");
+    check({"save", "-h", forgetful.address(), "orvo", "--forms", "A"}, 1,
+          "the PPD does not hold: PPDOptionsUpdated");
     check({"save", "orvo", "--customCommunity", "yes", "--community", "blue", "--forms", "A"}, 0,
           "the PPD holds the settings");
     check({"show", "orvo"}, 0, "customCommunity: yes\ncommunity: blue\n");

@@ -30,7 +30,8 @@ TEST(Installation, SaveAndShowThroughTheInstalledFiles) {
         {"/usr/lib/cups/filter/orvo-ppd-update", 0755},
         {"/usr/share/applications/orvo-printer-utility.desktop", 0644},
         {"/usr/share/man/man8/orvo-ppd-update.8.gz", 0644},
-        {"/usr/share/cups/mime/orvo-printer-utility.types", 0644}};
+        {"/usr/share/cups/mime/orvo-printer-utility.types", 0644},
+        {"/usr/share/cups/mime/orvo-printer-utility.convs", 0644}};
     for (const auto &[path, mode] : files) {
         struct stat status {};
         EXPECT_EQ(stat(installed(path).toLocal8Bit().constData(), &status), 0) << path;

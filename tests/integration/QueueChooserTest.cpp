@@ -43,9 +43,7 @@ QString plainPpd(const QTemporaryDir &dir) {
     const QString path = dir.filePath("plain.ppd");
     CupsServer::writeFile(
         path, CupsServer::readFile(CupsServer::samplePpdPath())
-                  .replace("*cupsFilter: \"application/vnd.orvo-settings-update 0 "
-                           "orvo-ppd-update\"\n",
-                           "")
+                  .replace("*OrvoSettingsUpdate: \"Accepted\"\n", "")
                   .replace("*NickName: \"Orvo Printer\"", "*NickName: \"Lab Colour Laser\""));
     return path;
 }
