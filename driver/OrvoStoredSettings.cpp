@@ -1,5 +1,6 @@
 #include "OrvoStoredSettings.h"
 
+#include "OrvoSettingsComparison.h"
 #include "OrvoSettingsOption.h"
 
 #include <fstream>
@@ -25,16 +26,13 @@ OrvoStoredSettings::OrvoStoredSettings(const char *ppdPath) {
         if (!line.empty() && line.back() == '\r')
             line.pop_back();
         if (splitAttribute(line, keyword, value) &&
-            OrvoSettingsOption::check(keyword, value).verdict == OrvoSettingsOption::Verdict::Store)
+            OrvoSettingsOption::check(keyword, value).kind == OrvoSettingsOption::Kind::Setting)
             m_values.try_emplace(keyword, value);
     }
 }
 
-// An absent list entry reads exactly as an empty one; an absent flag or
-// community does not (it reads as its default), so those are always stored.
 bool OrvoStoredSettings::unchangedBy(std::string_view name, std::string_view value) const {
     const auto held = m_values.find(std::string(name));
-    if (held != m_values.end())
-        return held->second == value;
-    return value.empty() && OrvoSettingsOption::absentReadsAsEmpty(name);
+    return OrvoSettingsComparison::holds(name, value,
+                                         held != m_values.end() ? held->second.c_str() : nullptr);
 }
