@@ -34,6 +34,12 @@ void OrvoFilterLog::refused(Level level, std::string_view name, std::string_view
     write(level, text);
 }
 
+void OrvoFilterLog::refusedJob(std::string_view name, std::string_view why) {
+    std::string text = "Refused the update job, nothing stored: ";
+    text.append(printable(name)).append(" ").append(why);
+    write(Level::Error, text);
+}
+
 void OrvoFilterLog::summary(std::size_t stored) {
     write(Level::Debug, "Stored " + std::to_string(stored) + " settings, refused " +
                             std::to_string(m_refusedCount) + " options");

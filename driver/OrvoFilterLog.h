@@ -16,6 +16,8 @@ public:
 
     void write(Level level, std::string_view text);
     void refused(Level level, std::string_view name, std::string_view why);
+    // The job as a whole, for the option or setting named.
+    void refusedJob(std::string_view name, std::string_view why);
     void summary(std::size_t stored);
 
     static constexpr std::size_t listedLimit = 32;

@@ -4,6 +4,7 @@
 #include "OrvoPPDMessageWriter.h"
 #include "OrvoSettingsKeywords.h"
 #include "OrvoSettingsOption.h"
+#include "OrvoSettingsRules.h"
 #include "OrvoStoredSettings.h"
 
 #include <cstdio>
@@ -11,6 +12,7 @@
 #include <cstring>
 #include <string>
 #include <unistd.h>
+#include <vector>
 
 namespace {
 
@@ -73,8 +75,23 @@ bool OrvoPPDUpdateFilter::looksLikeJobAttribute(const char *name) {
            std::strspn(name, "abcdefghijklmnopqrstuvwxyz0123456789-") == std::strlen(name);
 }
 
+// The window and the command line never send a setting that breaks its rule,
+// so a job with one is no save a user meant: none of its settings is stored,
+// rather than a part that would leave the others inconsistent.
+bool OrvoPPDUpdateFilter::refused(int count, cups_option_t *options, OrvoFilterLog &log) {
+    std::vector<OrvoSettingsRules::JobOption> job;
+    for (int i = 0; i < count; ++i)
+        job.emplace_back(options[i].name, options[i].value);
+    const auto refusal = OrvoSettingsRules::checkJob(job);
+    if (refusal)
+        log.refusedJob(refusal->keyword, refusal->verdict.explanation());
+    return refusal.has_value();
+}
+
 void OrvoPPDUpdateFilter::store(int count, cups_option_t *options, OrvoFilterLog &log,
                                 std::FILE *out) {
+    if (refused(count, options, log))
+        return;
     const OrvoStoredSettings current(std::getenv("PPD"));
     if (!current.takesUpdates()) {
         // Ends the job as done: a failing filter would stop the queue for everyone.
@@ -86,26 +103,17 @@ void OrvoPPDUpdateFilter::store(int count, cups_option_t *options, OrvoFilterLog
     OrvoPPDMessageWriter writer(out);
     std::size_t stored = 0;
     for (int i = 0; i < count; ++i) {
-        const auto [verdict, reason] = OrvoSettingsOption::check(options[i].name, options[i].value);
-        switch (verdict) {
-        case OrvoSettingsOption::Verdict::Store:
-            if (current.unchangedBy(options[i].name, options[i].value))
-                break;
+        const auto kind = OrvoSettingsOption::check(options[i].name, options[i].value).kind;
+        if (kind == OrvoSettingsOption::Kind::Setting &&
+            !current.unchangedBy(options[i].name, options[i].value)) {
             writer.add(options[i].name, options[i].value);
             ++stored;
-            break;
-        case OrvoSettingsOption::Verdict::JobMarker:
-            break;
-        case OrvoSettingsOption::Verdict::NotASetting:
+        } else if (kind == OrvoSettingsOption::Kind::NotASetting) {
             if (looksLikeJobAttribute(options[i].name))
                 log.refused(OrvoFilterLog::Level::Debug, options[i].name, "a job attribute");
             else
                 log.refused(OrvoFilterLog::Level::Warning, options[i].name,
                             "not a settings keyword");
-            break;
-        case OrvoSettingsOption::Verdict::BadValue:
-            log.refused(OrvoFilterLog::Level::Error, options[i].name, reason);
-            break;
         }
     }
     writer.flush();

@@ -22,5 +22,6 @@ private:
     static void drainInput();
     static bool isUpdateJob(int count, cups_option_t *options);
     static bool looksLikeJobAttribute(const char *name);
+    static bool refused(int count, cups_option_t *options, OrvoFilterLog &log);
     static void store(int count, cups_option_t *options, OrvoFilterLog &log, std::FILE *out);
 };

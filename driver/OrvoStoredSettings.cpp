@@ -1,5 +1,6 @@
 #include "OrvoStoredSettings.h"
 
+#include "OrvoSettingsComparison.h"
 #include "OrvoSettingsKeywords.h"
 #include "OrvoSettingsOption.h"
 
@@ -27,18 +28,15 @@ OrvoStoredSettings::OrvoStoredSettings(const char *ppdPath) {
             line.pop_back();
         if (!splitAttribute(line, keyword, value))
             continue;
-        if (OrvoSettingsOption::check(keyword, value).verdict == OrvoSettingsOption::Verdict::Store)
+        if (OrvoSettingsOption::check(keyword, value).kind == OrvoSettingsOption::Kind::Setting)
             m_values.try_emplace(keyword, value);
         m_takesUpdates = m_takesUpdates || (keyword == OrvoSettingsKeywords::setUpKeyword &&
                                             value == OrvoSettingsKeywords::setUpValue);
     }
 }
 
-// An absent list entry reads exactly as an empty one; an absent flag or
-// community does not (it reads as its default), so those are always stored.
 bool OrvoStoredSettings::unchangedBy(std::string_view name, std::string_view value) const {
     const auto held = m_values.find(std::string(name));
-    if (held != m_values.end())
-        return held->second == value;
-    return value.empty() && OrvoSettingsOption::absentReadsAsEmpty(name);
+    return OrvoSettingsComparison::holds(name, value,
+                                         held != m_values.end() ? held->second.c_str() : nullptr);
 }

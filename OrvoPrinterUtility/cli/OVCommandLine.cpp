@@ -118,8 +118,12 @@ void OVCommandLine::print(bool json, const QJsonValue &value, const QString &tex
 }
 
 int OVCommandLine::fail(Exit code, const QString &message) {
-    QTextStream(stderr) << programName << ": " << visible(message) << "\n";
+    warn(message);
     return code;
+}
+
+void OVCommandLine::warn(const QString &message) {
+    QTextStream(stderr) << programName << ": " << visible(message) << "\n";
 }
 
 int OVCommandLine::serverFailure() {

@@ -37,6 +37,8 @@ public:
     // Prints a result: JSON when asked for, else the text.
     static void print(bool json, const QJsonValue &value, const QString &text);
     static int fail(Exit code, const QString &message);
+    // A message on stderr that does not end the command.
+    static void warn(const QString &message);
     // The CUPS server did not answer: not reachable, or not within --timeout.
     static int serverFailure();
     // A name or value for text output: control characters (C0, DEL, C1) and

@@ -153,9 +153,14 @@ int OVQueueCommands::list(const QCommandLineParser &, bool json) {
 int OVQueueCommands::show(const QCommandLineParser &parser, bool json) {
     const QString queue = parser.positionalArguments().first();
     OVSettingsSnapshot settings;
-    const auto status = OVStoredSettings::load(queue, settings);
+    QStringList ignored;
+    const auto status = OVStoredSettings::load(queue, settings, &ignored);
     if (status != OVStoredSettings::Status::Loaded)
         return loadFailure(status, queue);
+    // Lines the utility could not have written (any user who may print can
+    // send an update job) show as the setting's default; the line is named.
+    for (const QString &line : ignored)
+        OVCommandLine::warn("ignored a line of the PPD: *" + line + "; its default is shown");
     OVCommandLine::print(json, OVSettingsFields::toJson(settings),
                          OVSettingsFields::toText(settings));
     return Exit::Success;
@@ -186,11 +191,11 @@ int OVQueueCommands::save(const QCommandLineParser &parser, bool json) {
         error = OVSettingsFields::apply(parser, settings);
     if (!error.isEmpty())
         return OVCommandLine::fail(Exit::Usage, error);
-    if (const QString problem = OVSettingsFields::fitProblem(settings); !problem.isEmpty())
-        return OVCommandLine::fail(Exit::Refused, problem + "; nothing was sent");
-    if (!OVUpdateJob::reachesFilter(settings))
-        return OVCommandLine::fail(
-            Exit::Refused, "the settings are too large for one update job; nothing was sent");
+    // A value the settings' rules refuse is a usage error; settings each
+    // well formed that the PPD or one update job cannot carry are refused.
+    if (const OrvoSettingsVerdict verdict = settings.check(); !verdict.ok())
+        return OVCommandLine::fail(verdict.doesNotFit() ? Exit::Refused : Exit::Usage,
+                                   OVSettingsFields::verdictText(verdict) + "; nothing was sent");
     const OVSettingsSave::Outcome outcome = OVSettingsSave::save(settings, queue);
     switch (outcome.result) {
     case OVSettingsSave::Result::NotSent:

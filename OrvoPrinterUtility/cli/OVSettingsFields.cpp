@@ -1,58 +1,66 @@
 #include "OVSettingsFields.h"
 
 #include "OVCommandLine.h"
-
-#include "OVStoredSettings.h"
-
 #include "OrvoSettingsKeywords.h"
 
 #include <QJsonArray>
 
 #include <optional>
-
 #include <variant>
 
 namespace {
 
-using Mac = std::array<QString, 6>;
 using Member = std::variant<bool OVSettingsSnapshot::*, QString OVSettingsSnapshot::*,
-                            QStringList OVSettingsSnapshot::*, QList<qint32> OVSettingsSnapshot::*,
-                            Mac OVSettingsSnapshot::*>;
+                            QStringList OVSettingsSnapshot::*, QList<qint32> OVSettingsSnapshot::*>;
 
 struct Field {
     const char *key;
     Member member;
     const char *description;
-    int limit = 0; // entries a list field can store
+    const char *keyword; // the settings keyword the field is stored under
 };
 
 namespace K = OrvoSettingsKeywords;
-// Bytes of one name the multi-part storage holds: its base64 is cut after
-// the last part.
-constexpr qsizetype nameByteLimit = K::partCount * K::partLength / 4 * 3;
 
 using S = OVSettingsSnapshot;
 const Field fields[] = {
-    {"optionsUpdated", &S::isPPDOptionsUpdated, "Settings were saved by the utility (true/false)."},
-    {"customCommunity", &S::snmpCommunityCheck, "Use the community below (true/false)."},
-    {"community", &S::snmpCommunityText, "SNMP community name."},
-    {"wakeOnLan", &S::wakeOnLANCheck, "Wake the printer before querying it (true/false)."},
-    {"macAddress", &S::macAddressFields, "Printer MAC address, six parts joined by \":\"."},
-    {"overRouter", &S::overstepTheRouter, "Wake the printer across a router (true/false)."},
-    {"ipAddress", &S::printerIPAddressText, "Printer address used to wake it across a router."},
+    {"optionsUpdated", &S::isPPDOptionsUpdated, "Settings were saved by the utility (true/false).",
+     K::PPDOptionsUpdated},
+    {"customCommunity", &S::snmpCommunityCheck, "Use the community below (true/false).",
+     K::IsCustomSnmpCommunity},
+    {"community", &S::snmpCommunityText, "SNMP community name.", K::SnmpCommunityName},
+    {"wakeOnLan", &S::wakeOnLANCheck, "Wake the printer before querying it (true/false).",
+     K::IsWakeOnLan},
+    {"macAddress", &S::macAddress,
+     "Printer MAC address: six two-digit hexadecimal numbers joined by \":\".",
+     K::PrinterMacAddress},
+    {"overRouter", &S::overstepTheRouter, "Wake the printer across a router (true/false).",
+     K::IsOverTheRouter},
+    {"ipAddress", &S::printerIPAddressText, "Printer address used to wake it across a router.",
+     K::PrinterIPAddress},
     {"sharedFolders", &S::allSharedBoxNames, "Shared folder names (repeat for each).",
-     K::listLimit},
+     K::SharedBoxName},
     {"chosenFolders", &S::selectedSharedBoxNames, "Shared folders chosen for this queue.",
-     K::listLimit},
+     K::SelSharedBoxName},
     {"chosenFolderIndexes", &S::selectedSharedBoxIndex, "Shared-folder row of each chosen folder.",
-     K::listLimit},
-    {"personalFolder", &S::folderPersonalFolderCheck, "Use the personal folder (true/false)."},
-    {"adminLoginMode", &S::bAdminLoginModeEnabled, "Printer has admin login mode (true/false)."},
-    {"forms", &S::formNames, "Form names (repeat for each).", K::listLimit},
+     K::SelSharedBoxIndex},
+    {"personalFolder", &S::folderPersonalFolderCheck, "Use the personal folder (true/false).",
+     K::UsePersonalFolder},
+    {"adminLoginMode", &S::bAdminLoginModeEnabled, "Printer has admin login mode (true/false).",
+     K::AdminLoginModeEnabled},
+    {"forms", &S::formNames, "Form names (repeat for each).", K::PSFormName},
     {"barcodeAreas", &S::barcodeAreaDefinitionNames, "Barcode area definition names.",
-     K::listLimit},
-    {"colorProfiles", &S::colorProfileNames, "Colour profile names.", K::colorProfileLimit},
+     K::BarcodeAreaDefName},
+    {"colorProfiles", &S::colorProfileNames, "Colour profile names.", K::ColorProfileName},
 };
+
+QString keyOf(std::string_view keyword) {
+    for (const Field &field : fields) {
+        if (keyword == field.keyword)
+            return QStringLiteral("\"%1\"").arg(field.key);
+    }
+    return QString::fromUtf8(keyword.data(), qsizetype(keyword.size()));
+}
 
 template <class... F> struct Overloaded : F... { using F::operator()...; };
 // Spelled out for compilers that do not deduce it for aggregates yet.
@@ -69,10 +77,6 @@ QJsonValue jsonOf(const S &settings, const Member &member) {
                 for (qint32 index : settings.*m)
                     array.append(index);
                 return QJsonValue(array);
-            },
-            [&](Mac S::*m) {
-                return QJsonValue(
-                    QStringList((settings.*m).begin(), (settings.*m).end()).join(':'));
             },
         },
         member);
@@ -111,11 +115,6 @@ bool setFromJson(S &settings, const Member &member, const QJsonValue &value) {
                     list << item.toInt();
                 }
                 return value.isArray() && ((settings.*m = list), true);
-            },
-            [&](Mac S::*m) {
-                return value.isString() &&
-                       value.toString().split(':').size() == qsizetype((settings.*m).size()) &&
-                       OVStoredSettings::setMacAddressStr(settings.*m, value.toString());
             },
         },
         member);
@@ -210,19 +209,12 @@ QString OVSettingsFields::apply(const QCommandLineParser &parser, OVSettingsSnap
     return apply(json, settings);
 }
 
-QString OVSettingsFields::fitProblem(const OVSettingsSnapshot &settings) {
-    for (const Field &field : fields) {
-        const QJsonValue value = jsonOf(settings, field.member);
-        if (field.limit && value.toArray().size() > field.limit)
-            return QStringLiteral("\"%1\" holds at most %2 entries")
-                .arg(field.key)
-                .arg(field.limit);
-        for (const QJsonValue &item : value.toArray()) {
-            if (item.toString().toUtf8().size() > nameByteLimit)
-                return QStringLiteral("a name in \"%1\" is longer than %2 bytes")
-                    .arg(field.key)
-                    .arg(nameByteLimit);
-        }
-    }
-    return {};
+QString OVSettingsFields::verdictText(const OrvoSettingsVerdict &verdict) {
+    QStringList lists;
+    for (std::string_view list : verdict.listsToShorten)
+        lists << keyOf(list);
+    const QString explanation = QString::fromStdString(verdict.explanation());
+    if (lists.isEmpty())
+        return keyOf(verdict.field) + " " + explanation;
+    return "the settings " + explanation + " (shorten " + lists.join(", ") + ")";
 }

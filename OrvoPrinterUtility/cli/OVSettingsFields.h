@@ -1,6 +1,7 @@
 #pragma once
 
 #include "OVSettingsSnapshot.h"
+#include "OrvoSettingsVerdict.h"
 
 #include <QCommandLineOption>
 #include <QCommandLineParser>
@@ -22,7 +23,7 @@ public:
     // on success, else what was wrong.
     static QString apply(const QJsonObject &json, OVSettingsSnapshot &settings);
     static QString apply(const QCommandLineParser &parser, OVSettingsSnapshot &settings);
-    // Why the PPD could not store these settings as they are (a list longer
-    // than its keywords, a name longer than its parts); empty when it can.
-    static QString fitProblem(const OVSettingsSnapshot &settings);
+    // A verdict of the settings' rules, naming the field by its key:
+    // "\"macAddress\" is not six two-digit hexadecimal numbers joined by colons".
+    static QString verdictText(const OrvoSettingsVerdict &verdict);
 };

@@ -1,23 +1,21 @@
 #include "OVSettingsSave.h"
 
 #include "OVQueueSetup.h"
-#include "OrvoPPD_Interface.h"
-#include "OrvoSettingsKeywords.h"
+#include "OrvoSNMPHelper.h"
+#include "OrvoSettingsCodec.h"
+#include "OrvoSettingsComparison.h"
 
 #include <cups/cups.h>
 
 namespace {
 
-// The job's options that the PPD does not hold as attributes with the same
-// value (an empty value clears the attribute). The job marker is never stored.
-QStringList missingFrom(ppd_file_t *ppd, const OVUpdateJob::OptionList &sent) {
+// The job's options that the PPD does not hold, compared as the filter
+// compares them before it hands them over.
+QStringList missingFrom(ppd_file_t *ppd, const OVSettingsSnapshot &sent) {
     QStringList names;
-    for (const auto &[name, value] : sent) {
-        const ppd_attr_t *attribute = r_ppdFindAttr(ppd, name.constData(), nullptr);
-        const QByteArray held = attribute && attribute->value ? attribute->value : "";
-        if (name != OrvoSettingsKeywords::UpdatePPDOptions && held != value)
-            names << QString::fromLatin1(name);
-    }
+    for (const std::string &name : OrvoSettingsComparison::differing(
+             OrvoSettingsCodec::encode(sent.settings()), OrvoSNMPHelper::lookup(ppd)))
+        names << QString::fromStdString(name);
     return names;
 }
 
@@ -43,9 +41,8 @@ OVSettingsSave::Outcome OVSettingsSave::save(const OVSettingsSnapshot &settings,
 
 void OVSettingsSave::readBack(Outcome &outcome, const OVSettingsSnapshot &settings,
                               const QString &queue) {
-    outcome.readBack = OVStoredSettings::withQueuePPD(queue, [&](ppd_file_t *ppd) {
-        outcome.differing = missingFrom(ppd, OVUpdateJob::optionList(settings));
-    });
+    outcome.readBack = OVStoredSettings::withQueuePPD(
+        queue, [&](ppd_file_t *ppd) { outcome.differing = missingFrom(ppd, settings); });
     // A server that died while writing the PPD, or a full disk, leaves one
     // that cannot be read or that lost the route to the filter.
     const bool routeLost =

@@ -5,6 +5,7 @@
 #include "OrvoPPD_Interface.h"
 #include "OrvoSNMPHelper.h"
 #include "OrvoSettingsKeywords.h"
+#include "OrvoSettingsVerdict.h"
 
 #include <cups/cups.h>
 
@@ -40,35 +41,31 @@ OVSettingsSnapshot OVStoredSettings::defaults() {
     return settings;
 }
 
-OVSettingsSnapshot OVStoredSettings::read(ppd_file_t *ppdFile) {
-    using H = OrvoSNMPHelper;
-    OVSettingsSnapshot settings = defaults();
-    settings.snmpCommunityCheck = H::isCustomSnmpCommunity(ppdFile);
-    settings.snmpCommunityText = H::snmpCommunityName(ppdFile);
-    settings.wakeOnLANCheck = H::isWakeOnLan(ppdFile);
-    setMacAddressStr(settings.macAddressFields, H::getPrinterMacAddress(ppdFile));
-    settings.overstepTheRouter = H::isOverTheRouter(ppdFile);
-    settings.printerIPAddressText = H::getPrinterIPAddress(ppdFile);
-    if (const QStringList all = H::getSharedBoxDetailsArray(ppdFile); !all.isEmpty())
-        settings.allSharedBoxNames = all;
-    settings.isPPDOptionsUpdated = H::isPPDOptionsUpdated(ppdFile);
-    if (settings.isPPDOptionsUpdated)
-        settings.selectedSharedBoxNames = H::getSelectedSharedBoxDetailsArray(ppdFile);
-    if (const QList<qint32> index = H::getSelectedSharedBoxIndexArray(ppdFile); !index.isEmpty())
-        settings.selectedSharedBoxIndex = index;
-    settings.bAdminLoginModeEnabled = H::isAdminLoginModeEnabled(ppdFile);
+OVSettingsSnapshot OVStoredSettings::read(ppd_file_t *ppdFile, QStringList *ignored) {
+    const OrvoSettingsCodec::Decoded decoded = OrvoSNMPHelper::settings(ppdFile);
+    const OVSettingsSnapshot initial = defaults();
+    OVSettingsSnapshot settings = initial;
+    settings.apply(decoded.settings);
+    if (settings.allSharedBoxNames.isEmpty())
+        settings.allSharedBoxNames = initial.allSharedBoxNames;
+    if (!settings.isPPDOptionsUpdated)
+        settings.selectedSharedBoxNames = initial.selectedSharedBoxNames;
+    if (settings.selectedSharedBoxIndex.isEmpty())
+        settings.selectedSharedBoxIndex = initial.selectedSharedBoxIndex;
     settings.folderPersonalFolderCheck =
-        settings.bAdminLoginModeEnabled && H::isPersonalFolderSelected(ppdFile);
-    settings.formNames = H::getFormDetailsArray(ppdFile);
-    settings.barcodeAreaDefinitionNames = H::getBarcodeAreaDefinitionDetailsArray(ppdFile);
-    settings.colorProfileNames = H::getColorProfileDetailsArray(ppdFile);
+        settings.bAdminLoginModeEnabled && settings.folderPersonalFolderCheck;
+    if (ignored) {
+        for (const OrvoSettingsCodec::Ignored &entry : decoded.ignored)
+            *ignored << QString::fromStdString(entry.keyword + " " + entry.verdict.explanation());
+    }
     return settings;
 }
 
 OVStoredSettings::Status OVStoredSettings::load(const QString &printerID,
-                                                OVSettingsSnapshot &settings) {
+                                                OVSettingsSnapshot &settings,
+                                                QStringList *ignored) {
     settings = defaults();
-    return withQueuePPD(printerID, [&](ppd_file_t *ppd) { settings = read(ppd); });
+    return withQueuePPD(printerID, [&](ppd_file_t *ppd) { settings = read(ppd, ignored); });
 }
 
 OVStoredSettings::Status

@@ -3,6 +3,7 @@
 #include "OVSettingsSnapshot.h"
 
 #include <QString>
+#include <QStringList>
 
 #include <array>
 #include <functional>
@@ -20,11 +21,14 @@ public:
     // The window's state before any load: 100 localized shared folders, the
     // first one chosen, Wake-on-LAN on, the default community.
     static OVSettingsSnapshot defaults();
-    // The settings stored in an open PPD, defaults filled in.
-    static OVSettingsSnapshot read(ppd_file_t *ppdFile);
+    // The settings stored in an open PPD, defaults filled in. Stored values
+    // the settings' rules refuse read as absent; ignored, when given, gets one
+    // line for each ("PrinterMacAddress is not six ...").
+    static OVSettingsSnapshot read(ppd_file_t *ppdFile, QStringList *ignored = nullptr);
     // Fetches the queue's PPD, reads it and removes the fetched copy. On any
     // failure settings holds defaults().
-    static Status load(const QString &printerID, OVSettingsSnapshot &settings);
+    static Status load(const QString &printerID, OVSettingsSnapshot &settings,
+                       QStringList *ignored = nullptr);
     // Fetches the queue's PPD, hands it to use while open, then closes it and
     // removes the fetched copy.
     static Status withQueuePPD(const QString &printerID,

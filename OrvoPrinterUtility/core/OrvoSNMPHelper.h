@@ -1,21 +1,26 @@
 #pragma once
 
+#include "OrvoSettingsCodec.h"
+
 #include <QList>
 #include <QString>
 #include <QStringList>
 
 #include <cups/ppd.h>
 
-// Reads the utility's settings stored as attributes of the queue's open PPD.
-// Absent, null or undecodable values read as each setting's default; nothing
-// here reports an error.
+struct OVSettingsSnapshot;
+
+// Reads the utility's settings stored as attributes of the queue's open PPD,
+// through the settings model's decoding (OrvoSettingsCodec), which is strict:
+// a value the utility could not have written (base64 that is not well formed,
+// text that is not UTF-8, an index outside its range, a MAC address, community
+// or printer address that breaks its rule) reads as absent, that is as the
+// setting's default. Nothing here reports an error; settings() lists what it
+// ignored.
 //
-// Decoded text that is not valid UTF-8 counts as a failed decoding, so the
-// setting keeps its default and no replacement characters are shown or saved
-// back. The one exception is an incomplete character at the very end of a
-// multi-part value: its 900-byte limit can cut a name inside a character, and
-// dropping only that character keeps the rest of the name. Decoded text ends
-// at its first NUL byte.
+// Decoded text ends at its first NUL byte. An incomplete character at the very
+// end of a multi-part value is dropped alone: names were once stored cut at
+// 900 bytes, possibly inside a character.
 class OrvoSNMPHelper {
 public:
     // The plain value; "" when absent, null or empty. Never a null string.
@@ -43,6 +48,12 @@ public:
     static QStringList getBarcodeAreaDefinitionDetailsArray(ppd_file_t *ppdFile);
     static QStringList getColorProfileDetailsArray(ppd_file_t *ppdFile);
 
+    // Every setting at once, with the stored values it ignored.
+    static OrvoSettingsCodec::Decoded settings(ppd_file_t *ppdFile);
+    // The PPD's attribute values by keyword, as the settings model reads them.
+    static OrvoSettingsCodec::Lookup lookup(ppd_file_t *ppdFile);
+
 private:
-    static QStringList multiPartArray(const char *keyword, int limit, ppd_file_t *ppdFile);
+    // The decoded settings in the window's types.
+    static OVSettingsSnapshot stored(ppd_file_t *ppdFile);
 };

@@ -159,7 +159,6 @@ private:
     void showRegisterFolders();
     void showSelectedFolders();
     void saved(const OVWindowSave::Outcome &outcome);
-    void showTooLongMessage(const QStringList &listKeys);
     OVPrinterInfoFetch::Printer fetchTarget() const;
     void fetch(std::span<const OVPrinterInfoFetch::Step> steps);
     void showFetched(const OVPrinterInfoFetch::Result &result);

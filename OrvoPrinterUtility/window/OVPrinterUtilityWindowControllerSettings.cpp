@@ -2,7 +2,6 @@
 // while the window shows, fill the controls, and OK saves them.
 #include "OVBackgroundTask.h"
 #include "OVControlsLock.h"
-#include "OVPrinterUtilityHelper.h"
 #include "OVPrinterUtilityWindowController.h"
 #include "OVSettingsSnapshot.h"
 #include "OVTableViewDataSource.h"
@@ -73,8 +72,7 @@ void OVPrinterUtilityWindowController::applySettings(const OVSettingsSnapshot &s
     c.snmpCommunityText->setText(s.snmpCommunityText);
     constraintsSnmpItems();
     c.wakeOnLANCheck->setChecked(s.wakeOnLANCheck);
-    for (int i = 0; i < macFieldCount; ++i)
-        macAddressFields()[i]->setText(s.macAddressFields[i]);
+    setMacAddressStr(s.macAddress);
     constraintsWakeOnLanItems();
     c.overstepTheRouter->setChecked(s.overstepTheRouter);
     c.printerIPAddressText->setText(s.printerIPAddressText);
@@ -133,23 +131,18 @@ void OVPrinterUtilityWindowController::saved(const OVWindowSave::Outcome &outcom
         closeButtonClicked(m_ui->closeButton);
         return;
     }
-    // cupsd hands all job options to the filter in one argument, which the
-    // kernel limits to 128 KiB: a save that could not reach the driver says
-    // which lists to shorten, instead of closing with the settings lost.
-    if (!outcome.listsToShorten.isEmpty()) {
-        showTooLongMessage(outcome.listsToShorten);
+    // A setting that breaks its rule is named, and so are the lists to
+    // shorten of a save that could not reach the driver (cupsd hands all job
+    // options to the filter in one argument, which the kernel limits to
+    // 128 KiB), instead of closing with the settings lost.
+    if (!outcome.verdict.ok()) {
+        alert(OVWindowSave::verdictText(outcome.verdict),
+              OVWindowSave::listsToShortenText(outcome.verdict));
         return;
     }
     if (!outcome.queueSetUp || outcome.save.result == OVSettingsSave::Result::Damaged)
         showProblem(OVWindowQueue::Problem::NotSetUp);
     alert(OVWindowSave::failureText(outcome, m_printerId));
-}
-
-void OVPrinterUtilityWindowController::showTooLongMessage(const QStringList &listKeys) {
-    QStringList names;
-    for (const QString &key : listKeys)
-        names << "\u2022 " + OVPrinterUtilityHelper::getLocalizedStringFor(key);
-    alert(localized(settingsTooLong), names.join('\n'));
 }
 
 void OVPrinterUtilityWindowController::closeButtonClicked(QObject *) {
@@ -170,8 +163,10 @@ OVSettingsSnapshot OVPrinterUtilityWindowController::settingsSnapshot() const {
     s.snmpCommunityCheck = c.snmpCommunityCheck->isChecked();
     s.snmpCommunityText = c.snmpCommunityText->text();
     s.wakeOnLANCheck = c.wakeOnLANCheck->isChecked();
-    for (int i = 0; i < macFieldCount; ++i)
-        s.macAddressFields[i] = macAddressFields()[i]->text();
+    QStringList mac;
+    for (QLineEdit *field : macAddressFields())
+        mac << field->text();
+    s.macAddress = mac.join(':');
     s.overstepTheRouter = c.overstepTheRouter->isChecked();
     s.printerIPAddressText = c.printerIPAddressText->text();
     s.allSharedBoxNames = m_folders.allSharedBoxNames();

@@ -3,12 +3,34 @@
 #include "OVBackgroundTask.h"
 #include "OVChooserTexts.h"
 #include "OVQueueSetup.h"
-#include "OVSaveSizeCheck.h"
 #include "OVWindowLog.h"
 #include "OVWindowTexts.h"
+#include "OrvoSettingsKeywords.h"
+#include "OrvoSettingsRules.h"
+
+#include <utility>
 
 using OVChooserTexts::localized;
 using namespace OVWindowTexts;
+
+namespace {
+
+namespace K = OrvoSettingsKeywords;
+
+// The label under which the window shows each setting a verdict may name.
+constexpr std::pair<const char *, const char *> fieldLabels[] = {
+    {K::SnmpCommunityName, SnmpCommunityName},
+    {K::PrinterMacAddress, macAddressLabel},
+    {K::PrinterIPAddress, ipAddressLabel},
+    {K::SharedBoxName, sharedFolderInPrinter},
+    {K::SelSharedBoxName, registerFolder},
+    {K::SelSharedBoxIndex, registerFolder},
+    {K::PSFormName, formTab},
+    {K::BarcodeAreaDefName, barcodeTab},
+    {K::ColorProfileName, colorProfileTab},
+};
+
+} // namespace
 
 void OVWindowSave::save(QObject *context, const OVSettingsSnapshot &settings,
                         const QString &printerID, std::function<void(const Outcome &)> done) {
@@ -16,10 +38,10 @@ void OVWindowSave::save(QObject *context, const OVSettingsSnapshot &settings,
         context,
         [settings, printerID] {
             Outcome outcome;
-            // Long lists take the size check a while to measure: it runs here
-            // too, so that OK never holds up the window.
-            outcome.listsToShorten = OVSaveSizeCheck::listsToShorten(settings);
-            if (!outcome.listsToShorten.isEmpty())
+            // Long lists take the size check a while to measure: the rules run
+            // here too, so that OK never holds up the window.
+            outcome.verdict = settings.check();
+            if (!outcome.verdict.ok())
                 return outcome;
             // On a queue that is not set up the update job would be printed,
             // and the settings lost.
@@ -68,4 +90,48 @@ QString OVWindowSave::jobFailureText(const OVSettingsSave::Outcome &save) {
     default:
         return localized(saveJobStopped).arg(save.jobId);
     }
+}
+
+QString OVWindowSave::verdictText(const OrvoSettingsVerdict &verdict) {
+    using Problem = OrvoSettingsVerdict::Problem;
+    switch (verdict.problem) {
+    case Problem::None:
+        return {};
+    case Problem::InvalidCharacter:
+        return localized(communityCharacter).arg(QString::fromStdString(verdict.detail));
+    case Problem::TooLong:
+        return localized(verdict.field == K::SnmpCommunityName ? communityTooLong : addressInvalid)
+            .arg(verdict.limit);
+    case Problem::NotAMacAddress:
+        return localized(macAddressIncomplete);
+    case Problem::MacAddressMissing:
+        return localized(macAddressMissing);
+    case Problem::NotAnAddress:
+        return localized(addressInvalid).arg(OrvoSettingsRules::addressLimit);
+    case Problem::TooManyEntries:
+        return localized(listTooLong).arg(fieldLabel(verdict.field)).arg(verdict.limit);
+    case Problem::NameTooLong:
+        return localized(nameTooLong).arg(fieldLabel(verdict.field)).arg(verdict.limit);
+    case Problem::JobTooLarge:
+        return localized(settingsTooLong);
+    case Problem::IndexOutOfRange:
+    case Problem::Malformed:
+        break;
+    }
+    return localized(settingInvalid).arg(fieldLabel(verdict.field));
+}
+
+QString OVWindowSave::listsToShortenText(const OrvoSettingsVerdict &verdict) {
+    QStringList names;
+    for (std::string_view list : verdict.listsToShorten)
+        names << "\u2022 " + fieldLabel(list);
+    return names.isEmpty() ? QString() : names.join('\n');
+}
+
+QString OVWindowSave::fieldLabel(std::string_view field) {
+    for (const auto &[keyword, label] : fieldLabels) {
+        if (field == keyword)
+            return OVChooserTexts::withoutMnemonic(localized(label));
+    }
+    return QString::fromUtf8(field.data(), qsizetype(field.size()));
 }

@@ -2,31 +2,32 @@
 
 #include "OVSettingsSave.h"
 #include "OVSettingsSnapshot.h"
+#include "OrvoSettingsVerdict.h"
 
 #include <QString>
 
 #include <functional>
+#include <string_view>
 
 class QObject;
 
-// OK's way to the print server, off the GUI thread: the size check, the
-// queue's set-up check, then the update job, waited for, and the queue's PPD
-// read back. The window
-// closes only on a save that stored every setting; anything else is said in
-// words the user can act on.
+// OK's way to the print server, off the GUI thread: the settings' rules (the
+// size of the update job among them), the queue's set-up check, then the
+// update job, waited for, and the queue's PPD read back. The window closes
+// only on a save that stored every setting; anything else is said in words
+// the user can act on.
 class OVWindowSave {
 public:
     struct Outcome {
-        // Not empty: the job would not reach the driver unless these lists
-        // (OVSaveSizeCheck) are shortened, and nothing was sent.
-        QStringList listsToShorten;
+        // Not ok: a setting breaks its rule, or the job would not reach the
+        // driver unless some lists are shortened; nothing was sent.
+        OrvoSettingsVerdict verdict;
         // False: the queue is not set up, and nothing was sent.
         bool queueSetUp = true;
         OVSettingsSave::Outcome save;
 
         bool stored() const {
-            return listsToShorten.isEmpty() && queueSetUp &&
-                   save.result == OVSettingsSave::Result::Stored;
+            return verdict.ok() && queueSetUp && save.result == OVSettingsSave::Result::Stored;
         }
     };
 
@@ -36,7 +37,12 @@ public:
 
     // What became of a save that did not store, in the user's language.
     static QString failureText(const Outcome &outcome, const QString &queue);
+    // What is wrong with the settings, naming the field by its label.
+    static QString verdictText(const OrvoSettingsVerdict &verdict);
+    // The lists to shorten, one a line, for settings too large for one job.
+    static QString listsToShortenText(const OrvoSettingsVerdict &verdict);
 
 private:
     static QString jobFailureText(const OVSettingsSave::Outcome &save);
+    static QString fieldLabel(std::string_view field);
 };

@@ -6,6 +6,7 @@
 #include "OVRestrictedTextField.h"
 #include "OVWindowTexts.h"
 #include "OrvoSettingsKeywords.h"
+#include "OrvoSettingsRules.h"
 #include "ui_MainUtilityWindiw.h"
 
 #include <QGuiApplication>
@@ -14,13 +15,8 @@
 namespace {
 using namespace OVWindowTexts;
 
-const QString communityValidCharacters =
-    QStringLiteral(",./:;@[\\") + QChar(0x00A5) + QStringLiteral("]^_0123456789abcdefghijklmn") +
-    QChar(0x200B) + QStringLiteral("opqrstuvwxyzABCDEFGHIJKLMN") + QChar(0x200B) +
-    QStringLiteral("OPQRSTUVWXYZ");
 const QString communityInvalidCharacters = QStringLiteral("!\"#%%&'()*+-<=>?`{|}~");
 const QString hexDigits = QStringLiteral("0123456789ABCDEFabcdef");
-constexpr int communityMaxLength = 32;
 constexpr int macFieldMaxLength = 2;
 constexpr int ipAddressMaxLength = 39;
 
@@ -127,9 +123,12 @@ void OVWindowSetUp::setUpTexts(Ui::MainUtilityWindiw &c) {
 
 void OVWindowSetUp::setUpSettingsFields(Ui::MainUtilityWindiw &c) {
     c.snmpCommunityCheck->setChecked(false);
-    c.snmpCommunityText->setValidCharacters(communityValidCharacters);
+    // The characters and length the settings' rules allow, so the field
+    // refuses as it types what OK would refuse.
+    c.snmpCommunityText->setValidCharacters(
+        QString::fromUtf8(OrvoSettingsRules::communityCharacters));
     c.snmpCommunityText->setInvalidCharacters(communityInvalidCharacters);
-    c.snmpCommunityText->setMaxLength(communityMaxLength);
+    c.snmpCommunityText->setMaxLength(int(OrvoSettingsRules::communityLimit));
     c.snmpCommunityText->showMessageIfInvalid(true);
     c.snmpCommunityText->setInvalidMessageString(localized(prohibitCharacter), QString(""));
     c.snmpCommunityText->setText(OrvoSettingsKeywords::defaultCommunity);

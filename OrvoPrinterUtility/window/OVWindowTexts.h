@@ -32,6 +32,23 @@ inline constexpr char clear[] = "Clear";
 inline constexpr char UsePersonalFolder[] = "Use Personal folder";
 inline constexpr char failedToObtain[] = "Failed to obtain information.";
 inline constexpr char settingsTooLong[] = "IDS_SETTINGS_TOO_LONG";
+// What OK says of a setting that breaks its rule. %1: the refused character
+inline constexpr char communityCharacter[] = "The SNMP community name cannot contain \"%1\".";
+// %1: the most characters it may have, in this and addressInvalid
+inline constexpr char communityTooLong[] = "The SNMP community name is longer than %1 characters.";
+inline constexpr char addressInvalid[] = "The IP address of the printer must be an IPv4 or IPv6 "
+                                         "address, or a host name of at most %1 characters.";
+inline constexpr char macAddressIncomplete[] =
+    "The MAC address of the printer is incomplete: each of its six bytes needs two hexadecimal "
+    "digits (0-9, A-F).";
+inline constexpr char macAddressMissing[] =
+    "Wake On LAN needs the MAC address of the printer. Enter it, or turn Wake On LAN off.";
+// %1: the list's name, %2: the most entries it holds
+inline constexpr char listTooLong[] = "The list \"%1\" holds more than %2 entries.";
+// %1: the list's name, %2: the most bytes a name may have
+inline constexpr char nameTooLong[] = "A name in the list \"%1\" is longer than %2 bytes.";
+// %1: the setting's name
+inline constexpr char settingInvalid[] = "\"%1\" holds a value that cannot be saved.";
 inline constexpr char queueNotSetUp[] = "IDS_QUEUE_NOT_SET_UP"; // %1: the queue
 inline constexpr char savingSettings[] = "Saving settings...";
 inline constexpr char settingUpQueue[] = "Setting up the queue...";
@@ -102,6 +119,14 @@ inline constexpr const char *localizedKeys[] = {
     UsePersonalFolder,
     failedToObtain,
     settingsTooLong,
+    communityCharacter,
+    communityTooLong,
+    addressInvalid,
+    macAddressIncomplete,
+    macAddressMissing,
+    listTooLong,
+    nameTooLong,
+    settingInvalid,
     queueNotSetUp,
     savingSettings,
     settingUpQueue,

@@ -2,12 +2,15 @@
 // filter's own parsing and checks. Any user who can print controls that text, so
 // beyond not crashing the filter must keep its word: every line it writes is a
 // log line or a PPD message, every attribute in a PPD message is a settings
-// keyword with a value of its shape that the job really carried, and every such
-// option that would change the PPD is handed over.
+// keyword with a value of its shape that the job really carried, and of a job
+// the settings' rules accept, every such option that would change the PPD is
+// handed over; of any other job, none.
 #include "OrvoPPDMessageWriter.h"
 #include "OrvoPPDUpdateFilter.h"
+#include "OrvoSettingsComparison.h"
 #include "OrvoSettingsKeywords.h"
 #include "OrvoSettingsOption.h"
+#include "OrvoSettingsRules.h"
 
 #include <cups/cups.h>
 
@@ -18,6 +21,7 @@
 #include <string_view>
 #include <strings.h>
 #include <unistd.h>
+#include <vector>
 
 namespace {
 
@@ -56,8 +60,7 @@ void collectAttributes(std::string_view line, const Options &job, Options &hande
         require(quoted.size() >= 2 && quoted.front() == '"' && quoted.back() == '"',
                 "unquoted value", name);
         const std::string value = quoted.substr(1, quoted.size() - 2);
-        require(OrvoSettingsOption::check(name, value).verdict ==
-                    OrvoSettingsOption::Verdict::Store,
+        require(OrvoSettingsOption::check(name, value).kind == OrvoSettingsOption::Kind::Setting,
                 "attribute outside the settings", name);
         const auto sent = job.find(name);
         require(sent != job.end() && sent->second == value, "attribute the job did not carry",
@@ -83,9 +86,9 @@ Options handedAttributes(std::string_view output, const Options &job) {
     return handed;
 }
 
-// With no stored PPD, an empty list entry or index already reads as empty.
-bool changesPPD(const std::string &name, const std::string &value) {
-    return !value.empty() || !OrvoSettingsOption::absentReadsAsEmpty(name);
+bool acceptedByTheRules(const Options &job) {
+    std::vector<OrvoSettingsRules::JobOption> options(job.begin(), job.end());
+    return !OrvoSettingsRules::checkJob(options);
 }
 
 } // namespace
@@ -114,11 +117,13 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size) {
     const Options job = parse(text.c_str());
     const Options handed = handedAttributes(std::string_view(output, outputSize), job);
     std::free(output);
+    const bool accepted = isUpdateJob(job) && acceptedByTheRules(job);
     for (const auto &[name, value] : job) {
+        // With no stored PPD, an option changes it unless its absence reads the same.
         const bool storable =
-            isUpdateJob(job) &&
-            OrvoSettingsOption::check(name, value).verdict == OrvoSettingsOption::Verdict::Store &&
-            changesPPD(name, value);
+            accepted &&
+            OrvoSettingsOption::check(name, value).kind == OrvoSettingsOption::Kind::Setting &&
+            !OrvoSettingsComparison::holds(name, value, nullptr);
         require(storable == handed.contains(name), "setting handed over wrongly", name);
     }
     return 0;

@@ -2,6 +2,7 @@
 // simulated printer, with the exit codes and messages its manual documents.
 #include "CommandLineRun.h"
 #include "CupsServerEnvironment.h"
+#include "SettingsInputs.h"
 #include "SimulatedPrinter.h"
 
 #include <QFile>
@@ -96,6 +97,59 @@ TEST(CommandLine, QueueAndPpdCommands) {
     EXPECT_EQ(cli({"save", "orvo", "--settings", "-"}, QJsonDocument(settings).toJson()).exit, 0);
     EXPECT_EQ(QJsonDocument::fromJson(cli({"show", "--json", "orvo"}).shown).object(), settings);
     check({"show", "orvo"}, 0, "\n  \\x1b[2J\\x0d\\x0aforms: (0)\\x9b\\\\\n");
+}
+
+// save refuses what the settings' rules refuse, naming the field, before anything is sent: a
+// value no setting may have is a usage error, settings the PPD or one job cannot hold are
+// refused. What the rules accept is saved.
+TEST(CommandLine, SaveAppliesTheSettingsRules) {
+    CupsServer &server = CupsServerEnvironment::server();
+    ASSERT_TRUE(server.addQueue("rules"));
+    for (const SettingsInput &input : settingsInputs()) {
+        SCOPED_TRACE(input.what);
+        const OrvoSettingsVerdict verdict = input.snapshot().check();
+        const QByteArray before = server.queuePpd("rules");
+        const CommandLineRun run =
+            cli({"save", "rules", "--settings", "-"}, QJsonDocument(input.settings).toJson());
+        if (verdict.ok()) {
+            EXPECT_EQ(run.exit, 0) << run.shown.toStdString();
+            continue;
+        }
+        EXPECT_EQ(run.exit, verdict.doesNotFit() ? 6 : 2);
+        EXPECT_EQ(QString::fromUtf8(run.shown),
+                  "orvo-printer-utility-cli: " + OVSettingsFields::verdictText(verdict) +
+                      "; nothing was sent\n");
+        EXPECT_EQ(server.queuePpd("rules"), before);
+    }
+    // The options say the same as the JSON.
+    check({"save", "rules", "--wakeOnLan", "yes", "--macAddress", ":11:22:aa:bb:cc"}, 2,
+          "\"macAddress\" is not six two-digit hexadecimal numbers joined by colons");
+    check({"save", "rules", "--customCommunity", "yes", "--community", "bad-char"}, 2,
+          "\"community\" may not contain U+002D (-)");
+}
+
+// Lines of a PPD that the utility could not have written are named by show, which shows the
+// settings' defaults for them.
+TEST(CommandLine, ShowNamesTheLinesItIgnored) {
+    QTemporaryDir dir;
+    const QString forged = dir.filePath("forged.ppd");
+    CupsServer::writeFile(forged, CupsServer::readFile(CupsServer::samplePpdPath()) +
+                                      "*PrinterMacAddress: \"OjExOjIyOmFhOmJiOmNj\"\n"
+                                      "*SelSharedBoxIndex0: \"-99999999999999999999\"\n");
+    ASSERT_TRUE(CupsServerEnvironment::server().addQueue("forged", forged));
+    const CommandLineRun run = cli({"show", "--json", "forged"});
+    EXPECT_EQ(run.exit, 0);
+    const QJsonObject shown = QJsonDocument::fromJson(run.shown).object();
+    EXPECT_EQ(shown["macAddress"], "00:00:00:00:00:00");
+    EXPECT_EQ(shown["chosenFolderIndexes"], QJsonArray{0});
+    QProcess process;
+    process.start(ORVO_CLI, {"show", "forged"});
+    ASSERT_TRUE(process.waitForFinished(60000));
+    EXPECT_EQ(process.readAllStandardError(),
+              "orvo-printer-utility-cli: ignored a line of the PPD: *PrinterMacAddress is not six "
+              "two-digit hexadecimal numbers joined by colons; its default is shown\n"
+              "orvo-printer-utility-cli: ignored a line of the PPD: *SelSharedBoxIndex0 holds an "
+              "index outside -1 to 99; its default is shown\n");
 }
 
 // Setting up needs a server that knows the update job's format and an administrator; without

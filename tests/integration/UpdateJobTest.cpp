@@ -1,9 +1,12 @@
 #include "CupsServerEnvironment.h"
+#include "OVSettingsSave.h"
 #include "OVStoredSettings.h"
 #include "OVUpdateJob.h"
 #include "OrvoPPD_Interface.h"
 #include "OrvoSNMPHelper.h"
+#include "OrvoSettingsJobSize.h"
 #include "OrvoSettingsKeywords.h"
+#include "SettingsInputs.h"
 
 #include <QRegularExpression>
 #include <QSet>
@@ -72,18 +75,18 @@ TEST(SaveRoundTrip, EverySaveReadsBackAsStored) {
         EXPECT_TRUE(H::getSharedBoxDetailsArray(ppd).isEmpty());
     });
 
-    const QString longName(1500, 'n'); // base64 of 2000 characters: only 1200 are kept
+    const QString longestName = QString(299, u'€') + "nnn"; // 900 bytes, the most a name holds
     OVSettingsSnapshot s;
     s.isPPDOptionsUpdated = s.folderPersonalFolderCheck = true;
     s.bAdminLoginModeEnabled = false;
     s.snmpCommunityCheck = s.overstepTheRouter = true;
     s.snmpCommunityText = "public";
-    s.macAddressFields = {"0a", "1b", "2c", "3d", "4e", "5f"};
+    s.macAddress = "0a:1b:2c:3d:4e:5f";
     s.printerIPAddressText = "fd00::7";
-    s.allSharedBoxNames = {"営業部", "Design 🎨", longName};
+    s.allSharedBoxNames = {"営業部", "Design 🎨", longestName};
     s.selectedSharedBoxIndex = {1, -1}; // -1: added while no printer folder was selected
     s.formNames = {"A4 invoice", "Label"};
-    for (int i = 0; i < 31; ++i)
+    for (int i = 0; i < 30; ++i)
         s.colorProfileNames << QString("Profile %1").arg(i);
     const auto save = [&] {
         const QByteArray before = cups.queuePpd(queue);
@@ -97,7 +100,7 @@ TEST(SaveRoundTrip, EverySaveReadsBackAsStored) {
         EXPECT_TRUE(H::isOverTheRouter(ppd));
         EXPECT_EQ(H::getPrinterIPAddress(ppd), "fd00::7");
         EXPECT_EQ(H::getSharedBoxDetailsArray(ppd),
-                  (QStringList{"営業部", "Design 🎨", longName.left(900)}));
+                  (QStringList{"営業部", "Design 🎨", longestName}));
         EXPECT_EQ(H::getSelectedSharedBoxIndexArray(ppd), (QList<qint32>{1, -1}));
         EXPECT_EQ(H::getColorProfileDetailsArray(ppd).size(), 30);
         EXPECT_TRUE(H::isPPDOptionsUpdated(ppd) && H::isCustomSnmpCommunity(ppd));
@@ -136,7 +139,7 @@ TEST(SaveRoundTrip, EverySaveReadsBackAsStored) {
 // cupsd hands all of a job's options to the filter as one argument, and Linux
 // refuses to start a program with an argument of 128 KiB or more (its
 // terminating zero included).
-constexpr qsizetype limit = OVUpdateJob::maxFilterArgumentBytes;
+constexpr qsizetype limit = OrvoSettingsJobSize::maxFilterArgumentBytes;
 
 // The length of the options text cupsd handed to the job's filter, as it logs it.
 qsizetype handedOver(int job) {
@@ -156,12 +159,12 @@ TEST(UpdateJobSizeLimit, LargestSavesArriveOneByteMoreKeepsThePPD) {
     CupsServer &cups = CupsServerEnvironment::server();
     ASSERT_TRUE(cups.addQueue(queue));
     OVSettingsSnapshot snapshot;
-    while (OVUpdateJob::reachesFilter(snapshot))
+    while (OrvoSettingsJobSize::fits(snapshot.settings()))
         snapshot.formNames << QString(900, 'f');
     snapshot.formNames.removeLast();
     const int job = OVUpdateJob::saveOptionsToPPD(snapshot, queue);
     EXPECT_EQ(cups.waitForJob(job), IPP_JSTATE_COMPLETED);
-    EXPECT_GT(handedOver(job), limit - OVUpdateJob::cupsdArgumentMargin - 1300);
+    EXPECT_GT(handedOver(job), limit - qsizetype(OrvoSettingsJobSize::cupsdArgumentMargin) - 1300);
     const auto stored = [&](ppd_file_t *ppd) {
         EXPECT_EQ(H::getFormDetailsArray(ppd), snapshot.formNames);
     };
@@ -206,34 +209,35 @@ TEST(UpdateJobSecurity, OnlyWellFormedSettingsReachThePPD) {
     for (int i = 0; i < 10000; ++i)
         tenThousandOptions += " J" + QByteArray::number(i) + "=1";
     // cupsd hands line ends in values to the filter unescaped, where they may
-    // split one value into several options.
+    // split one value into several options. A job with a malformed setting
+    // stores none of its settings; options that are no settings are left out.
     const struct {
         const char *what;
         QByteArray options; // as lp -o takes them
+        bool stored;
         bool updateJob = true;
     } jobs[] = {
-        {"ForeignKeywords", "cupsFilter2='text/plain 0 /bin/sh' *cupsFilter2=x OpenUI=*Evil "
-                            "isWakeOnLan=1 IsWakeOnLanX=1 SharedBoxName=QUJD Forged\"Name=1"},
-        {"IndicesOutOfRange", "SharedBoxName100_Part1=QUJD ColorProfileName30_Part1=QUJD "
-                              "SelSharedBoxIndex-1=1 SelSharedBoxIndex01=1 PSFormName9_Part7=QUJD"},
-        {"QuotesLineEndsBackslashes", "SnmpCommunityName='QUJD\"\n*cupsFilter2: \"text/plain 0 "
-                                      "/bin/sh' PrinterIPAddress=QU\\\\JD "
-                                      "PSFormName0_Part1='\"QUJD\"' PSFormName1_Part1='QUJD QUJD' "
-                                      "PrinterMacAddress='QUJD\ncupsFilter2=x\r\nIsWakeOnLan=yes'"},
-        {"WrongShapes", "IsOverTheRouter=yes SelSharedBoxIndex5=12abc PSFormName0_Part1=QUJ "
-                        "SnmpCommunityName=Y29i!WF0 PSFormName2_Part1=" +
-                            QByteArray(204, 'Q') + " PrinterIPAddress=" + QByteArray(240, 'Q')},
-        {"TenThousandOptions", tenThousandOptions},
-        {"NotAnUpdateJob", "IsWakeOnLan=0", false},
+        {"ForeignKeywords",
+         "cupsFilter2='text/plain 0 /bin/sh' *cupsFilter2=x OpenUI=*Evil isWakeOnLan=1 "
+         "IsWakeOnLanX=1 SharedBoxName=QUJD Forged\"Name=1 SelSharedBoxIndex01=1",
+         true},
+        {"IndexOutOfRange", "ColorProfileName30_Part1=QUJD", false},
+        {"PartOutOfRange", "PSFormName9_Part7=QUJD", false},
+        {"QuotesLineEndsBackslashes",
+         "SnmpCommunityName='QUJD\"\n*cupsFilter2: \"text/plain 0 /bin/sh' "
+         "PrinterMacAddress='QUJD\ncupsFilter2=x\r\nIsWakeOnLan=yes'",
+         false},
+        {"WrongShape", "IsOverTheRouter=yes", false},
+        {"PartTooLong", "PSFormName2_Part1=" + QByteArray(204, 'Q'), false},
+        {"TenThousandOptions", tenThousandOptions, true},
+        {"NotAnUpdateJob", "IsWakeOnLan=0", false, false},
     };
-    // Each job also carries a well-formed setting of its own, which arrives
-    // with every update job.
     static const QRegularExpression markerLine(QStringLiteral("^\\*PSFormName7_Part1: .*\n"),
                                                QRegularExpression::MultilineOption);
     const auto others = [](const QByteArray &ppd) {
         return QString::fromLatin1(ppd).remove(markerLine).toStdString();
     };
-    for (const auto &[what, options, updateJob] : jobs) {
+    for (const auto &[what, options, stored, updateJob] : jobs) {
         SCOPED_TRACE(what);
         const QByteArray marker = QByteArray(what).toBase64();
         const QByteArray before = cups.queuePpd(queue);
@@ -243,25 +247,44 @@ TEST(UpdateJobSecurity, OnlyWellFormedSettingsReachThePPD) {
         EXPECT_EQ(cups.waitForJob(job), IPP_JSTATE_COMPLETED);
         const QByteArray after = cups.queuePpd(queue);
         EXPECT_EQ(others(after), others(before));
-        EXPECT_EQ(after.contains("\n*PSFormName7_Part1: \"" + marker + "\"\n"), updateJob);
+        EXPECT_EQ(after.contains("\n*PSFormName7_Part1: \"" + marker + "\"\n"), stored);
     }
-    // libcups reads PPD lines of up to 255 characters. Base64 values come in fours, so the
-    // longest community line that can be stored has 254 characters; the next one, 258, is
-    // refused and the stored line stays.
-    const QByteArray atLimit(232, 'Q'), overLimit(236, 'R');
-    EXPECT_EQ(
-        cups.waitForJob(cups.printJob(queue, "UpdatePPDOptions SnmpCommunityName=" + atLimit)),
-        IPP_JSTATE_COMPLETED);
-    EXPECT_EQ(
-        cups.waitForJob(cups.printJob(queue, "UpdatePPDOptions SnmpCommunityName=" + overLimit)),
-        IPP_JSTATE_COMPLETED);
-    EXPECT_TRUE(cups.queuePpd(queue).contains("\n*SnmpCommunityName: \"" + atLimit + "\"\n"));
     // The filter's log names refused options, but no name may close the quotes
     // around it, and ten thousand refusals are counted, not listed.
     const QByteArray log = cups.errorLog();
     EXPECT_TRUE(log.contains("Forged?Name"));
     EXPECT_TRUE(log.contains("more refused options are not listed"));
     EXPECT_LT(log.count("option \\\"J"), 100); // cupsd logs a quote as \"
+}
+
+// Each of the settings inputs sent in an update job that no front end checked, as any user who
+// may print can send one: what the rules accept is stored, anything else leaves the PPD as it
+// was, with the filter's reason in the server's log.
+TEST(UpdateJobSecurity, TheFilterAppliesTheSettingsRules) {
+    constexpr char queue[] = "OrvoRules";
+    CupsServer &cups = CupsServerEnvironment::server();
+    ASSERT_TRUE(cups.addQueue(queue));
+    for (const SettingsInput &input : settingsInputs()) {
+        SCOPED_TRACE(input.what);
+        const OVSettingsSnapshot snapshot = input.snapshot();
+        const OrvoSettingsVerdict verdict = snapshot.check();
+        const QByteArray before = cups.queuePpd(queue);
+        const OVSettingsSave::Outcome outcome = OVSettingsSave::save(snapshot, queue);
+        if (verdict.ok()) {
+            EXPECT_EQ(outcome.result, OVSettingsSave::Result::Stored)
+                << outcome.differing.join(", ").toStdString();
+            continue;
+        }
+        EXPECT_EQ(outcome.result, OVSettingsSave::Result::NotHeld);
+        EXPECT_EQ(cups.queuePpd(queue), before);
+        const QRegularExpression refusal(
+            QString("\\[Job %1\\] Refused the update job, nothing stored: (%2\\S*) (.*)\n")
+                .arg(outcome.jobId)
+                .arg(QString::fromUtf8(verdict.field.data(), qsizetype(verdict.field.size()))));
+        const QRegularExpressionMatch logged = refusal.match(QString::fromUtf8(cups.errorLog()));
+        ASSERT_TRUE(logged.hasMatch());
+        EXPECT_EQ(logged.captured(2).toStdString(), verdict.explanation());
+    }
 }
 
 } // namespace

@@ -1,7 +1,10 @@
+#include "OVStoredSettings.h"
 #include "OVUpdateJob.h"
 #include "OrvoPPD_Interface.h"
 #include "OrvoSNMPHelper.h"
+#include "OrvoSettingsCodec.h"
 #include "OrvoSettingsKeywords.h"
+#include "SettingsInputs.h"
 
 #include <QTemporaryFile>
 
@@ -10,6 +13,7 @@
 
 #include <gtest/gtest.h>
 
+#include <map>
 #include <memory>
 
 namespace K = OrvoSettingsKeywords;
@@ -51,21 +55,35 @@ TEST(OrvoSNMPHelper, FlagsDefaultsAndAsymmetries) {
             << attributes.value(0).second.constData();
 }
 
-// Invalid UTF-8 counts as a failed decoding: the community falls back to its
-// default, the address to "".
-TEST(OrvoSNMPHelper, DecodesSingleValues) {
-    const std::tuple<QByteArray, QString, QString> cases[] = {
-        {QByteArray(), "cobalt", ""},
-        {"", "", ""},
-        {QString("共有").toUtf8().toBase64(), "共有", "共有"},
-        {QByteArray("ab\xe3\x81").toBase64(), "cobalt", ""},
-        {QByteArray("ab\0cd", 5).toBase64(), "ab", "ab"}};
-    for (const auto &[stored, community, address] : cases) {
-        const OpenedPPD ppd =
-            settingsPPD({{K::SnmpCommunityName, stored}, {K::PrinterIPAddress, stored}});
-        EXPECT_EQ(OrvoSNMPHelper::snmpCommunityName(ppd.get()), community);
-        EXPECT_FALSE(OrvoSNMPHelper::getPrinterIPAddress(ppd.get()).isNull());
-        EXPECT_EQ(OrvoSNMPHelper::getPrinterIPAddress(ppd.get()), address);
+// The reader is strict: a value the utility could not have written reads as absent, that is as
+// its setting's default, and is reported as ignored.
+TEST(OrvoSNMPHelper, StoredValuesTheRulesRefuseReadAsTheirDefault) {
+    const auto b64 = [](const QByteArray &text) { return text.toBase64(); };
+    using Read = QString (*)(ppd_file_t *);
+    const Read community = OrvoSNMPHelper::snmpCommunityName;
+    const Read mac = OrvoSNMPHelper::getPrinterMacAddress;
+    const Read address = OrvoSNMPHelper::getPrinterIPAddress;
+    const std::tuple<const char *, QByteArray, Read, QString, bool> cases[] = {
+        {K::SnmpCommunityName, QByteArray(), community, "cobalt", false},
+        {K::SnmpCommunityName, "", community, "", false},
+        {K::SnmpCommunityName, b64("public\xc2\xa5"), community, "public\u00A5", false},
+        {K::SnmpCommunityName, b64("bad-char"), community, "cobalt", true},
+        {K::SnmpCommunityName, b64("ab\xe3\x81"), community, "cobalt", true},
+        // Not a multiple of four characters, a letter outside base64, padding inside.
+        {K::SnmpCommunityName, "QUJDR", community, "cobalt", true},
+        {K::SnmpCommunityName, "Y29i!WF0", community, "cobalt", true},
+        {K::SnmpCommunityName, "QQ==QUJD", community, "cobalt", true},
+        {K::PrinterMacAddress, b64("0a:1b:2c:3d:4e:5f"), mac, "0a:1b:2c:3d:4e:5f", false},
+        {K::PrinterMacAddress, b64(":11:22:aa:bb:cc"), mac, "", true},
+        {K::PrinterIPAddress, b64("fd00::7"), address, "fd00::7", false},
+        {K::PrinterIPAddress, b64(QByteArray("ab\0cd", 5)), address, "ab", false},
+        {K::PrinterIPAddress, b64("192.168.0.300"), address, "", true}};
+    for (const auto &[keyword, stored, read, expected, ignored] : cases) {
+        SCOPED_TRACE(stored.constData());
+        const OpenedPPD ppd = settingsPPD({{keyword, stored}});
+        EXPECT_EQ(read(ppd.get()), expected);
+        EXPECT_FALSE(read(ppd.get()).isNull());
+        EXPECT_EQ(OrvoSNMPHelper::settings(ppd.get()).ignored.size(), ignored ? 1u : 0u);
     }
 }
 
@@ -76,25 +94,18 @@ Attributes parts(const QByteArray &keyword, const QList<QByteArray> &values) {
     return attributes;
 }
 
-TEST(OrvoSNMPHelper, JoinsPartsIntoA4096ByteBuffer) {
+// A name is read only from parts as the utility writes them: each full but the last, no gaps.
+TEST(OrvoSNMPHelper, JoinsOnlyWholeParts) {
     const QByteArray encoded = QByteArray(600, 'x').toBase64(); // 800 characters
-    // A PPD line holds at most 255 characters: long values span lines, whose
-    // ends count towards the length but not the decoding.
-    QByteArray full = QByteArray(3000, 'a').toBase64();
-    for (qsizetype i = 200; i < full.size(); i += 201)
-        full.insert(i, '\n'); // 4019 characters
     const std::pair<QList<QByteArray>, QString> cases[] = {
         {{encoded.mid(0, 200), encoded.mid(200, 200), encoded.mid(400, 200), encoded.mid(600)},
          QString(600, 'x')},
-        // A missing part does not end the scan.
-        {{encoded.mid(0, 200), QByteArray(), encoded.mid(400, 200)},
-         QByteArray::fromBase64(encoded.mid(0, 200) + encoded.mid(400, 200))},
-        // A part is joined while the buffer keeps more than its length plus
-        // one free: 4094 fits, 4095 does not, a later short one may.
-        {{full.leftJustified(4094, '\n'), "Qw"}, QString(3000, 'a')},
-        {{full.leftJustified(4095, '\n'), "Qw"}, "C"},
-        {{full, QByteArray(60, 'b').toBase64(), "Qw"}, QString(3000, 'a') + "C"},
-        // The 900-byte limit can cut a character: only the cut one is dropped.
+        {{encoded.mid(0, 200), QByteArray(), encoded.mid(400, 200)}, ""},
+        {{encoded.mid(0, 200), "", encoded.mid(400, 200)}, ""},
+        {{encoded.mid(0, 100), encoded.mid(100, 200)}, ""},
+        {{encoded.mid(0, 204)}, ""},
+        {{encoded.mid(0, 100) + "\n" + encoded.mid(100, 99)}, ""},
+        // Names once stored cut at 900 bytes may end inside a character: only it is dropped.
         {{QByteArray("ab\xf0\x9f\x98").toBase64()}, "ab"}};
     for (const auto &[stored, expected] : cases)
         EXPECT_EQ(OrvoSNMPHelper::getDecodedPPDAttributeMaltiPartValueForName(
@@ -102,20 +113,56 @@ TEST(OrvoSNMPHelper, JoinsPartsIntoA4096ByteBuffer) {
                   expected);
 }
 
-TEST(OrvoSNMPHelper, ArraysSkipEmptyEntriesAndStopAtTheirLimit) {
+TEST(OrvoSNMPHelper, ArraysSkipEmptyAndIgnoredEntriesAndStopAtTheirLimit) {
     Attributes attributes = parts("SharedBoxName0", {"", ""});
     for (const char *index : {"1", "99", "100"})
         attributes += parts(QByteArray("SharedBoxName") + index, {QByteArray(index).toBase64()});
+    attributes += parts("SharedBoxName2", {"QUJ"});
     attributes += parts("ColorProfileName29", {QByteArray("30th").toBase64()});
     attributes += parts("ColorProfileName30", {QByteArray("31st").toBase64()});
-    for (int i = 0; const char *value : {"12abc", "abc", "", "99999999999"})
+    for (int i = 0; const char *value :
+                    {"7", "12abc", "abc", "", "-1", "100", "007", "-99999999999999999999", "-2"})
         attributes.append({"SelSharedBoxIndex" + QByteArray::number(i++), value});
     attributes += {{"SelSharedBoxIndex100", "5"}};
     const OpenedPPD ppd = settingsPPD(attributes);
     EXPECT_EQ(OrvoSNMPHelper::getSharedBoxDetailsArray(ppd.get()), QStringList({"1", "99"}));
     EXPECT_EQ(OrvoSNMPHelper::getColorProfileDetailsArray(ppd.get()), QStringList({"30th"}));
-    EXPECT_EQ(OrvoSNMPHelper::getSelectedSharedBoxIndexArray(ppd.get()),
-              QList<qint32>({12, 0, 2147483647}));
+    EXPECT_EQ(OrvoSNMPHelper::getSelectedSharedBoxIndexArray(ppd.get()), QList<qint32>({7, -1}));
+    QStringList ignored;
+    OVStoredSettings::read(ppd.get(), &ignored);
+    EXPECT_EQ(ignored, QStringList({"SharedBoxName2 is not base64 of UTF-8 text in whole parts",
+                                    "SelSharedBoxIndex1 is not a decimal index",
+                                    "SelSharedBoxIndex2 is not a decimal index",
+                                    "SelSharedBoxIndex5 holds an index outside -1 to 99",
+                                    "SelSharedBoxIndex6 is not a decimal index",
+                                    "SelSharedBoxIndex7 holds an index outside -1 to 99",
+                                    "SelSharedBoxIndex8 holds an index outside -1 to 99"}));
+}
+
+// Each input reaches its verdict, and what the rules accept reads back from the update job's
+// options exactly as it was given.
+TEST(OrvoSettingsRules, TheSettingsInputs) {
+    for (const SettingsInput &input : settingsInputs()) {
+        SCOPED_TRACE(input.what);
+        const OVSettingsSnapshot snapshot = input.snapshot();
+        const OrvoSettingsVerdict verdict = snapshot.check();
+        EXPECT_EQ(verdict.problem, input.problem);
+        EXPECT_EQ(verdict.field, input.field ? input.field : "");
+        if (!verdict.ok())
+            continue;
+        const OrvoSettingsCodec::Options options = OrvoSettingsCodec::encode(snapshot.settings());
+        const std::map<std::string, std::string> sent(options.begin(), options.end());
+        const OrvoSettingsCodec::Decoded read =
+            OrvoSettingsCodec::decode([&](const std::string &keyword) -> const char * {
+                const auto found = sent.find(keyword);
+                return found == sent.end() ? nullptr : found->second.c_str();
+            });
+        // A community that is not custom is not sent: the default reads back.
+        OrvoSettings expected = snapshot.settings();
+        expected.community = expected.customCommunity ? expected.community : K::defaultCommunity;
+        EXPECT_TRUE(read.ignored.empty());
+        EXPECT_TRUE(read.settings == expected);
+    }
 }
 
 // The keyword groups in their order, and every list slot written (so that a shorter list clears

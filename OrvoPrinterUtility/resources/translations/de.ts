@@ -108,6 +108,38 @@
         <translation>Diese Einstellungen sind zu lang, um vom Druckserver an den Druckertreiber übergeben zu werden, und können nicht gespeichert werden. Kürzen Sie diese Listen und klicken Sie erneut auf OK:</translation>
     </message>
     <message>
+        <source>The SNMP community name cannot contain "%1".</source>
+        <translation>Der SNMP-Community-Name darf „%1“ nicht enthalten.</translation>
+    </message>
+    <message>
+        <source>The SNMP community name is longer than %1 characters.</source>
+        <translation>Der SNMP-Community-Name ist länger als %1 Zeichen.</translation>
+    </message>
+    <message>
+        <source>The IP address of the printer must be an IPv4 or IPv6 address, or a host name of at most %1 characters.</source>
+        <translation>Die IP-Adresse des Druckers muss eine IPv4- oder IPv6-Adresse oder ein Hostname mit höchstens %1 Zeichen sein.</translation>
+    </message>
+    <message>
+        <source>The MAC address of the printer is incomplete: each of its six bytes needs two hexadecimal digits (0-9, A-F).</source>
+        <translation>Die MAC-Adresse des Druckers ist unvollständig: Jedes ihrer sechs Bytes braucht zwei Hexadezimalziffern (0-9, A-F).</translation>
+    </message>
+    <message>
+        <source>Wake On LAN needs the MAC address of the printer. Enter it, or turn Wake On LAN off.</source>
+        <translation>Wake on LAN braucht die MAC-Adresse des Druckers. Geben Sie sie ein oder schalten Sie Wake on LAN aus.</translation>
+    </message>
+    <message>
+        <source>The list "%1" holds more than %2 entries.</source>
+        <translation>Die Liste „%1“ enthält mehr als %2 Einträge.</translation>
+    </message>
+    <message>
+        <source>A name in the list "%1" is longer than %2 bytes.</source>
+        <translation>Ein Name in der Liste „%1“ ist länger als %2 Byte.</translation>
+    </message>
+    <message>
+        <source>"%1" holds a value that cannot be saved.</source>
+        <translation>„%1“ enthält einen Wert, der nicht gespeichert werden kann.</translation>
+    </message>
+    <message>
         <source>IDS_QUEUE_NOT_SET_UP</source>
         <translation>Die Druckwarteschlange „%1“ ist nicht dafür eingerichtet, die Einstellungen des Dienstprogramms zu speichern; es kann noch nichts in ihr gespeichert werden. Wählen Sie „Einrichten…“, um sie einzurichten; der Druckserver fragt eventuell nach dem Passwort eines Administrators.</translation>
     </message>

@@ -108,6 +108,38 @@
         <translation>These settings are too long for the print server to pass to the printer driver, so they cannot be saved. Shorten these lists and press OK again:</translation>
     </message>
     <message>
+        <source>The SNMP community name cannot contain "%1".</source>
+        <translation>The SNMP community name cannot contain "%1".</translation>
+    </message>
+    <message>
+        <source>The SNMP community name is longer than %1 characters.</source>
+        <translation>The SNMP community name is longer than %1 characters.</translation>
+    </message>
+    <message>
+        <source>The IP address of the printer must be an IPv4 or IPv6 address, or a host name of at most %1 characters.</source>
+        <translation>The IP address of the printer must be an IPv4 or IPv6 address, or a host name of at most %1 characters.</translation>
+    </message>
+    <message>
+        <source>The MAC address of the printer is incomplete: each of its six bytes needs two hexadecimal digits (0-9, A-F).</source>
+        <translation>The MAC address of the printer is incomplete: each of its six bytes needs two hexadecimal digits (0-9, A-F).</translation>
+    </message>
+    <message>
+        <source>Wake On LAN needs the MAC address of the printer. Enter it, or turn Wake On LAN off.</source>
+        <translation>Wake On LAN needs the MAC address of the printer. Enter it, or turn Wake On LAN off.</translation>
+    </message>
+    <message>
+        <source>The list "%1" holds more than %2 entries.</source>
+        <translation>The list "%1" holds more than %2 entries.</translation>
+    </message>
+    <message>
+        <source>A name in the list "%1" is longer than %2 bytes.</source>
+        <translation>A name in the list "%1" is longer than %2 bytes.</translation>
+    </message>
+    <message>
+        <source>"%1" holds a value that cannot be saved.</source>
+        <translation>"%1" holds a value that cannot be saved.</translation>
+    </message>
+    <message>
         <source>IDS_QUEUE_NOT_SET_UP</source>
         <translation>The print queue "%1" is not set up to store the utility's settings, so nothing can be saved to it yet. Choose Set Up… to set it up; the print server may ask for an administrator's password.</translation>
     </message>

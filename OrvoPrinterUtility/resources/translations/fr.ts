@@ -108,6 +108,38 @@
         <translation>Ces réglages sont trop longs pour que le serveur d'impression les transmette au pilote de l'imprimante : ils ne peuvent pas être enregistrés. Raccourcissez ces listes, puis cliquez de nouveau sur OK :</translation>
     </message>
     <message>
+        <source>The SNMP community name cannot contain "%1".</source>
+        <translation>Le nom de communauté SNMP ne peut pas contenir « %1 ».</translation>
+    </message>
+    <message>
+        <source>The SNMP community name is longer than %1 characters.</source>
+        <translation>Le nom de communauté SNMP dépasse %1 caractères.</translation>
+    </message>
+    <message>
+        <source>The IP address of the printer must be an IPv4 or IPv6 address, or a host name of at most %1 characters.</source>
+        <translation>L'adresse IP de l'imprimante doit être une adresse IPv4 ou IPv6, ou un nom d'hôte d'au plus %1 caractères.</translation>
+    </message>
+    <message>
+        <source>The MAC address of the printer is incomplete: each of its six bytes needs two hexadecimal digits (0-9, A-F).</source>
+        <translation>L'adresse MAC de l'imprimante est incomplète : chacun de ses six octets demande deux chiffres hexadécimaux (0-9, A-F).</translation>
+    </message>
+    <message>
+        <source>Wake On LAN needs the MAC address of the printer. Enter it, or turn Wake On LAN off.</source>
+        <translation>Wake on LAN a besoin de l'adresse MAC de l'imprimante. Saisissez-la, ou désactivez Wake on LAN.</translation>
+    </message>
+    <message>
+        <source>The list "%1" holds more than %2 entries.</source>
+        <translation>La liste « %1 » contient plus de %2 entrées.</translation>
+    </message>
+    <message>
+        <source>A name in the list "%1" is longer than %2 bytes.</source>
+        <translation>Un nom de la liste « %1 » dépasse %2 octets.</translation>
+    </message>
+    <message>
+        <source>"%1" holds a value that cannot be saved.</source>
+        <translation>« %1 » contient une valeur qui ne peut pas être enregistrée.</translation>
+    </message>
+    <message>
         <source>IDS_QUEUE_NOT_SET_UP</source>
         <translation>La file d’attente « %1 » n’est pas configurée pour enregistrer les réglages de l’utilitaire : rien ne peut encore y être enregistré. Choisissez « Configurer… » pour la configurer ; le serveur d’impression peut demander le mot de passe d’un administrateur.</translation>
     </message>

@@ -108,6 +108,38 @@
         <translation>設定が長すぎるため、プリントサーバーからプリンタードライバーに渡せず、保存できません。次の一覧を短くしてから、もう一度 OK を押してください:</translation>
     </message>
     <message>
+        <source>The SNMP community name cannot contain "%1".</source>
+        <translation>SNMP コミュニティー名に「%1」は使用できません。</translation>
+    </message>
+    <message>
+        <source>The SNMP community name is longer than %1 characters.</source>
+        <translation>SNMP コミュニティー名が %1 文字を超えています。</translation>
+    </message>
+    <message>
+        <source>The IP address of the printer must be an IPv4 or IPv6 address, or a host name of at most %1 characters.</source>
+        <translation>プリンターの IP アドレスには、IPv4 アドレス、IPv6 アドレス、または %1 文字以内のホスト名を入力してください。</translation>
+    </message>
+    <message>
+        <source>The MAC address of the printer is incomplete: each of its six bytes needs two hexadecimal digits (0-9, A-F).</source>
+        <translation>プリンターの MAC アドレスが不完全です。6 つのバイトそれぞれに 2 桁の 16 進数 (0-9、A-F) が必要です。</translation>
+    </message>
+    <message>
+        <source>Wake On LAN needs the MAC address of the printer. Enter it, or turn Wake On LAN off.</source>
+        <translation>Wake On LAN にはプリンターの MAC アドレスが必要です。MAC アドレスを入力するか、Wake On LAN をオフにしてください。</translation>
+    </message>
+    <message>
+        <source>The list "%1" holds more than %2 entries.</source>
+        <translation>一覧「%1」の項目が %2 個を超えています。</translation>
+    </message>
+    <message>
+        <source>A name in the list "%1" is longer than %2 bytes.</source>
+        <translation>一覧「%1」に %2 バイトを超える名前があります。</translation>
+    </message>
+    <message>
+        <source>"%1" holds a value that cannot be saved.</source>
+        <translation>「%1」に保存できない値があります。</translation>
+    </message>
+    <message>
         <source>IDS_QUEUE_NOT_SET_UP</source>
         <translation>プリントキュー「%1」はユーティリティの設定を保存するように設定されていないため、まだ何も保存できません。「設定…」を選んで設定してください。プリントサーバーが管理者のパスワードを求めることがあります。</translation>
     </message>

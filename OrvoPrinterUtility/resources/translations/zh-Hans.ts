@@ -108,6 +108,38 @@
         <translation>这些设置太长，打印服务器无法将其传递给打印机驱动程序，因此无法保存。请缩短以下列表，然后再次单击“确定”：</translation>
     </message>
     <message>
+        <source>The SNMP community name cannot contain "%1".</source>
+        <translation>SNMP 团体名称不能包含“%1”。</translation>
+    </message>
+    <message>
+        <source>The SNMP community name is longer than %1 characters.</source>
+        <translation>SNMP 团体名称超过 %1 个字符。</translation>
+    </message>
+    <message>
+        <source>The IP address of the printer must be an IPv4 or IPv6 address, or a host name of at most %1 characters.</source>
+        <translation>打印机的 IP 地址必须是 IPv4 或 IPv6 地址，或不超过 %1 个字符的主机名。</translation>
+    </message>
+    <message>
+        <source>The MAC address of the printer is incomplete: each of its six bytes needs two hexadecimal digits (0-9, A-F).</source>
+        <translation>打印机的 MAC 地址不完整：六个字节中的每一个都需要两位十六进制数字 (0-9、A-F)。</translation>
+    </message>
+    <message>
+        <source>Wake On LAN needs the MAC address of the printer. Enter it, or turn Wake On LAN off.</source>
+        <translation>网络唤醒需要打印机的 MAC 地址。请输入该地址，或关闭网络唤醒。</translation>
+    </message>
+    <message>
+        <source>The list "%1" holds more than %2 entries.</source>
+        <translation>列表“%1”的条目超过 %2 个。</translation>
+    </message>
+    <message>
+        <source>A name in the list "%1" is longer than %2 bytes.</source>
+        <translation>列表“%1”中有名称超过 %2 字节。</translation>
+    </message>
+    <message>
+        <source>"%1" holds a value that cannot be saved.</source>
+        <translation>“%1”中有无法保存的值。</translation>
+    </message>
+    <message>
         <source>IDS_QUEUE_NOT_SET_UP</source>
         <translation>打印队列“%1”尚未设置为保存本实用程序的设置，因此目前无法保存任何内容。请选择“设置…”进行设置；打印服务器可能会要求输入管理员密码。</translation>
     </message>

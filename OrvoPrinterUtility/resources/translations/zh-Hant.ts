@@ -108,6 +108,38 @@
         <translation>這些設定太長，列印伺服器無法將其傳給印表機驅動程式，因此無法儲存。請縮短以下清單，然後再按一次「確定」：</translation>
     </message>
     <message>
+        <source>The SNMP community name cannot contain "%1".</source>
+        <translation>SNMP 社群名稱不能包含「%1」。</translation>
+    </message>
+    <message>
+        <source>The SNMP community name is longer than %1 characters.</source>
+        <translation>SNMP 社群名稱超過 %1 個字元。</translation>
+    </message>
+    <message>
+        <source>The IP address of the printer must be an IPv4 or IPv6 address, or a host name of at most %1 characters.</source>
+        <translation>印表機的 IP 位址必須是 IPv4 或 IPv6 位址，或不超過 %1 個字元的主機名稱。</translation>
+    </message>
+    <message>
+        <source>The MAC address of the printer is incomplete: each of its six bytes needs two hexadecimal digits (0-9, A-F).</source>
+        <translation>印表機的 MAC 位址不完整：六個位元組中的每一個都需要兩位十六進位數字 (0-9、A-F)。</translation>
+    </message>
+    <message>
+        <source>Wake On LAN needs the MAC address of the printer. Enter it, or turn Wake On LAN off.</source>
+        <translation>網路喚醒需要印表機的 MAC 位址。請輸入該位址，或關閉網路喚醒。</translation>
+    </message>
+    <message>
+        <source>The list "%1" holds more than %2 entries.</source>
+        <translation>清單「%1」的項目超過 %2 個。</translation>
+    </message>
+    <message>
+        <source>A name in the list "%1" is longer than %2 bytes.</source>
+        <translation>清單「%1」中有名稱超過 %2 位元組。</translation>
+    </message>
+    <message>
+        <source>"%1" holds a value that cannot be saved.</source>
+        <translation>「%1」中有無法儲存的值。</translation>
+    </message>
+    <message>
         <source>IDS_QUEUE_NOT_SET_UP</source>
         <translation>列印佇列「%1」尚未設定為儲存本公用程式的設定，因此目前無法儲存任何內容。請選擇「設定…」進行設定；列印伺服器可能會要求輸入管理員密碼。</translation>
     </message>
