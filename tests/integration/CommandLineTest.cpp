@@ -222,15 +222,47 @@ TEST(CommandLine, SetupRefusalsLeaveTheQueueAsItWas) {
 }
 
 TEST(CommandLine, FetchesFromTheSimulatedPrinter) {
-    SimulatedPrinter printer;
+    using P = SimulatedPrinter;
+    P printer;
     ASSERT_TRUE(printer.start()) << printer.errorText().toStdString();
     printer.setDefaults();
-    const QString address = SimulatedPrinter::loopbackAddress();
+    const QString address = P::loopbackAddress();
     check({"fetch", "--address", address}, 0, "macAddress: 00:11:22:aa:bb:cc\n");
     check({"fetch", "--json", "--address", address}, 0, "\"adminLoginMode\": true");
     check({"fetch"}, 2, "--address is required");
-    printer.setSilent(true);
-    check({"fetch", "--address", address}, 5, "did not answer");
+    const auto &[name, escaped] = kStoredNames[1];
+    printer.set(P::nameOid(P::Table::Form, 2), name.toUtf8());
+    check({"fetch", "--address", address}, 0, "\nforms: (50)\n  " + escaped + "\n");
+    const CommandLineRun json = cli({"fetch", "--json", "--address", address});
+    EXPECT_EQ(QJsonDocument::fromJson(json.shown)["forms"][0], name);
+    // Each failure names the step and its reason, and prints nothing fetched.
+    const struct {
+        QByteArray oid;
+        P::Value value;
+        int exit;
+        const char *message;
+    } failures[] = {
+        {P::kMacAddress, QByteArray("00:11:22:aa:bb:cc\x1b[2J\n"), 9,
+         "answered the MAC address query with data that cannot be read: a MAC address that is "
+         "not six two-digit hexadecimal octets\n"},
+        {P::kAdminLoginMode, 4294967295L, 9,
+         "answered the shared folders query with data that cannot be read: a number wider than "
+         "32 bits\n"},
+        {P::stateOid(P::Table::ColorProfile, 30), QByteArray("\xff"), 9,
+         "answered the colour profiles query with data that cannot be read: a text where a "
+         "number belongs\n"},
+        {P::nameOid(P::Table::Form, 50),
+         {},
+         9,
+         "answered the forms query with an error: (noSuchName)"},
+        {"silent", 1L, 5,
+         "did not answer (MAC address); the address or the SNMP community may be wrong\n"},
+    };
+    for (const auto &f : failures) {
+        printer.setDefaults();
+        printer.set(f.oid, f.value);
+        check({"fetch", "--address", address}, f.exit, f.message);
+    }
 }
 
 } // namespace
