@@ -87,6 +87,8 @@ TEST(SnmpQueries, AnswersOfHealthyFaultyAndSlowPrinters) {
     const QByteArray form2 = P::nameOid(P::Table::Form, 2); // the first form in use
     const QByteArray form50 = P::nameOid(P::Table::Form, 50);
     const std::string kNotUtf8 = "unreadable: a text that is not UTF-8";
+    const std::string kNoSuchName =
+        "refused: (noSuchName) There is no such variable name in this MIB.";
     const std::string kNotMac =
         "unreadable: a MAC address that is not six two-digit hexadecimal octets";
     const struct {
@@ -136,13 +138,7 @@ TEST(SnmpQueries, AnswersOfHealthyFaultyAndSlowPrinters) {
         {"macWithDashes", P::kMacAddress, QByteArray("00-11-22-aa-bb-cc"), Mac, kNotMac},
         {"sleepModeIsText", P::kSleepMode, QByteArray("1"), SleepMode, "status 0 mode -1"},
         {"sleepModeBeyond32Bits", P::kSleepMode, 2147483649L, SleepMode, "status 0 mode -1"},
-        {"missingName",
-         form50,
-         {},
-         Forms,
-         "refused: (noSuchName) There is no such variable name in this MIB.",
-         -1,
-         "refused: (noSuchName)"},
+        {"missingName", form50, {}, Forms, kNoSuchName, -1, "refused: (noSuchName)"},
         // The session settings, proved at the printer: one that never answers
         // sees each query's retries plus one.
         {"silentSleepMode", "silent", 1L, SleepMode, "status 2 mode -1", 2, "failed: Timeout"},
