@@ -2,11 +2,11 @@
 
 #include "OVCoreLogging.h"
 #include "OVSNMPAnswer.h"
+#include "OrvoSettingsRules.h"
 
 #include <net-snmp/net-snmp-config.h>
 #include <net-snmp/net-snmp-includes.h>
 
-#include <cctype>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -28,7 +28,6 @@ constexpr int kSmallSharedBoxCount = 30;
 constexpr int kListCount = 100;
 constexpr int kColorProfileCount = 30;
 constexpr int kNoSession = 1;
-constexpr qsizetype kMacAddressLength = 17;
 
 constexpr const char *kSharedBoxProbe = ".1.3.6.1.4.1.41871.1.2.2.2.6.1.2.100";
 constexpr const char *kAdminLoginMode = ".1.3.6.1.4.1.41871.1.2.2.2.5.6.0";
@@ -249,18 +248,10 @@ Reading<QStringList> namesInUse(const Column &stateColumn, const Column &nameCol
     return {inUse, {}};
 }
 
-// Six two-digit hexadecimal octets joined by ":", the form the wake flow and
-// the MAC address fields take.
+// The settings' own MAC address rule, which also lets an empty one pass: the
+// printer has an address.
 bool isMacAddress(const QString &text) {
-    if (text.size() != kMacAddressLength)
-        return false;
-    for (qsizetype at = 0; at < text.size(); ++at) {
-        const char16_t c = text[at].unicode();
-        const bool hexDigit = c < 0x80 && std::isxdigit(c);
-        if (at % 3 == 2 ? c != ':' : !hexDigit)
-            return false;
-    }
-    return true;
+    return !text.isEmpty() && OrvoSettingsRules::macAddress(text.toStdString()).ok();
 }
 
 } // namespace
