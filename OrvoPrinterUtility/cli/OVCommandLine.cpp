@@ -2,6 +2,7 @@
 
 #include "OVCupsConnection.h"
 #include "OVFetchCommand.h"
+#include "OVLineControls.h"
 #include "OVPpdCommand.h"
 #include "OVQueueCommands.h"
 #include "OVSetupCommand.h"
@@ -141,6 +142,8 @@ QString OVCommandLine::visible(const QString &text) {
             shown += QStringLiteral("\\\\");
         else if (u < 0x20 || (u >= 0x7f && u < 0xa0))
             shown += QStringLiteral("\\x%1").arg(u, 2, 16, QChar('0'));
+        else if (OVLineControls::isLineControl(u))
+            shown += OVLineControls::code(u);
         else
             shown += c;
     }

@@ -19,9 +19,10 @@ public:
         ServerUnreachable = 3,
         QueueUnknown = 4,
         PrinterSilent = 5,
-        Refused = 6,       // the job could not reach the driver; nothing was sent
-        NotAuthorized = 7, // the server wants a print administrator
-        Queued = 8,        // the update job was sent but had not run when the time was up
+        Refused = 6,               // the job could not reach the driver; nothing was sent
+        NotAuthorized = 7,         // the server wants a print administrator
+        Queued = 8,                // the update job was sent but had not run when the time was up
+        PrinterAnswerUnusable = 9, // an error status, or data that cannot be read
     };
 
     struct Command {
@@ -41,9 +42,11 @@ public:
     static void warn(const QString &message);
     // The CUPS server did not answer: not reachable, or not within --timeout.
     static int serverFailure();
-    // A name or value for text output: control characters (C0, DEL, C1) and
-    // the backslash are shown escaped, so that text any user who may print
-    // can store never reaches the terminal as a command or a forged line.
+    // A name or value for text output: control characters (C0, DEL, C1), the
+    // characters that reorder or break a line (OVLineControls) and the
+    // backslash are shown escaped, so that text any user who may print can
+    // store never reaches the terminal as a command, a forged line or a line
+    // that reads otherwise than it is.
     static QString visible(const QString &text);
     // A progress line on a terminal only (stderr), overwritten by the next.
     static void progress(const QString &message);

@@ -33,6 +33,27 @@ int silent(const QString &address, const QString &what) {
                                    .arg(address, what));
 }
 
+// Which step failed and why, each reason in words of its own.
+int fetchFailure(const QString &address, const OVPrinterInfoFetch::FailedStep &failed) {
+    const QString step = OVPrinterInfoFetch::stepName(failed.step);
+    const QString &detail = failed.failure.detail;
+    switch (failed.failure.reason) {
+    case OVSNMPHelper::Reason::NoAnswer:
+        break;
+    case OVSNMPHelper::Reason::Refused:
+        return OVCommandLine::fail(Exit::PrinterAnswerUnusable,
+                                   QStringLiteral("the printer at %1 answered the %2 query with an "
+                                                  "error: %3")
+                                       .arg(address, step, detail));
+    case OVSNMPHelper::Reason::Unreadable:
+        return OVCommandLine::fail(Exit::PrinterAnswerUnusable,
+                                   QStringLiteral("the printer at %1 answered the %2 query with "
+                                                  "data that cannot be read: %3")
+                                       .arg(address, step, detail));
+    }
+    return silent(address, step);
+}
+
 // Six hexadecimal octets separated by ":" or "-" throughout, the forms
 // printers and ip(8) show. Anything else would wake another machine or none.
 bool isMacAddress(const QString &mac) {
@@ -115,7 +136,7 @@ int OVFetchCommand::run(const QCommandLineParser &parser, bool json) {
     const OVPrinterInfoFetch::Result fetched =
         OVPrinterInfoFetch::fetch({address, community, std::nullopt}, OVPrinterInfoFetch::allSteps);
     if (fetched.failedStep)
-        return silent(address, OVPrinterInfoFetch::stepName(*fetched.failedStep));
+        return fetchFailure(address, *fetched.failedStep);
     print(address, fetched, json);
     return Exit::Success;
 }

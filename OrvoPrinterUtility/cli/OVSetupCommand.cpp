@@ -102,6 +102,6 @@ int OVSetupCommand::run(const QCommandLineParser &parser, bool json) {
     const bool changed = result.outcome == Outcome::Changed;
     OVCommandLine::print(json,
                          QJsonObject{{"queue", queue}, {"setUp", !remove}, {"changed", changed}},
-                         doneText(queue, remove, changed));
+                         doneText(OVCommandLine::visible(queue), remove, changed));
     return Exit::Success;
 }

@@ -8,39 +8,61 @@ namespace {
 
 using Fetch = OVPrinterInfoFetch;
 using H = OVSNMPHelper;
-using ListQuery = std::optional<QStringList> (*)(const char *address, const QString &community);
+using Reason = H::Reason;
+using ListQuery = H::Reading<QStringList> (*)(const char *address, const QString &community);
+// Why a step failed; empty when it succeeded.
+using Outcome = std::optional<H::Failure>;
 
-bool reachable(const Fetch::Printer &printer) {
-    return !printer.address.isEmpty() &&
-           (!printer.wake || Fetch::wake(printer.address, *printer.wake));
+Outcome reachable(const Fetch::Printer &printer) {
+    if (printer.address.isEmpty())
+        return H::Failure{Reason::NoAnswer, QStringLiteral("no printer address")};
+    if (printer.wake && !Fetch::wake(printer.address, *printer.wake))
+        return H::Failure{Reason::NoAnswer, QStringLiteral("it did not wake up")};
+    return std::nullopt;
 }
 
-bool fetchMacAddress(Fetch::Printer &printer, const char *host, Fetch::Result &result) {
-    result.macAddress = H::getMacAddress(host, printer.community);
+Outcome fetchMacAddress(Fetch::Printer &printer, const char *host, Fetch::Result &result) {
+    const H::Reading<QString> mac = H::getMacAddress(host, printer.community);
+    if (!mac.value)
+        return mac.failure;
+    result.macAddress = *mac.value;
     if (printer.wake)
         OVStoredSettings::setMacAddressStr(printer.wake->macAddressFields, result.macAddress);
-    return !result.macAddress.isNull();
+    return std::nullopt;
 }
 
-bool fetchFolders(const Fetch::Printer &printer, const char *host, Fetch::Result &result) {
+Outcome fetchFolders(const Fetch::Printer &printer, const char *host, Fetch::Result &result) {
     const int total = H::snmpGetSharedBoxEntryForIPAddress(host, printer.community);
-    result.folderNames =
+    const auto names =
         H::getValidatedSharedBoxNameArrayForIPAddress(host, printer.community, total);
-    result.folderStates =
+    const auto states =
         H::getValidatedSharedBoxStateArrayForIPAddress(host, printer.community, total);
-    result.adminLoginModeEnabled = H::getAdminLoginModeEnabled(host, printer.community);
-    return result.folderNames && result.folderStates;
+    const H::Reading<bool> adminMode = H::getAdminLoginModeEnabled(host, printer.community);
+    result.folderNames = names.value;
+    result.folderStates = states.value;
+    // A printer without the login mode, or silent on it, has it off; an
+    // answer that cannot be read decides nothing.
+    const bool adminModeUnreadable =
+        !adminMode.value && adminMode.failure.reason == Reason::Unreadable;
+    if (!adminModeUnreadable)
+        result.adminLoginModeEnabled = adminMode.value.value_or(false);
+    if (!names.value)
+        return names.failure;
+    if (!states.value)
+        return states.failure;
+    return adminModeUnreadable ? Outcome(adminMode.failure) : std::nullopt;
 }
 
-bool fetchList(ListQuery query, const Fetch::Printer &printer, const char *host,
-               std::optional<QStringList> &list) {
-    list = query(host, printer.community);
-    return list.has_value();
+Outcome fetchList(ListQuery query, const Fetch::Printer &printer, const char *host,
+                  std::optional<QStringList> &list) {
+    const H::Reading<QStringList> fetched = query(host, printer.community);
+    list = fetched.value;
+    return fetched.value ? std::nullopt : Outcome(fetched.failure);
 }
 
-bool fetchStep(Fetch::Step step, Fetch::Printer &printer, Fetch::Result &result) {
-    if (!reachable(printer))
-        return false;
+Outcome fetchStep(Fetch::Step step, Fetch::Printer &printer, Fetch::Result &result) {
+    if (const Outcome unreachable = reachable(printer))
+        return unreachable;
     const QByteArray address = printer.address.toUtf8();
     const char *host = address.constData();
     switch (step) {
@@ -57,7 +79,7 @@ bool fetchStep(Fetch::Step step, Fetch::Printer &printer, Fetch::Result &result)
         return fetchList(&H::getValidatedColorProfileForIPAddress, printer, host,
                          result.colorProfiles);
     }
-    return false;
+    return std::nullopt;
 }
 
 } // namespace
@@ -65,8 +87,8 @@ bool fetchStep(Fetch::Step step, Fetch::Printer &printer, Fetch::Result &result)
 Fetch::Result OVPrinterInfoFetch::fetch(Printer printer, std::span<const Step> steps) {
     Result result;
     for (const Step step : steps) {
-        if (!fetchStep(step, printer, result)) {
-            result.failedStep = step;
+        if (const Outcome failed = fetchStep(step, printer, result)) {
+            result.failedStep = FailedStep{step, *failed};
             break;
         }
     }

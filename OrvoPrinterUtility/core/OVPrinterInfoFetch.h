@@ -1,5 +1,7 @@
 #pragma once
 
+#include "OVSNMPHelper.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -10,8 +12,9 @@
 // What Get Printer Info asks a printer for, in its fixed order: the MAC
 // address, the shared folders with their states and the admin login mode, the
 // forms, the barcode areas, the colour profiles. The first step that fails
-// ends the fetch. The window and the command line's `fetch` both run it; it
-// blocks on the network, so the window runs it off the GUI thread.
+// ends the fetch, and the result says why. The window and the command line's
+// `fetch` both run it; it blocks on the network, so the window runs it off
+// the GUI thread.
 class OVPrinterInfoFetch {
 public:
     enum class Step { MacAddress, Folders, Forms, BarcodeAreas, ColorProfiles };
@@ -33,18 +36,24 @@ public:
         std::optional<Wake> wake;
     };
 
+    struct FailedStep {
+        Step step;
+        OVSNMPHelper::Failure failure;
+    };
+
     struct Result {
-        // Null when the step did not run or the printer did not answer.
+        // Null unless the step ran and the printer answered with a MAC address.
         QString macAddress;
         std::optional<QStringList> folderNames;
         std::optional<QStringList> folderStates;
         // Asked whenever the folder step reached the printer, even when its
-        // lists failed.
+        // lists failed. A printer that does not answer it or lacks it has
+        // the mode off; an unreadable answer fails the step and sets nothing.
         std::optional<bool> adminLoginModeEnabled;
         std::optional<QStringList> forms;
         std::optional<QStringList> barcodeAreas;
         std::optional<QStringList> colorProfiles;
-        std::optional<Step> failedStep;
+        std::optional<FailedStep> failedStep;
 
         // The folders in use (state "1"); null when the names and states are
         // missing, empty or of different lengths, which leaves a list alone.

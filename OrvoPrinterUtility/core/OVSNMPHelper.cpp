@@ -1,13 +1,12 @@
 #include "OVSNMPHelper.h"
 
 #include "OVCoreLogging.h"
-
-#include <QStringDecoder>
+#include "OVSNMPAnswer.h"
+#include "OrvoSettingsRules.h"
 
 #include <net-snmp/net-snmp-config.h>
 #include <net-snmp/net-snmp-includes.h>
 
-#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -18,6 +17,9 @@
 
 namespace {
 
+using Reason = OVSNMPHelper::Reason;
+template <typename T> using Reading = OVSNMPHelper::Reading<T>;
+
 constexpr long kSharedBox100Timeout = 10'000'000;
 constexpr long kOneSecond = 1'000'000;
 constexpr int kSleepModeRetries = 1;
@@ -25,43 +27,30 @@ constexpr int kLargeSharedBoxCount = 100;
 constexpr int kSmallSharedBoxCount = 30;
 constexpr int kListCount = 100;
 constexpr int kColorProfileCount = 30;
-constexpr size_t kTextBufferSize = 4096;
 constexpr int kNoSession = 1;
 
-constexpr const char *kSharedBoxState = ".1.3.6.1.4.1.41871.1.2.2.2.6.1.2";
-constexpr const char *kSharedBoxName = ".1.3.6.1.4.1.41871.1.2.2.2.6.1.3";
 constexpr const char *kSharedBoxProbe = ".1.3.6.1.4.1.41871.1.2.2.2.6.1.2.100";
-constexpr const char *kBarcodeAreaState = ".1.3.6.1.4.1.41871.1.2.2.2.9.1.2";
-constexpr const char *kBarcodeAreaName = ".1.3.6.1.4.1.41871.1.2.2.2.9.1.4";
-constexpr const char *kFormState = ".1.3.6.1.4.1.41871.1.2.2.2.10.1.2";
-constexpr const char *kFormName = ".1.3.6.1.4.1.41871.1.2.2.2.10.1.4";
-constexpr const char *kColorProfileState = ".1.3.6.1.4.1.41871.1.2.2.2.11.1.2";
-constexpr const char *kColorProfileName = ".1.3.6.1.4.1.41871.1.2.2.2.11.1.4";
 constexpr const char *kAdminLoginMode = ".1.3.6.1.4.1.41871.1.2.2.2.5.6.0";
 constexpr const char *kSleepMode = ".1.3.6.1.4.1.41871.1.2.1.1.6.0";
 constexpr const char *kMacAddress = ".1.3.6.1.4.1.41871.1.2.2.4.1.2.0";
 constexpr const char *kEnabled = "1";
+// The administrator login mode is on at 1 and off at 0, or at 2 where the
+// printer reports it as an SNMP truth value (1 true, 2 false). A state of a
+// table row may be any INTEGER: 1 is in use, every other value is not. The
+// sleep mode names 1 and 2 and treats every other value alike.
+constexpr OVSNMPAnswer::Range kAdminLoginModes{0, 2};
 
 struct SessionSettings {
     long timeout = SNMP_DEFAULT_TIMEOUT;
     int retries = SNMP_DEFAULT_RETRIES;
 };
 
-// What one get request brought back. values holds one entry per variable of
-// a readable answer (success, no error, first variable of the expected type);
-// an entry is empty where that variable could not be read.
+// What one get request brought back: the request status, whether the printer
+// answered without an error status, and the values as checked.
 struct Answer {
     int status = kNoSession;
     bool answered = false;
-    QList<std::optional<QString>> values;
-
-    bool complete(qsizetype count) const {
-        return values.size() == count && std::all_of(values.cbegin(), values.cend(),
-                                                     [](const auto &v) { return v.has_value(); });
-    }
-    std::optional<QString> first() const {
-        return values.isEmpty() ? std::nullopt : values.first();
-    }
+    Reading<QStringList> values;
 };
 
 struct ClassArrays {
@@ -73,6 +62,31 @@ ClassArrays &classArrays() {
     static ClassArrays arrays;
     return arrays;
 }
+
+// One column of a table: its identifier prefix, the type of its values and
+// the class-level array its query fills.
+struct Column {
+    const char *prefix;
+    u_char type;
+    QStringList ClassArrays::*array;
+};
+
+constexpr Column kSharedBoxStates{".1.3.6.1.4.1.41871.1.2.2.2.6.1.2", ASN_INTEGER,
+                                  &ClassArrays::sharedBoxState};
+constexpr Column kSharedBoxNames{".1.3.6.1.4.1.41871.1.2.2.2.6.1.3", ASN_OCTET_STR,
+                                 &ClassArrays::sharedBoxName};
+constexpr Column kBarcodeAreaStates{".1.3.6.1.4.1.41871.1.2.2.2.9.1.2", ASN_INTEGER,
+                                    &ClassArrays::barcodeAreaState};
+constexpr Column kBarcodeAreaNames{".1.3.6.1.4.1.41871.1.2.2.2.9.1.4", ASN_OCTET_STR,
+                                   &ClassArrays::barcodeAreaName};
+constexpr Column kFormStates{".1.3.6.1.4.1.41871.1.2.2.2.10.1.2", ASN_INTEGER,
+                             &ClassArrays::formState};
+constexpr Column kFormNames{".1.3.6.1.4.1.41871.1.2.2.2.10.1.4", ASN_OCTET_STR,
+                            &ClassArrays::formName};
+constexpr Column kColorProfileStates{".1.3.6.1.4.1.41871.1.2.2.2.11.1.2", ASN_INTEGER,
+                                     &ClassArrays::colorProfileState};
+constexpr Column kColorProfileNames{".1.3.6.1.4.1.41871.1.2.2.2.11.1.4", ASN_OCTET_STR,
+                                    &ClassArrays::colorProfileName};
 
 // The library is never given init_snmp(), which would read snmp.conf files
 // (where a user could change timeouts and retries), load MIB files and save
@@ -115,40 +129,6 @@ const Identifiers &identifiers(const char *text, int count = 0) {
     return result;
 }
 
-// Text up to the first zero byte, as UTF-8; nothing if it is not UTF-8.
-std::optional<QString> decodeUtf8(const char *text) {
-    QStringDecoder decoder(QStringConverter::Utf8, QStringConverter::Flag::Stateless |
-                                                       QStringConverter::Flag::ConvertInitialBom);
-    QString decoded = decoder(QByteArrayView(text, qsizetype(std::strlen(text))));
-    if (decoder.hasError())
-        return std::nullopt;
-    return decoded.isNull() ? QString("") : decoded;
-}
-
-// A variable of another type than the first one's is left unread rather than
-// reinterpreted, so an answer of mixed types can never be read out of bounds.
-std::optional<QString> readVariable(const netsnmp_variable_list *var, u_char type) {
-    if (var->type != type)
-        return std::nullopt;
-    if (type == ASN_INTEGER)
-        return QString::number(*var->val.integer);
-    if (var->val_len >= kTextBufferSize)
-        return std::nullopt;
-    std::array<char, kTextBufferSize> text{};
-    if (var->val_len > 0)
-        std::memcpy(text.data(), var->val.string, var->val_len);
-    return decodeUtf8(text.data());
-}
-
-void readResponse(const netsnmp_pdu *response, u_char type, Answer &answer) {
-    answer.answered =
-        answer.status == STAT_SUCCESS && response && response->errstat == SNMP_ERR_NOERROR;
-    if (!answer.answered || !response->variables || response->variables->type != type)
-        return;
-    for (const netsnmp_variable_list *var = response->variables; var; var = var->next_variable)
-        answer.values.append(readVariable(var, type));
-}
-
 // Net-SNMP's own words for why a session did not open or a request failed.
 void logSessionError(const char *address, netsnmp_session *session) {
     int libraryError = 0;
@@ -165,6 +145,12 @@ void logResponseError(const char *address, const netsnmp_pdu *response) {
                          << "refused:" << snmp_errstring(int(response->errstat));
 }
 
+void logUnreadable(const char *address, const Reading<QStringList> &values) {
+    if (!values.value && values.failure.reason == Reason::Unreadable)
+        qCInfo(orvoCore) << "SNMP answer from" << address
+                         << "cannot be read:" << values.failure.detail;
+}
+
 netsnmp_pdu *buildRequest(const Identifiers &names) {
     netsnmp_pdu *request = snmp_pdu_create(SNMP_MSG_GET);
     for (const std::vector<oid> &name : names) {
@@ -174,9 +160,11 @@ netsnmp_pdu *buildRequest(const Identifiers &names) {
     return request;
 }
 
-// One synchronous get request in its own session, torn down before returning.
+// One synchronous get request in its own session, torn down before
+// returning. The session is Net-SNMP's single-session kind, which shares no
+// state with requests on other threads.
 Answer exchange(const char *address, const QString &community, SessionSettings settings,
-                const Identifiers &names, u_char type) {
+                const Identifiers &names, const OVSNMPAnswer::Expected &expected) {
     prepareLibrary();
     Answer answer;
     OVSNMPHelper::PeerName peerName;
@@ -192,32 +180,47 @@ Answer exchange(const char *address, const QString &community, SessionSettings s
     settingsRecord.timeout = settings.timeout;
     settingsRecord.retries = settings.retries;
     settingsRecord.peername = peerName.data();
-    netsnmp_session *session = snmp_open(&settingsRecord);
+    void *session = snmp_sess_open(&settingsRecord);
     if (!session) {
         logSessionError(address, &settingsRecord);
         return answer;
     }
     netsnmp_pdu *response = nullptr;
-    answer.status = snmp_synch_response(session, buildRequest(names), &response);
+    {
+        const OVSNMPAnswer heard(session);
+        answer.status = snmp_sess_synch_response(session, buildRequest(names), &response);
+        answer.values = heard.read(answer.status, response, expected);
+    }
     if (answer.status != STAT_SUCCESS)
-        logSessionError(address, session);
+        logSessionError(address, snmp_sess_session(session));
     logResponseError(address, response);
-    readResponse(response, type, answer);
+    logUnreadable(address, answer.values);
+    answer.answered =
+        answer.status == STAT_SUCCESS && response && response->errstat == SNMP_ERR_NOERROR;
     if (response)
         snmp_free_pdu(response);
-    snmp_close(session);
+    snmp_sess_close(session);
     return answer;
 }
 
-bool listQuery(QStringList &array, const char *prefix, int count, u_char type, const char *address,
-               const QString &community, SessionSettings settings = {}) {
+// A scalar's one value.
+Reading<QString> scalar(const Answer &answer) {
+    if (!answer.values.value)
+        return {std::nullopt, answer.values.failure};
+    return {answer.values.value->first(), {}};
+}
+
+// Rows 1..count of a column, left in its class-level array as well (all of
+// them, or none when the query fails).
+Reading<QStringList> listQuery(const Column &column, int count, const char *address,
+                               const QString &community, SessionSettings settings = {}) {
+    QStringList &array = classArrays().*column.array;
     array.clear();
-    const Answer answer = exchange(address, community, settings, identifiers(prefix, count), type);
-    if (!answer.complete(count))
-        return false;
-    for (const auto &value : answer.values)
-        array.append(*value);
-    return true;
+    const Answer answer = exchange(address, community, settings, identifiers(column.prefix, count),
+                                   {column.type, count});
+    if (answer.values.value)
+        array = *answer.values.value;
+    return answer.values;
 }
 
 SessionSettings sharedBoxSettings(int totalCount) {
@@ -227,27 +230,28 @@ SessionSettings sharedBoxSettings(int totalCount) {
     return settings;
 }
 
-using ListQuery = bool (*)(const char *, const QString &);
-
-std::optional<QStringList> namesInUse(ListQuery stateQuery, ListQuery nameQuery,
-                                      const QStringList &states, const QStringList &names,
-                                      const char *address, const QString &community) {
-    if (!stateQuery(address, community) || !nameQuery(address, community))
-        return std::nullopt;
-    if (states.size() != names.size())
-        return std::nullopt;
+// Both columns hold count values once their queries succeed, so they pair up
+// row by row.
+Reading<QStringList> namesInUse(const Column &stateColumn, const Column &nameColumn, int count,
+                                const char *address, const QString &community) {
+    const Reading<QStringList> states = listQuery(stateColumn, count, address, community);
+    if (!states.value)
+        return states;
+    const Reading<QStringList> names = listQuery(nameColumn, count, address, community);
+    if (!names.value)
+        return names;
     QStringList inUse;
-    for (qsizetype index = 0; index < states.size(); ++index) {
-        if (states[index] == kEnabled)
-            inUse.append(names[index]);
+    for (qsizetype index = 0; index < states.value->size(); ++index) {
+        if (states.value->at(index) == kEnabled)
+            inUse.append(names.value->at(index));
     }
-    return inUse;
+    return {inUse, {}};
 }
 
-std::optional<QStringList> nonEmptyCopy(bool succeeded, const QStringList &array) {
-    if (!succeeded || array.isEmpty())
-        return std::nullopt;
-    return QStringList(array);
+// The settings' own MAC address rule, which also lets an empty one pass: the
+// printer has an address.
+bool isMacAddress(const QString &text) {
+    return !text.isEmpty() && OrvoSettingsRules::macAddress(text.toStdString()).ok();
 }
 
 } // namespace
@@ -279,114 +283,113 @@ const QStringList &OVSNMPHelper::colorProfileNameArray() {
 
 int OVSNMPHelper::snmpGetSharedBoxEntryForIPAddress(const char *address, const QString &community) {
     const Answer answer =
-        exchange(address, community, {}, identifiers(kSharedBoxProbe), ASN_INTEGER);
+        exchange(address, community, {}, identifiers(kSharedBoxProbe), {ASN_INTEGER, 1});
     return answer.answered ? kLargeSharedBoxCount : kSmallSharedBoxCount;
 }
 
 bool OVSNMPHelper::snmpGetSharedBoxStateForIPAddress(const char *address, const QString &community,
                                                      int totalCount) {
-    return listQuery(classArrays().sharedBoxState, kSharedBoxState, totalCount, ASN_INTEGER,
-                     address, community, sharedBoxSettings(totalCount));
+    return getValidatedSharedBoxStateArrayForIPAddress(address, community, totalCount)
+        .value.has_value();
 }
 
 bool OVSNMPHelper::snmpGetSharedBoxNameForIPAddress(const char *address, const QString &community,
                                                     int totalCount) {
-    return listQuery(classArrays().sharedBoxName, kSharedBoxName, totalCount, ASN_OCTET_STR,
-                     address, community, sharedBoxSettings(totalCount));
+    return getValidatedSharedBoxNameArrayForIPAddress(address, community, totalCount)
+        .value.has_value();
 }
 
 bool OVSNMPHelper::snmpGetFormStateForIPAddress(const char *address, const QString &community) {
-    return listQuery(classArrays().formState, kFormState, kListCount, ASN_INTEGER, address,
-                     community);
+    return listQuery(kFormStates, kListCount, address, community).value.has_value();
 }
 
 bool OVSNMPHelper::snmpGetFormNameForIPAddress(const char *address, const QString &community) {
-    return listQuery(classArrays().formName, kFormName, kListCount, ASN_OCTET_STR, address,
-                     community);
+    return listQuery(kFormNames, kListCount, address, community).value.has_value();
 }
 
 bool OVSNMPHelper::snmpGetBarcodeAreDefinitionStateForIPAddress(const char *address,
                                                                 const QString &community) {
-    return listQuery(classArrays().barcodeAreaState, kBarcodeAreaState, kListCount, ASN_INTEGER,
-                     address, community);
+    return listQuery(kBarcodeAreaStates, kListCount, address, community).value.has_value();
 }
 
 bool OVSNMPHelper::snmpGetBarcodeAreDefinitionNameForIPAddress(const char *address,
                                                                const QString &community) {
-    return listQuery(classArrays().barcodeAreaName, kBarcodeAreaName, kListCount, ASN_OCTET_STR,
-                     address, community);
+    return listQuery(kBarcodeAreaNames, kListCount, address, community).value.has_value();
 }
 
 bool OVSNMPHelper::snmpGetColorProfileStateForIPAddress(const char *address,
                                                         const QString &community) {
-    return listQuery(classArrays().colorProfileState, kColorProfileState, kColorProfileCount,
-                     ASN_INTEGER, address, community);
+    return listQuery(kColorProfileStates, kColorProfileCount, address, community).value.has_value();
 }
 
 bool OVSNMPHelper::snmpGetColorProfileNameForIPAddress(const char *address,
                                                        const QString &community) {
-    return listQuery(classArrays().colorProfileName, kColorProfileName, kColorProfileCount,
-                     ASN_OCTET_STR, address, community);
+    return listQuery(kColorProfileNames, kColorProfileCount, address, community).value.has_value();
 }
 
 bool OVSNMPHelper::snmpGetAdminLoginModeEnabled(const char *address, const QString &community) {
-    const Answer answer =
-        exchange(address, community, {}, identifiers(kAdminLoginMode), ASN_INTEGER);
-    return answer.first() == QString(kEnabled);
+    return getAdminLoginModeEnabled(address, community).value.value_or(false);
 }
 
-bool OVSNMPHelper::getAdminLoginModeEnabled(const char *address, const QString &community) {
-    return snmpGetAdminLoginModeEnabled(address, community);
+OVSNMPHelper::Reading<bool> OVSNMPHelper::getAdminLoginModeEnabled(const char *address,
+                                                                   const QString &community) {
+    const Reading<QString> mode = scalar(exchange(
+        address, community, {}, identifiers(kAdminLoginMode), {ASN_INTEGER, 1, kAdminLoginModes}));
+    if (!mode.value)
+        return {std::nullopt, mode.failure};
+    return {mode.value == QString(kEnabled), {}};
 }
 
-std::optional<QStringList>
+OVSNMPHelper::Reading<QStringList>
 OVSNMPHelper::getValidatedSharedBoxNameArrayForIPAddress(const char *address,
                                                          const QString &community, int totalCount) {
-    const bool succeeded = snmpGetSharedBoxNameForIPAddress(address, community, totalCount);
-    return nonEmptyCopy(succeeded, sharedBoxNameArray());
+    return listQuery(kSharedBoxNames, totalCount, address, community,
+                     sharedBoxSettings(totalCount));
 }
 
-std::optional<QStringList> OVSNMPHelper::getValidatedSharedBoxStateArrayForIPAddress(
+OVSNMPHelper::Reading<QStringList> OVSNMPHelper::getValidatedSharedBoxStateArrayForIPAddress(
     const char *address, const QString &community, int totalCount) {
-    const bool succeeded = snmpGetSharedBoxStateForIPAddress(address, community, totalCount);
-    return nonEmptyCopy(succeeded, sharedBoxStateArray());
+    return listQuery(kSharedBoxStates, totalCount, address, community,
+                     sharedBoxSettings(totalCount));
 }
 
-std::optional<QStringList>
+OVSNMPHelper::Reading<QStringList>
 OVSNMPHelper::getValidatedFormNameArrayForIPAddress(const char *address, const QString &community) {
-    return namesInUse(snmpGetFormStateForIPAddress, snmpGetFormNameForIPAddress, formStateArray(),
-                      formNameArray(), address, community);
+    return namesInUse(kFormStates, kFormNames, kListCount, address, community);
 }
 
-std::optional<QStringList>
+OVSNMPHelper::Reading<QStringList>
 OVSNMPHelper::getValidatedBarcodeAreaNameArrayForIPAddress(const char *address,
                                                            const QString &community) {
-    return namesInUse(
-        snmpGetBarcodeAreDefinitionStateForIPAddress, snmpGetBarcodeAreDefinitionNameForIPAddress,
-        barcodeAreaDefinitionStateArray(), barcodeAreaDefinitionNameArray(), address, community);
+    return namesInUse(kBarcodeAreaStates, kBarcodeAreaNames, kListCount, address, community);
 }
 
-std::optional<QStringList>
+OVSNMPHelper::Reading<QStringList>
 OVSNMPHelper::getValidatedColorProfileForIPAddress(const char *address, const QString &community) {
-    return namesInUse(snmpGetColorProfileStateForIPAddress, snmpGetColorProfileNameForIPAddress,
-                      colorProfileStateArray(), colorProfileNameArray(), address, community);
+    return namesInUse(kColorProfileStates, kColorProfileNames, kColorProfileCount, address,
+                      community);
 }
 
 int OVSNMPHelper::getSleepMode(const char *address, const QString &community, int &sleepMode) {
     sleepMode = -1;
     const Answer answer = exchange(address, community, {kOneSecond, kSleepModeRetries},
-                                   identifiers(kSleepMode), ASN_INTEGER);
-    if (const auto mode = answer.first())
-        sleepMode = int(mode->toLong());
+                                   identifiers(kSleepMode), {ASN_INTEGER, 1});
+    if (const auto mode = scalar(answer).value)
+        sleepMode = mode->toInt();
     return answer.status;
 }
 
-QString OVSNMPHelper::getMacAddress(const char *address, const QString &community) {
+OVSNMPHelper::Reading<QString> OVSNMPHelper::getMacAddress(const char *address,
+                                                           const QString &community) {
     SessionSettings settings;
     settings.timeout = kOneSecond;
-    const Answer answer =
-        exchange(address, community, settings, identifiers(kMacAddress), ASN_OCTET_STR);
-    return answer.first().value_or(QString());
+    const Reading<QString> mac = scalar(
+        exchange(address, community, settings, identifiers(kMacAddress), {ASN_OCTET_STR, 1}));
+    if (mac.value && !isMacAddress(*mac.value))
+        return {std::nullopt,
+                {Reason::Unreadable,
+                 QStringLiteral("a MAC address that is not six two-digit hexadecimal octets")}};
+    return mac;
 }
 
 // An empty address names no printer (Net-SNMP would take it for localhost),

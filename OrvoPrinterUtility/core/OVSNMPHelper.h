@@ -15,6 +15,9 @@
 // a time on its worker thread). After a list query its array holds either the
 // complete answer or nothing.
 //
+// Every answer is checked before any value of it is used (OVSNMPAnswer): a
+// query that fails says why, as a Failure.
+//
 // The library is used without reading any file: no MIB is loaded (the
 // identifiers are numeric), no snmp.conf is read (so no user setting changes
 // the timeouts below) and no persistent state is loaded or saved.
@@ -25,6 +28,26 @@ public:
     // Net-SNMP's own maximum peer-name length is larger, but every address
     // this program sends fits; a longer one is refused rather than cut.
     using PeerName = std::array<char, 256>;
+
+    // Why a query gave no value. Each asks something else of the user: to
+    // check the address and community, to check that the printer is one
+    // that keeps this information, or to report a printer that sends what
+    // its objects cannot hold.
+    enum class Reason {
+        NoAnswer,   // nothing came back (SNMP v1 is silent on a wrong community too)
+        Refused,    // the printer answered with an error status, such as noSuchName
+        Unreadable, // an answer of the wrong type, out of range, too long,
+                    // not UTF-8, or a MAC address that is not six octets
+    };
+    struct Failure {
+        Reason reason = Reason::NoAnswer;
+        QString detail; // in words, for messages and the log; may be empty
+    };
+    // A query's value, or why it has none.
+    template <typename T> struct Reading {
+        std::optional<T> value;
+        Failure failure; // meaningful only without a value
+    };
 
     static const QStringList &sharedBoxStateArray();
     static const QStringList &sharedBoxNameArray();
@@ -49,30 +72,33 @@ public:
                                                             const QString &community);
     static bool snmpGetColorProfileStateForIPAddress(const char *address, const QString &community);
     static bool snmpGetColorProfileNameForIPAddress(const char *address, const QString &community);
+    // False on any failure.
     static bool snmpGetAdminLoginModeEnabled(const char *address, const QString &community);
-    static bool getAdminLoginModeEnabled(const char *address, const QString &community);
+    static Reading<bool> getAdminLoginModeEnabled(const char *address, const QString &community);
 
-    // Copies of the whole shared-box arrays; nullopt on failure or when empty.
-    static std::optional<QStringList>
-    getValidatedSharedBoxNameArrayForIPAddress(const char *address, const QString &community,
-                                               int totalCount);
-    static std::optional<QStringList>
+    // Copies of the whole shared-box arrays; no value on failure or when empty.
+    static Reading<QStringList> getValidatedSharedBoxNameArrayForIPAddress(const char *address,
+                                                                           const QString &community,
+                                                                           int totalCount);
+    static Reading<QStringList>
     getValidatedSharedBoxStateArrayForIPAddress(const char *address, const QString &community,
                                                 int totalCount);
-    // The names of the entries in use (state "1"), in index order; nullopt on
-    // failure, an empty list when none is in use.
-    static std::optional<QStringList>
-    getValidatedFormNameArrayForIPAddress(const char *address, const QString &community);
-    static std::optional<QStringList>
+    // The names of the entries in use (state "1"), in index order; no value
+    // on failure, an empty list when none is in use.
+    static Reading<QStringList> getValidatedFormNameArrayForIPAddress(const char *address,
+                                                                      const QString &community);
+    static Reading<QStringList>
     getValidatedBarcodeAreaNameArrayForIPAddress(const char *address, const QString &community);
-    static std::optional<QStringList>
-    getValidatedColorProfileForIPAddress(const char *address, const QString &community);
+    static Reading<QStringList> getValidatedColorProfileForIPAddress(const char *address,
+                                                                     const QString &community);
 
     // The request status (0 success, 1 error, 2 timeout; 1 when no session
-    // opens). sleepMode is -1 unless the printer answered with an integer.
+    // opens). sleepMode is -1 unless the printer answered with an integer
+    // that an SNMP INTEGER can hold.
     static int getSleepMode(const char *address, const QString &community, int &sleepMode);
-    // The MAC address text, or a null string on any failure.
-    static QString getMacAddress(const char *address, const QString &community);
+    // The MAC address as six two-digit hexadecimal octets joined by ":", the
+    // form the printer sends it in; any other answer is unreadable.
+    static Reading<QString> getMacAddress(const char *address, const QString &community);
 
     // The Net-SNMP peer name for an address: the address itself, or for any
     // address with a colon "udp6:[ADDRESS]:161". The brackets differ on

@@ -60,8 +60,10 @@ void OVPrinterUtilityWindowController::fetch(std::span<const Step> steps) {
     showProgress(false);
     if (!result.failedStep)
         return;
-    qCDebug(orvoWindow) << "fetch failed at" << OVPrinterInfoFetch::stepName(*result.failedStep);
-    if (result.failedStep == Step::Folders)
+    const Fetch::FailedStep &failed = *result.failedStep;
+    qCDebug(orvoWindow) << "fetch failed at" << OVPrinterInfoFetch::stepName(failed.step) << "-"
+                        << failed.failure.detail;
+    if (failed.step == Step::Folders)
         failFolderFetch();
     else
         failFetch();

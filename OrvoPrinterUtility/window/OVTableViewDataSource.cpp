@@ -1,5 +1,6 @@
 #include "OVTableViewDataSource.h"
 
+#include "OVLineControls.h"
 #include "OVNotificationCenter.h"
 #include "OVPrinterUtilityHelper.h"
 
@@ -113,7 +114,8 @@ QVariant OVTableViewDataSource::data(const QModelIndex &index, int role) const {
     if (role != Qt::DisplayRole || !index.isValid()) {
         return {};
     }
-    return objectValueForTableColumn(index.column(), index.row());
+    // Names from the printer or the PPD: shown, never obeyed.
+    return OVLineControls::shown(objectValueForTableColumn(index.column(), index.row()));
 }
 
 Qt::ItemFlags OVTableViewDataSource::flags(const QModelIndex &index) const {

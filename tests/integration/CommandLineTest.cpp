@@ -25,6 +25,20 @@ void check(const QStringList &arguments, int exit, const QByteArray &expected,
     EXPECT_TRUE(run.shown.contains(expected)) << run.shown.toStdString();
 }
 
+// Names any user who may print can store, and how text output shows them:
+// control characters escaped, so that none reaches the terminal as a command
+// or a forged line; characters that reorder or break a line by their code, so
+// that the line reads as it is. JSON keeps them exactly.
+const std::pair<QString, QByteArray> kStoredNames[] = {
+    {QString::fromUtf8("\x1b[2J\r\nforms: (0)\xc2\x9b\\"), "\\x1b[2J\\x0d\\x0aforms: (0)\\x9b\\\\"},
+    {QStringLiteral("report\u202Efdp.exe"), "report\\u202efdp.exe"},
+    {QStringLiteral("\u2067Box\u2069 \u202A1\u202C \u202B2\u202D"),
+     "\\u2067Box\\u2069 \\u202a1\\u202c \\u202b2\\u202d"},
+    {QStringLiteral("a\u200Eb\u200Fc\u061Cd\u2066e\u2068f"),
+     "a\\u200eb\\u200fc\\u061cd\\u2066e\\u2068f"},
+    {QStringLiteral("line\u2028paragraph\u2029\uFEFFend"), "line\\u2028paragraph\\u2029\\ufeffend"},
+};
+
 // The sample PPD without its set-up line: a queue that prints but is not set up.
 QByteArray notSetUp(const QByteArray &ppd) {
     return QByteArray(ppd).replace("*OrvoSettingsUpdate: \"Accepted\"\n", "");
@@ -89,14 +103,38 @@ TEST(CommandLine, QueueAndPpdCommands) {
     check({"ppd", latin1}, 1, "is not UTF-8 text");
     // What show --json prints, save takes back unchanged but for the edits.
     QJsonObject settings = QJsonDocument::fromJson(cli({"show", "--json", "orvo"}).shown).object();
-    // Names any user who may print can store: text output shows their control characters
-    // escaped, so none reaches the terminal; JSON keeps them exactly.
-    const QString forged = QString::fromUtf8("\x1b[2J\r\nforms: (0)\xc2\x9b\\");
-    settings["barcodeAreas"] = QJsonArray{"Zone \"1\"", "区域 2", forged};
+    // Stored names in folder and barcode area lists.
+    QJsonArray folders = settings["sharedFolders"].toArray();
+    QJsonArray barcodeAreas{"Zone \"1\"", "区域 2"};
+    for (int i = 0; i < int(std::size(kStoredNames)); ++i) {
+        folders[i] = kStoredNames[i].first;
+        barcodeAreas.append(kStoredNames[i].first);
+    }
+    settings["sharedFolders"] = folders;
+    settings["barcodeAreas"] = barcodeAreas;
     settings["chosenFolderIndexes"] = QJsonArray{6};
     EXPECT_EQ(cli({"save", "orvo", "--settings", "-"}, QJsonDocument(settings).toJson()).exit, 0);
     EXPECT_EQ(QJsonDocument::fromJson(cli({"show", "--json", "orvo"}).shown).object(), settings);
-    check({"show", "orvo"}, 0, "\n  \\x1b[2J\\x0d\\x0aforms: (0)\\x9b\\\\\n");
+    const QByteArray shown = cli({"show", "orvo"}).shown;
+    for (const auto &[name, escaped] : kStoredNames)
+        EXPECT_EQ(shown.count("\n  " + escaped + "\n"), 2) << shown.toStdString();
+    // A queue's name and its make and model, in lists and in messages.
+    const QString queue = QStringLiteral("q\u202Eabc\u2066");
+    const QString makeAndModel = QStringLiteral("Orvo \u2067Printer\u2069\u2028");
+    ASSERT_TRUE(server.addQueue(
+        queue,
+        variant("bidi.ppd", QByteArray(ppd)
+                                .replace("*LanguageEncoding: ISOLatin1", "*LanguageEncoding: UTF-8")
+                                .replace("*NickName: \"Orvo Printer\"",
+                                         "*NickName: \"" + makeAndModel.toUtf8() + "\""))));
+    check({"list"}, 0, "\nq\\u202eabc\\u2066  set up      Orvo \\u2067Printer\\u2069\\u2028\n");
+    const QJsonArray queues = QJsonDocument::fromJson(cli({"list", "--json"}).shown).array();
+    const auto listed = std::find_if(queues.begin(), queues.end(),
+                                     [&](const QJsonValue &row) { return row["queue"] == queue; });
+    ASSERT_NE(listed, queues.end());
+    EXPECT_EQ(QJsonValue(*listed)["makeAndModel"], makeAndModel);
+    check({"show", queue + "x"}, 4, "no queue \"q\\u202eabc\\u2066x\"");
+    check({"setup", queue}, 0, "\"q\\u202eabc\\u2066\" was already set up");
 }
 
 // save refuses what the settings' rules refuse, naming the field, before anything is sent: a
@@ -184,15 +222,47 @@ TEST(CommandLine, SetupRefusalsLeaveTheQueueAsItWas) {
 }
 
 TEST(CommandLine, FetchesFromTheSimulatedPrinter) {
-    SimulatedPrinter printer;
+    using P = SimulatedPrinter;
+    P printer;
     ASSERT_TRUE(printer.start()) << printer.errorText().toStdString();
     printer.setDefaults();
-    const QString address = SimulatedPrinter::loopbackAddress();
+    const QString address = P::loopbackAddress();
     check({"fetch", "--address", address}, 0, "macAddress: 00:11:22:aa:bb:cc\n");
     check({"fetch", "--json", "--address", address}, 0, "\"adminLoginMode\": true");
     check({"fetch"}, 2, "--address is required");
-    printer.setSilent(true);
-    check({"fetch", "--address", address}, 5, "did not answer");
+    const auto &[name, escaped] = kStoredNames[1];
+    printer.set(P::nameOid(P::Table::Form, 2), name.toUtf8());
+    check({"fetch", "--address", address}, 0, "\nforms: (50)\n  " + escaped + "\n");
+    const CommandLineRun json = cli({"fetch", "--json", "--address", address});
+    EXPECT_EQ(QJsonDocument::fromJson(json.shown)["forms"][0], name);
+    // Each failure names the step and its reason, and prints nothing fetched.
+    const struct {
+        QByteArray oid;
+        P::Value value;
+        int exit;
+        const char *message;
+    } failures[] = {
+        {P::kMacAddress, QByteArray("00:11:22:aa:bb:cc\x1b[2J\n"), 9,
+         "answered the MAC address query with data that cannot be read: a MAC address that is "
+         "not six two-digit hexadecimal octets\n"},
+        {P::kAdminLoginMode, 4294967295L, 9,
+         "answered the shared folders query with data that cannot be read: a number wider than "
+         "32 bits\n"},
+        {P::stateOid(P::Table::ColorProfile, 30), QByteArray("\xff"), 9,
+         "answered the colour profiles query with data that cannot be read: a text where a "
+         "number belongs\n"},
+        {P::nameOid(P::Table::Form, 50),
+         {},
+         9,
+         "answered the forms query with an error: (noSuchName)"},
+        {"silent", 1L, 5,
+         "did not answer (MAC address); the address or the SNMP community may be wrong\n"},
+    };
+    for (const auto &f : failures) {
+        printer.setDefaults();
+        printer.set(f.oid, f.value);
+        check({"fetch", "--address", address}, f.exit, f.message);
+    }
 }
 
 } // namespace

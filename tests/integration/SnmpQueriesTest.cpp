@@ -1,5 +1,6 @@
 // The vendor MIB queries against a real snmpd serving a simulated printer on
 // a loopback address of this process.
+#include "OVPrinterInfoFetch.h"
 #include "OVSNMPHelper.h"
 #include "SimulatedPrinter.h"
 
@@ -10,6 +11,7 @@
 #include <arpa/inet.h>
 #include <unistd.h>
 
+#include <atomic>
 #include <future>
 
 namespace {
@@ -17,9 +19,16 @@ namespace {
 using H = OVSNMPHelper;
 using P = SimulatedPrinter;
 constexpr const char *kCommunity = "cobalt";
+constexpr const char *kTooWide = "unreadable: a number wider than 32 bits";
 
-// What a query gives, as text a table row can state.
+// What a query gives, as text a table row can state: its value, or why it
+// has none.
 enum Query { Forms, AdminMode, Mac, SleepMode };
+template <typename T> std::string failure(const H::Reading<T> &reading) {
+    constexpr const char *reasons[] = {"no answer", "refused", "unreadable"};
+    const std::string detail = reading.failure.detail.toStdString();
+    return reasons[int(reading.failure.reason)] + (detail.empty() ? "" : ": " + detail);
+}
 std::string ask(Query query, const char *ip) {
     int mode = 5;
     if (query == SleepMode) {
@@ -27,18 +36,21 @@ std::string ask(Query query, const char *ip) {
         return "status " + std::to_string(status) + " mode " + std::to_string(mode);
     }
     if (query == Mac) {
-        const QString mac = H::getMacAddress(ip, kCommunity);
-        return mac.isNull() ? "null" : mac.toStdString();
+        const auto mac = H::getMacAddress(ip, kCommunity);
+        return mac.value ? mac.value->toStdString() : failure(mac);
     }
-    if (query == AdminMode)
-        return H::snmpGetAdminLoginModeEnabled(ip, kCommunity) ? "on" : "off";
+    if (query == AdminMode) {
+        const auto enabled = H::getAdminLoginModeEnabled(ip, kCommunity);
+        return enabled.value ? (*enabled.value ? "on" : "off") : failure(enabled);
+    }
     const auto names = H::getValidatedFormNameArrayForIPAddress(ip, kCommunity);
     // After a failed query each list holds all its entries or none.
     for (const QStringList *array : {&H::formStateArray(), &H::formNameArray()})
-        if (!names && !array->isEmpty() && array->size() != 100)
+        if (!names.value && !array->isEmpty() && array->size() != 100)
             return "partial";
-    return names ? names->value(0).toStdString() + " +" + std::to_string(names->size() - 1)
-                 : "failed";
+    return names.value ? names.value->value(0).toStdString() + " +" +
+                             std::to_string(names.value->size() - 1)
+                       : failure(names);
 }
 
 TEST(SnmpQueries, AnswersOfHealthyFaultyAndSlowPrinters) {
@@ -47,15 +59,15 @@ TEST(SnmpQueries, AnswersOfHealthyFaultyAndSlowPrinters) {
     printer.setDefaults();
     const QByteArray ip = P::loopbackAddress().toLatin1();
     // Each table in use in a pattern of its own, states 2, 3 and -1 not in use.
-    EXPECT_EQ(H::getValidatedFormNameArrayForIPAddress(ip, kCommunity),
+    EXPECT_EQ(H::getValidatedFormNameArrayForIPAddress(ip, kCommunity).value,
               printer.namesInUse(P::Table::Form));
-    EXPECT_EQ(H::getValidatedBarcodeAreaNameArrayForIPAddress(ip, kCommunity),
+    EXPECT_EQ(H::getValidatedBarcodeAreaNameArrayForIPAddress(ip, kCommunity).value,
               printer.namesInUse(P::Table::BarcodeArea));
-    EXPECT_EQ(H::getValidatedColorProfileForIPAddress(ip, kCommunity),
+    EXPECT_EQ(H::getValidatedColorProfileForIPAddress(ip, kCommunity).value,
               printer.namesInUse(P::Table::ColorProfile));
-    EXPECT_EQ(H::getValidatedSharedBoxNameArrayForIPAddress(ip, kCommunity, 30).value().value(29),
+    EXPECT_EQ(H::getValidatedSharedBoxNameArrayForIPAddress(ip, kCommunity, 30).value->value(29),
               "Box30");
-    EXPECT_EQ(H::getValidatedSharedBoxStateArrayForIPAddress(ip, kCommunity, 30).value().mid(0, 4),
+    EXPECT_EQ(H::getValidatedSharedBoxStateArrayForIPAddress(ip, kCommunity, 30).value->mid(0, 4),
               QString("1 2 1 0").split(' '));
     EXPECT_EQ(H::snmpGetSharedBoxEntryForIPAddress(ip, kCommunity), 30);
     EXPECT_EQ(ask(AdminMode, ip), "on");
@@ -74,6 +86,11 @@ TEST(SnmpQueries, AnswersOfHealthyFaultyAndSlowPrinters) {
         });
     const QByteArray form2 = P::nameOid(P::Table::Form, 2); // the first form in use
     const QByteArray form50 = P::nameOid(P::Table::Form, 50);
+    const std::string kNotUtf8 = "unreadable: a text that is not UTF-8";
+    const std::string kNoSuchName =
+        "refused: (noSuchName) There is no such variable name in this MIB.";
+    const std::string kNotMac =
+        "unreadable: a MAC address that is not six two-digit hexadecimal octets";
     const struct {
         const char *label;
         QByteArray oid;
@@ -85,21 +102,48 @@ TEST(SnmpQueries, AnswersOfHealthyFaultyAndSlowPrinters) {
     } cases[] = {
         {"japaneseName", form2, QByteArray("請求書フォーム"), Forms, "請求書フォーム +49"},
         {"emptyName", form2, QByteArray(""), Forms, " +49"},
+        // A text may end with a C string's zero byte.
+        {"zeroEndedName", form2, QByteArray("Invoice\0", 8), Forms, "Invoice +49"},
         {"longestName", form2, QByteArray(4095, 'n'), Forms, std::string(4095, 'n') + " +49"},
-        {"tooLongName", form2, QByteArray(4096, 'n'), Forms, "failed"},
-        {"notUtf8", form2, QByteArray("\xe8\xab"), Forms, "failed"},
-        {"missingName", form50, {}, Forms, "failed", -1, "refused: (noSuchName)"},
+        {"adminLoginOff", P::kAdminLoginMode, 2L, AdminMode, "off"},
+        {"adminLoginZero", P::kAdminLoginMode, 0L, AdminMode, "off"},
+        {"macUpperCase", P::kMacAddress, QByteArray("00:11:22:AA:BB:CC"), Mac, "00:11:22:AA:BB:CC"},
+        // A hostile or broken printer: an answer that its object cannot hold
+        // gives no value at all, and says why.
+        {"tooLongName", form2, QByteArray(4096, 'n'), Forms,
+         "unreadable: a text of 4096 bytes, longer than 4095"},
+        {"notUtf8", form2, QByteArray("\xe8\xab"), Forms, kNotUtf8},
+        {"overlongUtf8Slash", form2, QByteArray("\xc0\xaf"), Forms, kNotUtf8},
+        {"utf8Surrogate", form2, QByteArray("\xed\xa0\x80"), Forms, kNotUtf8},
         // A later variable of another type than the first fails the list.
-        {"nameIsInteger", P::nameOid(P::Table::Form, 3), 7L, Forms, "failed"},
-        {"stateIsText", P::stateOid(P::Table::Form, 4), QByteArray("1"), Forms, "failed"},
-        {"adminLoginText", P::kAdminLoginMode, QByteArray("1"), AdminMode, "off"},
-        {"macOverlong", P::kMacAddress, QByteArray(60000, 'm'), Mac, "null"},
+        {"nameIsInteger", P::nameOid(P::Table::Form, 3), 7L, Forms,
+         "unreadable: a number where a text belongs"},
+        {"stateIsText", P::stateOid(P::Table::Form, 4), QByteArray("1"), Forms,
+         "unreadable: a text where a number belongs"},
+        // snmpd sends 2^31 to 2^32 - 1 in five octets, beyond what an INTEGER holds.
+        {"stateBeyond32Bits", P::stateOid(P::Table::Form, 4), 2147483648L, Forms, kTooWide},
+        {"adminLoginText", P::kAdminLoginMode, QByteArray("1"), AdminMode,
+         "unreadable: a text where a number belongs"},
+        {"adminLoginNegative", P::kAdminLoginMode, -1L, AdminMode,
+         "unreadable: -1 where a number from 0 to 2 belongs"},
+        {"adminLoginThree", P::kAdminLoginMode, 3L, AdminMode,
+         "unreadable: 3 where a number from 0 to 2 belongs"},
+        {"adminLoginBeyond32Bits", P::kAdminLoginMode, 4294967295L, AdminMode, kTooWide},
+        {"macOverlong", P::kMacAddress, QByteArray(60000, 'm'), Mac,
+         "unreadable: a text of 60000 bytes, longer than 4095"},
+        {"macWithEscapeAndNewline", P::kMacAddress, QByteArray("00:11:22:aa:bb:cc\x1b[2J\n"), Mac,
+         kNotMac},
+        {"macOfFiveOctets", P::kMacAddress, QByteArray("00:11:22:aa:bb"), Mac, kNotMac},
+        {"macOfSevenOctets", P::kMacAddress, QByteArray("00:11:22:aa:bb:cc:dd"), Mac, kNotMac},
+        {"macWithDashes", P::kMacAddress, QByteArray("00-11-22-aa-bb-cc"), Mac, kNotMac},
         {"sleepModeIsText", P::kSleepMode, QByteArray("1"), SleepMode, "status 0 mode -1"},
+        {"sleepModeBeyond32Bits", P::kSleepMode, 2147483649L, SleepMode, "status 0 mode -1"},
+        {"missingName", form50, {}, Forms, kNoSuchName, -1, "refused: (noSuchName)"},
         // The session settings, proved at the printer: one that never answers
         // sees each query's retries plus one.
         {"silentSleepMode", "silent", 1L, SleepMode, "status 2 mode -1", 2, "failed: Timeout"},
-        {"silentMac", "silent", 1L, Mac, "null", 6},
-        {"silentForms", "silent", 1L, Forms, "failed", 6},
+        {"silentMac", "silent", 1L, Mac, "no answer", 6},
+        {"silentForms", "silent", 1L, Forms, "no answer", 6},
     };
     for (const auto &c : cases) {
         SCOPED_TRACE(c.label);
@@ -135,6 +179,39 @@ TEST(SnmpQueries, AnswersOfHealthyFaultyAndSlowPrinters) {
     }
 }
 
+// Get Printer Info stops at the step whose answer fails, with the reason, and
+// no value of that answer reaches the result.
+TEST(SnmpQueries, FetchStopsAtTheStepThatFailedWithItsReason) {
+    using Fetch = OVPrinterInfoFetch;
+    using Reason = H::Reason;
+    P printer;
+    ASSERT_TRUE(printer.start()) << printer.errorText().toStdString();
+    const struct {
+        QByteArray oid;
+        P::Value value;
+        Fetch::Step step;
+        Reason reason;
+    } cases[] = {
+        {P::kMacAddress, QByteArray("00:11:22:aa:bb:cc\n"), Fetch::Step::MacAddress,
+         Reason::Unreadable},
+        {P::kAdminLoginMode, 3L, Fetch::Step::Folders, Reason::Unreadable},
+        {P::nameOid(P::Table::ColorProfile, 30), {}, Fetch::Step::ColorProfiles, Reason::Refused},
+    };
+    for (const auto &c : cases) {
+        SCOPED_TRACE(int(c.step));
+        printer.setDefaults();
+        printer.set(c.oid, c.value);
+        const Fetch::Result result =
+            Fetch::fetch({P::loopbackAddress(), kCommunity, std::nullopt}, Fetch::allSteps);
+        ASSERT_TRUE(result.failedStep);
+        EXPECT_EQ(result.failedStep->step, c.step);
+        EXPECT_EQ(result.failedStep->failure.reason, c.reason);
+        EXPECT_EQ(result.macAddress.isNull(), c.step == Fetch::Step::MacAddress);
+        EXPECT_EQ(result.adminLoginModeEnabled.has_value(), c.step > Fetch::Step::Folders);
+        EXPECT_FALSE(result.colorProfiles);
+    }
+}
+
 // The elements inside a constructed BER element of a request Net-SNMP built
 // (definite lengths only).
 QList<QByteArray> parts(const QByteArray &element) {
@@ -156,42 +233,67 @@ QByteArray wrap(char tag, const QByteArray &content) {
            char(n & 0xFF) + content;
 }
 
-// The answer to a v1 GET with only its first `kept` variables, each INTEGER 1,
-// which snmpd never sends: it always mirrors the variables asked.
-QByteArray truncatedResponse(const QByteArray &request, int kept) {
+// The answer to a v1 GET that snmpd never sends: `count` variables, named as
+// asked (the last name again past their end), each holding the BER element
+// `value`.
+QByteArray forgedResponse(const QByteArray &request, int count, const QByteArray &value) {
     const QList<QByteArray> message = parts(request), pdu = parts(message[2]);
+    const QList<QByteArray> asked = parts(pdu[3]);
     QByteArray bindings;
-    for (const QByteArray &binding : parts(pdu[3]).mid(0, kept))
-        bindings += wrap(0x30, parts(binding)[0] + QByteArray("\x02\x01\x01"));
+    for (int i = 0; i < count; ++i)
+        bindings += wrap(0x30, parts(asked[std::min(qsizetype(i), asked.size() - 1)])[0] + value);
     return wrap(0x30, message[0] + message[1] +
                           wrap(char(0xA2), pdu[0] + pdu[1] + pdu[2] + wrap(0x30, bindings)));
 }
 
-// Each query here sends one request, answered by a thread of the test.
-TEST(SnmpShortAnswers, GivePlainResults) {
+// Answers too short, too long, or with integers wider than Net-SNMP keeps
+// (it reads 4294967297 as 1), from a responder thread of the test.
+TEST(SnmpForgedAnswers, GiveNoValueAndSayWhy) {
     const QByteArray ip = "127.254." + P::loopbackAddress().section('.', 2).toLatin1();
     sockaddr_in at{AF_INET, htons(161), {}, {}};
     inet_pton(AF_INET, ip.constData(), &at.sin_addr);
     const int fd = socket(AF_INET, SOCK_DGRAM, 0);
-    const timeval wait{5, 0};
+    const timeval wait{0, 100'000};
     setsockopt(fd, SOL_SOCKET, SO_RCVTIMEO, &wait, sizeof wait);
     ASSERT_EQ(bind(fd, reinterpret_cast<sockaddr *>(&at), sizeof at), 0);
-    const std::tuple<int, Query, const char *> cases[] = {{1, SleepMode, "status 0 mode 1"},
-                                                          {0, SleepMode, "status 0 mode -1"},
-                                                          {99, Forms, "failed"}};
-    for (const auto &[kept, query, expected] : cases) {
-        const auto responder = std::async(std::launch::async, [fd, kept = kept] {
-            char data[65536];
-            sockaddr_in from{};
-            socklen_t size = sizeof from;
-            auto *peer = reinterpret_cast<sockaddr *>(&from);
-            const ssize_t n = recvfrom(fd, data, sizeof data, 0, peer, &size);
-            if (n <= 0)
-                return;
-            const QByteArray answer = truncatedResponse(QByteArray(data, n), kept);
-            sendto(fd, answer.data(), size_t(answer.size()), 0, peer, size);
-        });
-        EXPECT_EQ(ask(query, ip.constData()), expected) << kept;
+    const QByteArray one("\x02\x01\x01", 3);
+    const QByteArray beyond32Bits("\x02\x05\x01\x00\x00\x00\x01", 7);     // 4294967297
+    const QByteArray below32Bits("\x02\x05\xfe\xff\xff\xff\xff", 7);      // -4294967297
+    const QByteArray beyond64Bits = "\x02\x09\x01" + QByteArray(8, '\0'); // 2^64
+    const QByteArray mac = "\x04\x11" + QByteArray("00:11:22:aa:bb:cc");
+    const std::tuple<int, QByteArray, Query, std::string> cases[] = {
+        {1, one, SleepMode, "status 0 mode 1"},
+        {0, one, SleepMode, "status 0 mode -1"},
+        {1, mac, Mac, "00:11:22:aa:bb:cc"},
+        {99, one, Forms, "unreadable: 99 values for a request of 100"},
+        {101, one, Forms, "unreadable: 101 values for a request of 100"},
+        {2, mac, Mac, "unreadable: 2 values for a request of 1"},
+        {1, beyond32Bits, AdminMode, kTooWide},
+        {1, below32Bits, AdminMode, kTooWide},
+        {100, beyond32Bits, Forms, kTooWide},
+        {1, beyond32Bits, SleepMode, "status 0 mode -1"},
+        // Net-SNMP drops what it cannot parse and waits on, but an answer came.
+        {1, beyond64Bits, AdminMode,
+         "unreadable: an answer that is not an SNMP response to the request"},
+    };
+    for (const auto &[count, value, query, expected] : cases) {
+        std::atomic<bool> done = false;
+        const auto responder =
+            std::async(std::launch::async, [&done, fd, count = count, value = value] {
+                while (!done) {
+                    char data[65536];
+                    sockaddr_in from{};
+                    socklen_t size = sizeof from;
+                    auto *peer = reinterpret_cast<sockaddr *>(&from);
+                    const ssize_t n = recvfrom(fd, data, sizeof data, 0, peer, &size);
+                    if (n <= 0)
+                        continue;
+                    const QByteArray answer = forgedResponse(QByteArray(data, n), count, value);
+                    sendto(fd, answer.data(), size_t(answer.size()), 0, peer, size);
+                }
+            });
+        EXPECT_EQ(ask(query, ip.constData()), expected) << count << " " << value.toHex().data();
+        done = true;
     }
     close(fd);
 }

@@ -192,7 +192,8 @@ TEST(ControlsTest, notificationCentre) {
 }
 
 // Selection goes through the table, one event per change; removing the selected row selects
-// the next silently; a reload keeps the row while it exists; only shown text is localized.
+// the next silently; a reload keeps the row while it exists; only shown text is localized, and it
+// shows the characters that reorder or break a line by their code.
 TEST(ControlsTest, stringListModel) {
     QTableView view;
     OVTableViewDataSource source;
@@ -203,6 +204,10 @@ TEST(ControlsTest, stringListModel) {
     EXPECT_EQ(source.data(source.index(0, 0), Qt::DisplayRole), "Formular");
     EXPECT_EQ(source.getElementAtRow(0), "Form");
     OVPreferredLanguages::setOverride(std::nullopt);
+    const QString reordering = QStringLiteral("q\u202Eabc\u2028\uFEFF");
+    source.setElementsArray(QStringList{reordering});
+    EXPECT_EQ(source.data(source.index(0, 0), Qt::DisplayRole), "q\\u202eabc\\u2028\\ufeff");
+    EXPECT_EQ(source.getElementAtRow(0), reordering);
     source.setElementsArray(QStringList{"Form A", "Form B", "Form C"});
     EventRecorder events(OVTableViewDataSource::selectionChangedNotification);
     const QPoint rowB = view.visualRect(source.index(1, 0)).center();
