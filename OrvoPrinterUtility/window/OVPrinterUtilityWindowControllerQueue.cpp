@@ -1,7 +1,6 @@
 // The controller's part in the queue itself: the bar above the tabs that says
 // what keeps the window from saving, and the set-up it offers.
 #include "OVAlert.h"
-#include "OVBackgroundTask.h"
 #include "OVChooserTexts.h"
 #include "OVMessageBar.h"
 #include "OVPrinterUtilityWindowController.h"
@@ -25,7 +24,7 @@ void OVPrinterUtilityWindowController::showProblem(Problem problem) {
 }
 
 void OVPrinterUtilityWindowController::messageBarActionTriggered() {
-    if (m_busy)
+    if (m_state != State::Idle)
         return;
     if (m_problem == Problem::NotSetUp)
         setUpQueue();
@@ -34,16 +33,14 @@ void OVPrinterUtilityWindowController::messageBarActionTriggered() {
 }
 
 void OVPrinterUtilityWindowController::setUpQueue() {
-    lockSettings(OVWindowTexts::settingUpQueue);
-    m_messageBar->actionButton()->setEnabled(false);
-    OVBackgroundTask::run(
-        this, [queue = m_printerId] { return OVWindowQueue::setUp(queue); },
-        [this](const OVQueueSetup::Result &result) { setUpEnded(result); });
+    startTask(
+        State::SettingUp, [queue = m_printerId] { return OVWindowQueue::setUp(queue); },
+        [this](const OVQueueSetup::Result &result) { setUpEnded(result); },
+        OVBackgroundTask::cupsLimit);
 }
 
 void OVPrinterUtilityWindowController::setUpEnded(const OVQueueSetup::Result &result) {
-    unlockSettings();
-    m_messageBar->actionButton()->setEnabled(true);
+    enter(State::Idle);
     using Outcome = OVQueueSetup::Outcome;
     if (result.outcome == Outcome::Changed || result.outcome == Outcome::Unchanged) {
         showProblem(Problem::None);
