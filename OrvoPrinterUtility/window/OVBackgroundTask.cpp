@@ -3,9 +3,9 @@
 #include <QCoreApplication>
 #include <QMetaObject>
 
-#include <condition_variable>
 #include <deque>
 #include <mutex>
+#include <semaphore>
 #include <thread>
 
 namespace {
@@ -40,7 +40,10 @@ private:
 };
 
 // The worker thread and its queue. It lives as long as the program: a new
-// thread would set up its own per-thread libcups state again.
+// thread would set up its own per-thread libcups state again. The queue is
+// guarded by a mutex and counted by a semaphore rather than a condition
+// variable: libstdc++ waits on a condition variable inside its shared
+// library, where ThreadSanitizer does not follow the mutex.
 class Worker {
 public:
     using Call = std::pair<OVBackgroundTask::Token, std::function<std::function<void()>()>>;
@@ -48,42 +51,32 @@ public:
     Worker()
         : m_thread([this] { serve(); }) {}
     ~Worker() {
-        {
-            std::lock_guard lock(m_mutex);
-            m_stopping = true;
-        }
-        m_changed.notify_all();
+        post({}, nullptr);
         m_thread.join();
     }
 
+    // A call without a mailbox ends the thread.
     void post(Call call, Mailbox *mailbox) {
         {
             std::lock_guard lock(m_mutex);
             m_calls.emplace_back(std::move(call), mailbox);
         }
-        m_changed.notify_all();
-    }
-
-    void drain() {
-        std::unique_lock lock(m_mutex);
-        m_changed.wait(lock, [this] { return m_calls.empty() && !m_busy; });
+        m_queued.release();
     }
 
 private:
     void serve() {
-        std::unique_lock lock(m_mutex);
         for (;;) {
-            m_changed.wait(lock, [this] { return m_stopping || !m_calls.empty(); });
-            if (m_calls.empty())
+            m_queued.acquire();
+            std::pair<Call, Mailbox *> next;
+            {
+                std::lock_guard lock(m_mutex);
+                next = std::move(m_calls.front());
+                m_calls.pop_front();
+            }
+            if (!next.second)
                 return;
-            auto [call, mailbox] = std::move(m_calls.front());
-            m_calls.pop_front();
-            m_busy = true;
-            lock.unlock();
-            run(std::move(call), mailbox);
-            lock.lock();
-            m_busy = false;
-            m_changed.notify_all();
+            run(std::move(next.first), next.second);
         }
     }
 
@@ -97,10 +90,8 @@ private:
     }
 
     std::mutex m_mutex;
-    std::condition_variable m_changed;
     std::deque<std::pair<Call, Mailbox *>> m_calls;
-    bool m_busy = false;
-    bool m_stopping = false;
+    std::counting_semaphore<> m_queued{0};
     std::thread m_thread;
 };
 
@@ -123,10 +114,6 @@ Mailbox *mailbox() {
 
 void OVBackgroundTask::post(Token token, std::function<Delivery()> call) {
     worker().post({std::move(token), std::move(call)}, mailbox());
-}
-
-void OVBackgroundTask::drain() {
-    worker().drain();
 }
 
 #include "OVBackgroundTask.moc"

@@ -91,9 +91,6 @@ public:
             return std::move(*result);
     }
 
-    // Waits until every call handed over so far has ended (tests, shutdown).
-    static void drain();
-
 private:
     // What runs on the GUI thread once a call ended.
     using Delivery = std::function<void()>;

@@ -18,7 +18,6 @@
 class OVMessageBar;
 class OVTableViewDataSource;
 struct OVSettingsSnapshot;
-class QAbstractButton;
 class QLineEdit;
 class QTableView;
 class QWidget;
@@ -148,12 +147,11 @@ private:
     void resetLaunchState();
     void createDataSources();
     void connectActions();
-    QList<QAbstractButton *> fetchButtons() const;
     void enter(State state);
     void showProgress(const char *text);
-    // Runs a task on the worker; done sees its result unless it was cancelled.
-    template <typename Work, typename Done>
-    void startTask(State state, Work &&work, Done &&done, OVBackgroundTask::Limit limit);
+    // Runs a task on the print server on the worker, within the limit of
+    // such a task; done sees its result unless it was cancelled.
+    template <typename Work, typename Done> void startTask(State state, Work &&work, Done &&done);
     void bindTable(OVTableViewDataSource *dataSource, QTableView *table);
     QList<QWidget *> settingsControls() const;
     void finishLoading(const OVWindowQueue::Loaded &loaded);
@@ -206,17 +204,15 @@ private:
 // A cancelled task's result is dropped: the window is already back in the
 // state it had before the task, or closing.
 template <typename Work, typename Done>
-void OVPrinterUtilityWindowController::startTask(State state, Work &&work, Done &&done,
-                                                 OVBackgroundTask::Limit limit) {
+void OVPrinterUtilityWindowController::startTask(State state, Work &&work, Done &&done) {
     enter(state);
-    m_task = OVBackgroundTask::run(
-        this, std::forward<Work>(work),
-        [this, generation = ++m_taskGeneration,
-         done = std::forward<Done>(done)](const auto &result) mutable {
-            if (generation != m_taskGeneration || !m_task || m_task->cancelled())
-                return;
-            m_task.reset();
-            done(result);
-        },
-        limit);
+    m_task = OVBackgroundTask::run(this, std::forward<Work>(work),
+                                   [this, generation = ++m_taskGeneration,
+                                    done = std::forward<Done>(done)](const auto &result) mutable {
+                                       if (generation != m_taskGeneration || !m_task ||
+                                           m_task->cancelled())
+                                           return;
+                                       m_task.reset();
+                                       done(result);
+                                   });
 }

@@ -35,8 +35,7 @@ void OVPrinterUtilityWindowController::messageBarActionTriggered() {
 void OVPrinterUtilityWindowController::setUpQueue() {
     startTask(
         State::SettingUp, [queue = m_printerId] { return OVWindowQueue::setUp(queue); },
-        [this](const OVQueueSetup::Result &result) { setUpEnded(result); },
-        OVBackgroundTask::cupsLimit);
+        [this](const OVQueueSetup::Result &result) { setUpEnded(result); });
 }
 
 void OVPrinterUtilityWindowController::setUpEnded(const OVQueueSetup::Result &result) {

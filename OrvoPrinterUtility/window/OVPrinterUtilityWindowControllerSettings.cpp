@@ -44,8 +44,7 @@ QList<QWidget *> OVPrinterUtilityWindowController::settingsControls() const {
 void OVPrinterUtilityWindowController::loadOptionsFromPPD() {
     startTask(
         State::Loading, [printerID = m_printerId] { return OVWindowQueue::load(printerID); },
-        [this](const OVWindowQueue::Loaded &loaded) { finishLoading(loaded); },
-        OVBackgroundTask::cupsLimit);
+        [this](const OVWindowQueue::Loaded &loaded) { finishLoading(loaded); });
 }
 
 void OVPrinterUtilityWindowController::applySettings(const OVSettingsSnapshot &s) {
@@ -146,8 +145,7 @@ void OVPrinterUtilityWindowController::saveOptionsToPPD() {
         [settings = settingsSnapshot(), queue = m_printerId] {
             return OVSaveTask::run(settings, queue);
         },
-        [this](const OVWindowSave::Outcome &outcome) { saved(outcome); },
-        OVBackgroundTask::cupsLimit);
+        [this](const OVWindowSave::Outcome &outcome) { saved(outcome); });
 }
 
 OVSettingsSnapshot OVPrinterUtilityWindowController::settingsSnapshot() const {
