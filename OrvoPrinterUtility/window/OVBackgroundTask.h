@@ -69,8 +69,11 @@ public:
 
     // Runs work on the worker thread and returns its result; meanwhile the
     // event loop keeps windows painting.
+    template <typename Work> static std::invoke_result_t<Work> wait(Work &&work) {
+        return wait(std::forward<Work>(work), Waiting());
+    }
     template <typename Work>
-    static std::invoke_result_t<Work> wait(Work &&work, const Waiting &how = Waiting()) {
+    static std::invoke_result_t<Work> wait(Work &&work, const Waiting &how) {
         using Result = std::invoke_result_t<Work>;
         QObject waiting;
         bool ended = false;
