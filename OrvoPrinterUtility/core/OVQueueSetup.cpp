@@ -10,6 +10,7 @@
 #include <QRegularExpression>
 #include <QStringList>
 #include <QThread>
+#include <QUrl>
 
 #include <cups/cups.h>
 
@@ -178,19 +179,29 @@ OVQueueSetup::Found OVQueueSetup::find(http_t *http, const QString &queue) {
     return found;
 }
 
+// Fetched on this connection, so that it keeps to the deadline: cupsGetPPD2
+// may open a connection of its own that waits a minute on a server that
+// stopped answering.
 bool OVQueueSetup::fetchPpd(http_t *http, const QString &queue, Found &found) {
-    const QByteArray fileName = r_cupsGetPPD2(http, queue.toUtf8().constData());
-    if (fileName.isEmpty())
-        return cupsLastError() == IPP_STATUS_ERROR_NOT_FOUND && !OVCupsConnection::pastDeadline();
-    QFile file(QString::fromLocal8Bit(fileName));
-    found.hasPpd = file.open(QIODevice::ReadOnly);
-    found.ppd = file.readAll();
-    ppd_file_t *opened = r_ppdOpenFile(fileName.constData());
-    found.opens = opened != nullptr;
-    if (opened)
-        r_ppdClose(opened);
-    unlink(fileName.constData());
-    return true;
+    char fileName[1024];
+    const int fd = cupsTempFd(fileName, sizeof fileName);
+    if (fd < 0)
+        return false;
+    const QByteArray resource = "/printers/" + QUrl::toPercentEncoding(queue) + ".ppd";
+    const http_status_t status = cupsGetFd(http, resource.constData(), fd);
+    close(fd);
+    if (status == HTTP_STATUS_OK) {
+        QFile file(QString::fromLocal8Bit(fileName));
+        found.hasPpd = file.open(QIODevice::ReadOnly);
+        found.ppd = file.readAll();
+        ppd_file_t *opened = r_ppdOpenFile(fileName);
+        found.opens = opened != nullptr;
+        if (opened)
+            r_ppdClose(opened);
+    }
+    unlink(fileName);
+    return status == HTTP_STATUS_OK ||
+           (status == HTTP_STATUS_NOT_FOUND && !OVCupsConnection::pastDeadline());
 }
 
 std::optional<QList<OVQueueSetup::Queue>> OVQueueSetup::queues() {
