@@ -88,8 +88,8 @@ int failure(const OVQueueSetup::Result &result, const QString &queue) {
                           "Utility (its filter and MIME files) on the print server" +
                               unchanged);
     default:
-        return OVCommandLine::fail(Exit::Failed,
-                                   "the server did not change \"" + queue + "\": " + result.detail);
+        return OVCommandLine::fail(Exit::Failed, "the change to \"" + queue +
+                                                     "\" did not succeed: " + result.detail);
     }
 }
 

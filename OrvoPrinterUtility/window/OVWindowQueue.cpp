@@ -37,11 +37,13 @@ OVWindowQueue::Loaded OVWindowQueue::load(const QString &queue) {
     loaded.server = OVCupsConnection::serverName();
     OVSettingsSnapshot settings;
     const Status status = OVStoredSettings::load(queue, settings);
-    if (status == Status::Loaded)
-        loaded.settings = settings;
     const State state =
         status == Status::ServerUnreachable ? State::ServerUnreachable : OVQueueSetup::state(queue);
     loaded.problem = problemOf(status, state);
+    // What a damaged PPD still holds is shown once the repair kept it: until
+    // then the defaults would pass for the settings it lost.
+    if (status == Status::Loaded && loaded.problem != Problem::Damaged)
+        loaded.settings = settings;
     qCDebug(orvoWindow) << "queue" << queue << "loaded:" << int(status) << "state:" << int(state);
     return loaded;
 }

@@ -556,6 +556,10 @@
         <translation>Nicht eingerichtet</translation>
     </message>
     <message>
+        <source>Damaged: repair it</source>
+        <translation>Beschädigt: reparieren</translation>
+    </message>
+    <message>
         <source>Asking the print server for its queues...</source>
         <translation>Die Warteschlangen werden beim Druckserver abgefragt...</translation>
     </message>

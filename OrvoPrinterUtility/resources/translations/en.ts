@@ -556,6 +556,10 @@
         <translation>Not set up</translation>
     </message>
     <message>
+        <source>Damaged: repair it</source>
+        <translation>Damaged: repair it</translation>
+    </message>
+    <message>
         <source>Asking the print server for its queues...</source>
         <translation>Asking the print server for its queues...</translation>
     </message>

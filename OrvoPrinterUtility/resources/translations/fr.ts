@@ -556,6 +556,10 @@
         <translation>Non configurée</translation>
     </message>
     <message>
+        <source>Damaged: repair it</source>
+        <translation>Endommagée : à réparer</translation>
+    </message>
+    <message>
         <source>Asking the print server for its queues...</source>
         <translation>Interrogation du serveur d&apos;impression sur ses files...</translation>
     </message>

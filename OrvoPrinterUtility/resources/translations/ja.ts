@@ -556,6 +556,10 @@
         <translation>未設定</translation>
     </message>
     <message>
+        <source>Damaged: repair it</source>
+        <translation>破損: 修復が必要</translation>
+    </message>
+    <message>
         <source>Asking the print server for its queues...</source>
         <translation>プリントサーバーにキューを問い合わせています...</translation>
     </message>

@@ -556,6 +556,10 @@
         <translation>未设置</translation>
     </message>
     <message>
+        <source>Damaged: repair it</source>
+        <translation>已损坏：需要修复</translation>
+    </message>
+    <message>
         <source>Asking the print server for its queues...</source>
         <translation>正在向打印服务器查询其队列...</translation>
     </message>

@@ -556,6 +556,10 @@
         <translation>未設定</translation>
     </message>
     <message>
+        <source>Damaged: repair it</source>
+        <translation>已損壞：需要修復</translation>
+    </message>
+    <message>
         <source>Asking the print server for its queues...</source>
         <translation>正在向列印伺服器查詢其佇列...</translation>
     </message>
