@@ -18,6 +18,7 @@ void OVPrinterUtilityWindowController::showProblem(Problem problem) {
     }
     // The one way out the window itself has, where there is one.
     const char *action = problem == Problem::NotSetUp            ? OVWindowTexts::setUpButton
+                         : problem == Problem::Damaged           ? OVWindowTexts::repairButton
                          : problem == Problem::ServerUnreachable ? OVChooserTexts::retry
                                                                  : nullptr;
     m_messageBar->showMessage(OVWindowQueue::problemText(problem, m_printerId, m_server),
@@ -27,17 +28,20 @@ void OVPrinterUtilityWindowController::showProblem(Problem problem) {
 void OVPrinterUtilityWindowController::messageBarActionTriggered() {
     if (m_busy)
         return;
-    if (m_problem == Problem::NotSetUp)
-        setUpQueue();
+    if (m_problem == Problem::NotSetUp || m_problem == Problem::Damaged)
+        setUpQueue(m_problem == Problem::Damaged);
     else if (m_problem == Problem::ServerUnreachable)
         loadOptionsFromPPD();
 }
 
-void OVPrinterUtilityWindowController::setUpQueue() {
+void OVPrinterUtilityWindowController::setUpQueue(bool repair) {
     lockSettings(OVWindowTexts::settingUpQueue);
     m_messageBar->actionButton()->setEnabled(false);
     OVBackgroundTask::run(
-        this, [queue = m_printerId] { return OVWindowQueue::setUp(queue); },
+        this,
+        [queue = m_printerId, repair] {
+            return repair ? OVWindowQueue::repair(queue) : OVWindowQueue::setUp(queue);
+        },
         [this](const OVQueueSetup::Result &result) { setUpEnded(result); });
 }
 
@@ -46,7 +50,11 @@ void OVPrinterUtilityWindowController::setUpEnded(const OVQueueSetup::Result &re
     m_messageBar->actionButton()->setEnabled(true);
     using Outcome = OVQueueSetup::Outcome;
     if (result.outcome == Outcome::Changed || result.outcome == Outcome::Unchanged) {
-        showProblem(Problem::None);
+        // A repaired queue has settings to show now, where the window showed defaults.
+        if (m_problem == Problem::Damaged)
+            loadOptionsFromPPD();
+        else
+            showProblem(Problem::None);
         return;
     }
     alert(OVWindowQueue::setUpFailureText(result, m_printerId, m_server));

@@ -140,7 +140,9 @@ void OVPrinterUtilityWindowController::saved(const OVWindowSave::Outcome &outcom
               OVWindowSave::listsToShortenText(outcome.verdict));
         return;
     }
-    if (!outcome.queueSetUp || outcome.save.result == OVSettingsSave::Result::Damaged)
+    if (outcome.queueDamaged || outcome.save.result == OVSettingsSave::Result::Damaged)
+        showProblem(OVWindowQueue::Problem::Damaged);
+    else if (!outcome.queueSetUp)
         showProblem(OVWindowQueue::Problem::NotSetUp);
     alert(OVWindowSave::failureText(outcome, m_printerId));
 }

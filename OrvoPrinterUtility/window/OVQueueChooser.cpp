@@ -29,7 +29,9 @@ constexpr int searchRole = Qt::UserRole + 1;
 QList<QStandardItem *> queueRow(const OVQueueSetup::Queue &queue) {
     QList<QStandardItem *> row;
     for (const QString &cell : {queue.name, queue.description, queue.makeAndModel,
-                                T::localized(queue.setUp ? T::setUp : T::notSetUp)}) {
+                                T::localized(queue.damaged ? T::damaged
+                                             : queue.setUp ? T::setUp
+                                                           : T::notSetUp)}) {
         auto *item = new QStandardItem(cell);
         item->setEditable(false);
         row << item;

@@ -45,7 +45,9 @@ void OVWindowSave::save(QObject *context, const OVSettingsSnapshot &settings,
                 return outcome;
             // On a queue that is not set up the update job would be printed,
             // and the settings lost.
-            outcome.queueSetUp = OVQueueSetup::state(printerID) != OVQueueSetup::State::NotSetUp;
+            const OVQueueSetup::State state = OVQueueSetup::state(printerID);
+            outcome.queueDamaged = state == OVQueueSetup::State::Damaged;
+            outcome.queueSetUp = state != OVQueueSetup::State::NotSetUp && !outcome.queueDamaged;
             if (outcome.queueSetUp)
                 outcome.save = OVSettingsSave::save(settings, printerID);
             qCDebug(orvoWindow) << "save to" << printerID << "set up:" << outcome.queueSetUp
@@ -59,6 +61,8 @@ void OVWindowSave::save(QObject *context, const OVSettingsSnapshot &settings,
 QString OVWindowSave::failureText(const Outcome &outcome, const QString &queue) {
     using Result = OVSettingsSave::Result;
     const OVSettingsSave::Outcome &save = outcome.save;
+    if (outcome.queueDamaged)
+        return localized(damagedPpd).arg(queue);
     if (!outcome.queueSetUp)
         return localized(queueNotSetUp).arg(queue);
     switch (save.result) {
@@ -72,6 +76,8 @@ QString OVWindowSave::failureText(const Outcome &outcome, const QString &queue) 
         return jobFailureText(save);
     case Result::NotHeld:
         return localized(saveNotHeld).arg(save.jobId).arg(save.differing.join(", "));
+    case Result::Replaced:
+        return localized(saveReplaced).arg(save.jobId).arg(save.replacedBy);
     case Result::Damaged:
         return localized(saveDamaged).arg(queue);
     case Result::NotReadBack:

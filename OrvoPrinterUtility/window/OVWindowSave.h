@@ -24,6 +24,8 @@ public:
         OrvoSettingsVerdict verdict;
         // False: the queue is not set up, and nothing was sent.
         bool queueSetUp = true;
+        // True: the queue's PPD is damaged, and nothing was sent.
+        bool queueDamaged = false;
         OVSettingsSave::Outcome save;
 
         bool stored() const {
