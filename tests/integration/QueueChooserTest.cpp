@@ -117,7 +117,7 @@ protected:
         QTemporaryDir dir;
         ASSERT_TRUE(cups.addQueue("Alpha") && cups.addQueue("Beta") &&
                     cups.addQueue("Gamma", plainPpd(dir)) &&
-                    cups.lpadmin({"-p", "Gamma", "-D", "Lab on the second floor"}));
+                    cups.lpadmin({"-p", "Gamma", "-D", "Lab on the second floor\u202E"}));
         // A second server whose queue changes need an administrator's
         // password, with exactly one queue set up.
         CupsServer::Options options;
@@ -147,7 +147,8 @@ TEST_F(QueueChooserTest, ListsEveryQueueWithItsStateAndFilters) {
     ASSERT_TRUE(m_chooser.isVisible());
     const QTableView *table = m_chooser.queueTable();
     EXPECT_EQ(column(table, 0), (QStringList{"Alpha", "Beta", "Gamma"}));
-    EXPECT_EQ(column(table, 1).last(), "Lab on the second floor");
+    // Characters that would reorder the line show by their code.
+    EXPECT_EQ(column(table, 1).last(), "Lab on the second floor\\u202e");
     EXPECT_EQ(column(table, 2), (QStringList{"Orvo Printer", "Orvo Printer", "Lab Colour Laser"}));
     EXPECT_EQ(column(table, 3), (QStringList{"Set up", "Set up", "Not set up"}));
     EXPECT_EQ(m_chooser.chosenQueue(), "Alpha");
