@@ -24,19 +24,32 @@ const QCommandLineOption settingsFileOption(
     "settings", "Read settings from a JSON file (\"-\": standard input), keys as \"show --json\".",
     "file");
 
+// A damaged PPD says nothing true about the settings, so nothing is shown
+// from it: the way back is named instead.
+int damagedFailure(const QString &queue, const QString &when = {}) {
+    return OVCommandLine::fail(Exit::Failed, "the PPD of \"" + queue + "\" is damaged" + when +
+                                                 ": repair it with: orvo-printer-utility-cli "
+                                                 "setup --repair " +
+                                                 queue);
+}
+
 int loadFailure(OVStoredSettings::Status status, const QString &queue) {
-    switch (status) {
-    case OVStoredSettings::Status::ServerUnreachable:
+    if (status == OVStoredSettings::Status::ServerUnreachable)
         return OVCommandLine::serverFailure();
-    case OVStoredSettings::Status::NoPPD:
-        if (OVQueueSetup::state(queue) == OVQueueSetup::State::QueueUnknown)
-            return OVCommandLine::fail(Exit::QueueUnknown,
-                                       "no queue \"" + queue + "\" on the server");
+    switch (OVQueueSetup::state(queue)) {
+    case OVQueueSetup::State::ServerUnreachable:
+        return OVCommandLine::serverFailure();
+    case OVQueueSetup::State::QueueUnknown:
+        return OVCommandLine::fail(Exit::QueueUnknown, "no queue \"" + queue + "\" on the server");
+    case OVQueueSetup::State::Damaged:
+        return damagedFailure(queue);
+    default:
+        break;
+    }
+    if (status == OVStoredSettings::Status::NoPPD)
         return OVCommandLine::fail(Exit::Refused, "the queue \"" + queue +
                                                       "\" has no PPD, so it keeps no settings");
-    default:
-        return OVCommandLine::fail(Exit::Failed, "the PPD of \"" + queue + "\" cannot be read");
-    }
+    return OVCommandLine::fail(Exit::Failed, "the PPD of \"" + queue + "\" cannot be read");
 }
 
 // What became of a sent update job, said as what it is.
@@ -80,6 +93,8 @@ int notReadyToSave(OVQueueSetup::State state, const QString &queue) {
                                                       queue);
     case OVQueueSetup::State::QueueUnknown:
         return OVCommandLine::fail(Exit::QueueUnknown, "no queue \"" + queue + "\" on the server");
+    case OVQueueSetup::State::Damaged:
+        return damagedFailure(queue, "; nothing was sent");
     default:
         return OVCommandLine::serverFailure();
     }
@@ -98,17 +113,6 @@ int submissionFailure(const OVSettingsSave::Outcome &outcome) {
             .arg(QString::fromUtf8(ippErrorString(outcome.refusal)), outcome.refusalText));
 }
 
-// A save that completed but left a PPD the server cannot use (a server that
-// died while writing it, a full disk) must be said, with the way back.
-int damaged(const QString &queue) {
-    return OVCommandLine::fail(Exit::Failed,
-                               "the PPD of \"" + queue +
-                                   "\" is damaged after the save: restore the route with "
-                                   "\"orvo-printer-utility-cli setup " +
-                                   queue + "\"; the server keeps the PPD it had before as ppd/" +
-                                   queue + ".ppd.O in its configuration folder (/etc/cups)");
-}
-
 // What became of a sent update job.
 int saved(const OVSettingsSave::Outcome &outcome, const QString &queue, bool json) {
     switch (outcome.result) {
@@ -117,7 +121,8 @@ int saved(const OVSettingsSave::Outcome &outcome, const QString &queue, bool jso
     case OVSettingsSave::Result::JobNotCompleted:
         return jobFailure(outcome.job, outcome.jobId);
     case OVSettingsSave::Result::Damaged:
-        return damaged(queue);
+        // A server that died while writing the PPD, or a full disk.
+        return damagedFailure(queue, " after the save");
     case OVSettingsSave::Result::NotReadBack:
         return loadFailure(outcome.readBack, queue);
     default:
@@ -129,11 +134,21 @@ int saved(const OVSettingsSave::Outcome &outcome, const QString &queue, bool jso
                        {"job", jobId},
                        {"stored", differing.isEmpty()},
                        {"differing", QJsonArray::fromStringList(differing)}};
+    if (outcome.replacedBy != 0)
+        result.insert("replacedBy", outcome.replacedBy);
     OVCommandLine::print(
         json, result,
         differing.isEmpty()
             ? QStringLiteral("Saved with job %1; the PPD holds the settings.\n").arg(jobId)
             : QString());
+    if (outcome.result == OVSettingsSave::Result::Replaced)
+        return OVCommandLine::fail(
+            Exit::Failed, QStringLiteral("update job %1 completed; a later save to the queue "
+                                         "(job %2) then replaced its settings; the PPD holds that "
+                                         "save's values for: %3")
+                              .arg(jobId)
+                              .arg(outcome.replacedBy)
+                              .arg(differing.join(", ")));
     if (!differing.isEmpty())
         return OVCommandLine::fail(Exit::Failed, "the PPD does not hold: " + differing.join(", "));
     return Exit::Success;
@@ -168,11 +183,14 @@ int OVQueueCommands::list(const QCommandLineParser &, bool json) {
     for (const OVQueueSetup::Queue &queue : *queues) {
         rows << QJsonObject{{"queue", queue.name},
                             {"setUp", queue.setUp},
+                            {"damaged", queue.damaged},
                             {"description", queue.description},
                             {"makeAndModel", queue.makeAndModel}};
         text += QStringLiteral("%1  %2  %3\n")
                     .arg(OVCommandLine::visible(queue.name).leftJustified(width),
-                         queue.setUp ? "set up    " : "not set up",
+                         queue.damaged ? "damaged   "
+                         : queue.setUp ? "set up    "
+                                       : "not set up",
                          OVCommandLine::visible(queue.makeAndModel));
     }
     OVCommandLine::print(json, rows, text);
@@ -186,6 +204,8 @@ int OVQueueCommands::show(const QCommandLineParser &parser, bool json) {
     const auto status = OVStoredSettings::load(queue, settings, &ignored);
     if (status != OVStoredSettings::Status::Loaded)
         return loadFailure(status, queue);
+    if (OVQueueSetup::state(queue) == OVQueueSetup::State::Damaged)
+        return damagedFailure(queue);
     // Lines the utility could not have written (any user who may print can
     // send an update job) show as the setting's default; the line is named.
     for (const QString &line : ignored)

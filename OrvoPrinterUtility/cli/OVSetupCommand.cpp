@@ -18,11 +18,22 @@ using Exit = OVCommandLine::Exit;
 using Outcome = OVQueueSetup::Outcome;
 const QCommandLineOption
     removeOption("remove", "Take the set-up line out again; saved settings stay in the PPD.");
+const QCommandLineOption repairOption(
+    "repair",
+    "Rebuild a damaged PPD from the queue's driver, keeping the settings it still holds.");
 // libcups asks again after a wrong password; three tries, as login programs allow.
 constexpr int passwordTries = 3;
 
-QString doneText(const QString &queue, bool remove, bool changed) {
-    if (remove)
+enum class Action { SetUp, Remove, Repair };
+
+QString doneText(const QString &queue, Action action, bool changed) {
+    if (action == Action::Repair)
+        return changed
+                   ? QStringLiteral("\"%1\" is repaired and set up: its PPD was rebuilt from "
+                                    "its driver with the settings it still held.\n")
+                         .arg(queue)
+                   : QStringLiteral("\"%1\" is set up and whole; nothing changed.\n").arg(queue);
+    if (action == Action::Remove)
         return changed ? QStringLiteral("\"%1\" no longer takes the utility's saves; its saved "
                                         "settings stay in the PPD.\n")
                              .arg(queue)
@@ -33,9 +44,31 @@ QString doneText(const QString &queue, bool remove, bool changed) {
                    : QStringLiteral("\"%1\" was already set up; nothing changed.\n").arg(queue);
 }
 
+QString repairCommand(const QString &queue) {
+    return "orvo-printer-utility-cli setup --repair " + queue;
+}
+
 int failure(const OVQueueSetup::Result &result, const QString &queue) {
     const QString unchanged = QStringLiteral("; the queue is unchanged");
     switch (result.outcome) {
+    case Outcome::Unknown:
+        return OVCommandLine::fail(
+            Exit::ServerUnreachable,
+            "the CUPS server stopped answering after the change was sent, so whether \"" + queue +
+                "\" took it is unknown; run the same command again once the server answers: it "
+                "changes only what is not done yet");
+    case Outcome::Damaged:
+        return OVCommandLine::fail(Exit::Failed, "the PPD of \"" + queue + "\" is damaged" +
+                                                     unchanged +
+                                                     "; repair it with: " + repairCommand(queue));
+    case Outcome::NoDriver:
+        return OVCommandLine::fail(Exit::Failed,
+                                   "no driver on the server has the queue's make and model \"" +
+                                       result.detail + "\"" + unchanged +
+                                       "; give the queue its driver with: lpadmin -p " + queue +
+                                       " -m DRIVER (\"lpinfo -m\" lists them), then run: "
+                                       "orvo-printer-utility-cli setup " +
+                                       queue + " (settings the damaged PPD held are lost then)");
     case Outcome::ServerUnreachable:
         return OVCommandLine::serverFailure();
     case Outcome::QueueUnknown:
@@ -55,7 +88,8 @@ int failure(const OVQueueSetup::Result &result, const QString &queue) {
                           "Utility (its filter and MIME files) on the print server" +
                               unchanged);
     default:
-        return OVCommandLine::fail(Exit::Failed, "setting up failed: " + result.detail);
+        return OVCommandLine::fail(Exit::Failed, "the change to \"" + queue +
+                                                     "\" did not succeed: " + result.detail);
     }
 }
 
@@ -71,6 +105,7 @@ void setEcho(bool on) {
 
 void OVSetupCommand::addOptions(QCommandLineParser &parser) {
     parser.addOption(removeOption);
+    parser.addOption(repairOption);
 }
 
 // Asked on a terminal only: a script gets the refusal instead of a hang.
@@ -92,16 +127,22 @@ const char *OVSetupCommand::askPassword(const char *prompt, http_t *, const char
 
 int OVSetupCommand::run(const QCommandLineParser &parser, bool json) {
     const QString queue = parser.positionalArguments().first();
-    const bool remove = parser.isSet(removeOption);
+    if (parser.isSet(removeOption) && parser.isSet(repairOption))
+        return OVCommandLine::fail(Exit::Usage, "--remove and --repair exclude each other");
+    const Action action = parser.isSet(removeOption)   ? Action::Remove
+                          : parser.isSet(repairOption) ? Action::Repair
+                                                       : Action::SetUp;
     int tries = 0;
     cupsSetPasswordCB2(askPassword, &tries);
-    const OVQueueSetup::Result result =
-        remove ? OVQueueSetup::remove(queue) : OVQueueSetup::setUp(queue);
+    const OVQueueSetup::Result result = action == Action::Remove   ? OVQueueSetup::remove(queue)
+                                        : action == Action::Repair ? OVQueueSetup::repair(queue)
+                                                                   : OVQueueSetup::setUp(queue);
     if (result.outcome != Outcome::Changed && result.outcome != Outcome::Unchanged)
         return failure(result, queue);
     const bool changed = result.outcome == Outcome::Changed;
-    OVCommandLine::print(json,
-                         QJsonObject{{"queue", queue}, {"setUp", !remove}, {"changed", changed}},
-                         doneText(OVCommandLine::visible(queue), remove, changed));
+    OVCommandLine::print(
+        json,
+        QJsonObject{{"queue", queue}, {"setUp", action != Action::Remove}, {"changed", changed}},
+        doneText(OVCommandLine::visible(queue), action, changed));
     return Exit::Success;
 }

@@ -38,6 +38,12 @@ public:
     explicit operator bool() const { return m_http != nullptr; }
     // Whether the task's time is up, or it was cancelled.
     bool expired() const { return m_token->stopped(); }
+    // Whether the calling thread's task ran out of time or was cancelled: a
+    // failure then means the server did not answer in time.
+    static bool pastDeadline() {
+        const std::shared_ptr<OVTaskToken> task = OVTaskToken::current();
+        return task && task->stopped();
+    }
 
 private:
     static int keepWaiting(http_t *http, void *connection);

@@ -3,6 +3,7 @@
 #include "OrvoSettingsKeywords.h"
 
 #include <QList>
+#include <QRegularExpression>
 
 #include <algorithm>
 
@@ -102,6 +103,52 @@ bool holds(const Lines &lines, const char *keyword) {
                        [&](const QByteArray &line) { return line.startsWith(start); });
 }
 
+// The settings keywords as one alternative of a regular expression.
+QString settingsKeywords() {
+    QStringList names;
+    for (const K::Keyword &keyword : K::all) {
+        if (keyword.encoding != K::Encoding::JobMarker)
+            names << keyword.name;
+    }
+    return "(?:" + names.join('|') + ")";
+}
+
+// A settings line whose value is whole: a quoted value on one line, as the
+// filter writes every setting. Captures the keyword and its setting without
+// the part number.
+const QRegularExpression &settingsLine() {
+    static const QRegularExpression line(
+        QStringLiteral("^\\*((%1\\d*)(?:_Part\\d)?): \"[^\"\\r\\n]*\"$").arg(settingsKeywords()));
+    return line;
+}
+
+Lines settingsLines(const QByteArray &ppd) {
+    Lines found;
+    for (const QByteArray &line : splitLines(ppd)) {
+        if (settingsLine().match(QString::fromLatin1(content(line))).hasMatch())
+            found << content(line);
+    }
+    return found;
+}
+
+// The setting (keyword and index) whose later parts a cut PPD may have lost:
+// the one its last, unfinished line belongs to, or, when it ends at a line
+// end, the one in parts that its last settings line belongs to.
+QString cutSetting(const QByteArray &ppd, const Lines &whole) {
+    static const QRegularExpression partial(
+        QStringLiteral("^\\*(%1\\d*)(?:_|:|$)").arg(settingsKeywords()));
+    const Lines lines = splitLines(ppd);
+    if (!lines.isEmpty() && content(lines.last()) == lines.last())
+        return partial.match(QString::fromLatin1(lines.last())).captured(1);
+    if (!whole.isEmpty() && whole.last().contains("_Part"))
+        return settingsLine().match(QString::fromLatin1(whole.last())).captured(2);
+    return {};
+}
+
+QByteArray keywordOf(const QByteArray &text) {
+    return text.left(text.indexOf(':'));
+}
+
 } // namespace
 
 bool OVSettingsRoute::isIn(const QByteArray &ppd) {
@@ -129,4 +176,30 @@ QByteArray OVSettingsRoute::added(const QByteArray &ppd) {
 
 QByteArray OVSettingsRoute::removed(const QByteArray &ppd) {
     return withoutSetUp(ppd, false).join();
+}
+
+bool OVSettingsRoute::looksCut(const QByteArray &ppd) {
+    return !settingsLines(ppd).isEmpty() && !ppd.contains("\n*PageSize ");
+}
+
+QByteArray OVSettingsRoute::withSettingsOf(const QByteArray &fresh, const QByteArray &damaged) {
+    Lines kept = settingsLines(damaged);
+    const QString lost = looksCut(damaged) ? cutSetting(damaged, kept) : QString();
+    kept.removeIf([&](const QByteArray &line) {
+        return !lost.isEmpty() &&
+               settingsLine().match(QString::fromLatin1(line)).captured(2) == lost;
+    });
+    QList<QByteArray> keywords;
+    for (const QByteArray &line : kept)
+        keywords << keywordOf(line);
+    Lines lines;
+    for (const QByteArray &line : splitLines(fresh)) {
+        if (!keywords.contains(keywordOf(content(line))))
+            lines << line;
+    }
+    const QByteArray end = lineEnd(lines);
+    const qsizetype at = std::min<qsizetype>(1, lines.size());
+    for (qsizetype i = 0; i < kept.size(); ++i)
+        lines.insert(at + i, kept[i] + end);
+    return lines.join();
 }

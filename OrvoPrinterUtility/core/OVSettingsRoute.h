@@ -18,4 +18,14 @@ public:
     // The PPD without the set-up line and the lines added with it; the
     // settings stay, saved ones included.
     static QByteArray removed(const QByteArray &ppd);
+
+    // Whether a PPD was cut short while it was written: it holds settings
+    // but no page sizes (every PPD that prints has them; cupsd writes saved
+    // settings first). One that merely lacks the set-up line is whole: that
+    // is what setup --remove leaves.
+    static bool looksCut(const QByteArray &ppd);
+    // A fresh PPD with the settings lines another, damaged, PPD still holds
+    // whole. When the damaged PPD was cut just after a part of a value
+    // written in parts, that value is left out: its later parts may be lost.
+    static QByteArray withSettingsOf(const QByteArray &fresh, const QByteArray &damaged);
 };

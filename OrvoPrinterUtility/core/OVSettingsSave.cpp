@@ -1,11 +1,15 @@
 #include "OVSettingsSave.h"
 
+#include "OVCupsConnection.h"
 #include "OVQueueSetup.h"
 #include "OrvoSNMPHelper.h"
 #include "OrvoSettingsCodec.h"
 #include "OrvoSettingsComparison.h"
 
 #include <cups/cups.h>
+
+#include <algorithm>
+#include <iterator>
 
 namespace {
 
@@ -53,6 +57,51 @@ void OVSettingsSave::readBack(Outcome &outcome, const OVSettingsSnapshot &settin
         outcome.result = Result::NotReadBack;
     else
         outcome.result = outcome.differing.isEmpty() ? Result::Stored : Result::NotHeld;
+    // Saves to one queue run one after another: a later one that completed
+    // wrote its own values over these, which is no fault of the server.
+    if (outcome.result == Result::NotHeld) {
+        outcome.replacedBy = laterUpdateJob(queue, outcome.jobId);
+        if (outcome.replacedBy != 0)
+            outcome.result = Result::Replaced;
+    }
+}
+
+int OVSettingsSave::laterUpdateJob(const QString &queue, int jobId) {
+    const OVCupsConnection connection;
+    if (!connection)
+        return 0;
+    char uri[HTTP_MAX_URI];
+    httpAssembleURIf(HTTP_URI_CODING_ALL, uri, sizeof uri, "ipp", nullptr, "localhost", ippPort(),
+                     "/printers/%s", queue.toUtf8().constData());
+    static const char *const wanted[] = {"job-id", "job-state", "document-format-supplied"};
+    ipp_t *request = ippNewRequest(IPP_OP_GET_JOBS);
+    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr, uri);
+    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "which-jobs", nullptr, "completed");
+    ippAddStrings(request, IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes",
+                  std::size(wanted), nullptr, wanted);
+    ipp_t *response = cupsDoRequest(connection.http(), request, "/");
+    int later = 0, id = 0;
+    bool update = false;
+    // A job's attributes end at the separator before the next job's, or with the answer.
+    const auto endJob = [&] {
+        if (update && id > jobId)
+            later = std::max(later, id);
+        id = 0;
+        update = false;
+    };
+    for (ipp_attribute_t *a = ippFirstAttribute(response); a; a = ippNextAttribute(response)) {
+        const QByteArray name = ippGetName(a) ? ippGetName(a) : "";
+        if (name.isEmpty())
+            endJob();
+        else if (name == "job-id")
+            id = ippGetInteger(a, 0);
+        else if (name == "document-format-supplied")
+            update = qstrcmp(ippGetString(a, 0, nullptr),
+                             OrvoSettingsKeywords::updateDocumentFormat) == 0;
+    }
+    endJob();
+    ippDelete(response);
+    return later;
 }
 
 bool OVSettingsSave::serverLost(ipp_status_t refusal) {

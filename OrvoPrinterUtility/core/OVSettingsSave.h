@@ -21,6 +21,7 @@ public:
         NotSent,         // refusal and refusalText say why
         JobNotCompleted, // job says how it ended, or that it has not yet
         NotHeld,         // the job completed but the PPD lacks differing
+        Replaced,        // as NotHeld, and a later update job, replacedBy, completed since
         Damaged,         // the PPD is unreadable, or no longer routes saves
         NotReadBack,     // the PPD could not be fetched again: readBack says why
     };
@@ -31,7 +32,8 @@ public:
         QString refusalText;
         OVUpdateJob::JobOutcome job{OVUpdateJob::JobEnd::Pending, IPP_JSTATE_PENDING};
         OVStoredSettings::Status readBack = OVStoredSettings::Status::Loaded;
-        QStringList differing; // option names, with NotHeld
+        QStringList differing; // option names, with NotHeld and Replaced
+        int replacedBy = 0;
     };
 
     // The queue must be set up (OVQueueSetup): on any other queue the update
@@ -44,6 +46,8 @@ public:
     static bool serverLost(ipp_status_t refusal);
 
 private:
+    // The newest update job of the queue after jobId that completed; 0: none.
+    static int laterUpdateJob(const QString &queue, int jobId);
     static void readBack(Outcome &outcome, const OVSettingsSnapshot &settings,
                          const QString &queue);
 };

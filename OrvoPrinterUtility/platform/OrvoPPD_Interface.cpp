@@ -61,6 +61,14 @@ const char *r_cupsGetPPD2(http_t *http, const char *name) {
     return path;
 }
 
+const char *r_cupsGetServerPPD(http_t *http, const char *name) {
+    const char *path = cupsGetServerPPD(http, name);
+    if (!path)
+        qCInfo(orvoPlatform) << "libcups cannot fetch the driver PPD" << name << ":"
+                             << cupsLastErrorString();
+    return path;
+}
+
 int r_cupsMarkOptions(ppd_file_t *ppd, int numOptions, cups_option_t *options) {
     return cupsMarkOptions(ppd, numOptions, options);
 }

@@ -20,4 +20,6 @@ int r_ppdMarkOption(ppd_file_t *ppd, const char *keyword, const char *option);
 void r_ppdMarkDefaults(ppd_file_t *ppd);
 ppd_choice_t *r_ppdFindMarkedChoice(ppd_file_t *ppd, const char *keyword);
 const char *r_cupsGetPPD2(http_t *http, const char *name);
+// A driver's PPD as the server makes it for lpadmin -m NAME, in a temporary file.
+const char *r_cupsGetServerPPD(http_t *http, const char *name);
 int r_cupsMarkOptions(ppd_file_t *ppd, int numOptions, cups_option_t *options);

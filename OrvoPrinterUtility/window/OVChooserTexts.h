@@ -20,6 +20,7 @@ inline constexpr char makeAndModelColumn[] = "Make and Model";
 inline constexpr char utilityColumn[] = "Utility";
 inline constexpr char setUp[] = "Set up";
 inline constexpr char notSetUp[] = "Not set up";
+inline constexpr char damaged[] = "Damaged: repair it"; // the queue's PPD
 inline constexpr char loading[] = "Asking the print server for its queues...";
 inline constexpr char unreachable[] =
     "The print server %1 cannot be reached. Check that it is running, then try again."; // %1: the
@@ -52,6 +53,7 @@ inline constexpr const char *localizedKeys[] = {
     utilityColumn,
     setUp,
     notSetUp,
+    damaged,
     loading,
     unreachable,
     noQueues,

@@ -157,7 +157,8 @@ private:
     void finishLoading(const OVWindowQueue::Loaded &loaded);
     void showProblem(OVWindowQueue::Problem problem);
     void messageBarActionTriggered();
-    void setUpQueue();
+    // repair: rebuild a damaged PPD instead.
+    void setUpQueue(bool repair);
     void setUpEnded(const OVQueueSetup::Result &result);
     // An alert with the one button OK; detail is its informative text.
     void alert(const QString &text, const QString &detail = QString());

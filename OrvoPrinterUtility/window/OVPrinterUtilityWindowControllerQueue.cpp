@@ -17,6 +17,7 @@ void OVPrinterUtilityWindowController::showProblem(Problem problem) {
     }
     // The one way out the window itself has, where there is one.
     const char *action = problem == Problem::NotSetUp            ? OVWindowTexts::setUpButton
+                         : problem == Problem::Damaged           ? OVWindowTexts::repairButton
                          : problem == Problem::ServerUnreachable ? OVChooserTexts::retry
                                                                  : nullptr;
     m_messageBar->showMessage(OVWindowQueue::problemText(problem, m_printerId, m_server),
@@ -26,15 +27,18 @@ void OVPrinterUtilityWindowController::showProblem(Problem problem) {
 void OVPrinterUtilityWindowController::messageBarActionTriggered() {
     if (m_state != State::Idle)
         return;
-    if (m_problem == Problem::NotSetUp)
-        setUpQueue();
+    if (m_problem == Problem::NotSetUp || m_problem == Problem::Damaged)
+        setUpQueue(m_problem == Problem::Damaged);
     else if (m_problem == Problem::ServerUnreachable)
         loadOptionsFromPPD();
 }
 
-void OVPrinterUtilityWindowController::setUpQueue() {
+void OVPrinterUtilityWindowController::setUpQueue(bool repair) {
     startTask(
-        State::SettingUp, [queue = m_printerId] { return OVWindowQueue::setUp(queue); },
+        State::SettingUp,
+        [queue = m_printerId, repair] {
+            return repair ? OVWindowQueue::repair(queue) : OVWindowQueue::setUp(queue);
+        },
         [this](const OVQueueSetup::Result &result) { setUpEnded(result); });
 }
 
@@ -42,7 +46,11 @@ void OVPrinterUtilityWindowController::setUpEnded(const OVQueueSetup::Result &re
     enter(State::Idle);
     using Outcome = OVQueueSetup::Outcome;
     if (result.outcome == Outcome::Changed || result.outcome == Outcome::Unchanged) {
-        showProblem(Problem::None);
+        // A repaired queue has settings to show now, where the window showed defaults.
+        if (m_problem == Problem::Damaged)
+            loadOptionsFromPPD();
+        else
+            showProblem(Problem::None);
         return;
     }
     alert(OVWindowQueue::setUpFailureText(result, m_printerId, m_server));

@@ -120,8 +120,10 @@ void OVPrinterUtilityWindowController::saved(const OVWindowSave::Outcome &outcom
               OVWindowSave::listsToShortenText(outcome.verdict));
         return;
     }
-    if (outcome.queue == OVQueueSetup::State::NotSetUp ||
+    if (outcome.queue == OVQueueSetup::State::Damaged ||
         outcome.save.result == OVSettingsSave::Result::Damaged)
+        showProblem(OVWindowQueue::Problem::Damaged);
+    else if (outcome.queue == OVQueueSetup::State::NotSetUp)
         showProblem(OVWindowQueue::Problem::NotSetUp);
     alert(OVWindowSave::failureText(outcome, m_printerId, m_server));
 }

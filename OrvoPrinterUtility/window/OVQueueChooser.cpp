@@ -3,6 +3,7 @@
 #include "OVBackgroundTask.h"
 #include "OVChooserTexts.h"
 #include "OVCupsConnection.h"
+#include "OVLineControls.h"
 
 #include <QDialogButtonBox>
 #include <QHBoxLayout>
@@ -25,17 +26,23 @@ namespace {
 enum Column { NameColumn, DescriptionColumn, MakeAndModelColumn, StateColumn, ColumnCount };
 // What the filter matches: name, description, make and model in one text.
 constexpr int searchRole = Qt::UserRole + 1;
+// The queue's name as the server has it; the cells show names with the
+// characters that reorder a line by their code.
+constexpr int nameRole = Qt::UserRole + 2;
 
 QList<QStandardItem *> queueRow(const OVQueueSetup::Queue &queue) {
     QList<QStandardItem *> row;
     for (const QString &cell : {queue.name, queue.description, queue.makeAndModel,
-                                T::localized(queue.setUp ? T::setUp : T::notSetUp)}) {
-        auto *item = new QStandardItem(cell);
+                                T::localized(queue.damaged ? T::damaged
+                                             : queue.setUp ? T::setUp
+                                                           : T::notSetUp)}) {
+        auto *item = new QStandardItem(OVLineControls::shown(cell));
         item->setEditable(false);
         row << item;
     }
     row[NameColumn]->setData(
         QStringList{queue.name, queue.description, queue.makeAndModel}.join('\n'), searchRole);
+    row[NameColumn]->setData(queue.name, nameRole);
     return row;
 }
 
@@ -191,7 +198,7 @@ void OVQueueChooser::updateOpenButton() {
 
 QString OVQueueChooser::chosenQueue() const {
     const QModelIndexList rows = m_table->selectionModel()->selectedRows(NameColumn);
-    return rows.isEmpty() ? QString() : rows.first().data().toString();
+    return rows.isEmpty() ? QString() : rows.first().data(nameRole).toString();
 }
 
 QString OVQueueChooser::statusText() const {

@@ -21,6 +21,8 @@ Problem problemOf(Status loaded, State state) {
         return Problem::ServerUnreachable;
     if (state == State::QueueUnknown)
         return Problem::QueueUnknown;
+    if (state == State::Damaged)
+        return Problem::Damaged;
     if (loaded == Status::NoPPD)
         return Problem::NoPPD;
     if (loaded == Status::UnreadablePPD)
@@ -35,11 +37,13 @@ OVWindowQueue::Loaded OVWindowQueue::load(const QString &queue) {
     loaded.server = OVCupsConnection::serverName();
     OVSettingsSnapshot settings;
     const Status status = OVStoredSettings::load(queue, settings);
-    if (status == Status::Loaded)
-        loaded.settings = settings;
     const State state =
         status == Status::ServerUnreachable ? State::ServerUnreachable : OVQueueSetup::state(queue);
     loaded.problem = problemOf(status, state);
+    // What a damaged PPD still holds is shown once the repair kept it: until
+    // then the defaults would pass for the settings it lost.
+    if (status == Status::Loaded && loaded.problem != Problem::Damaged)
+        loaded.settings = settings;
     qCDebug(orvoWindow) << "queue" << queue << "loaded:" << int(status) << "state:" << int(state);
     return loaded;
 }
@@ -47,6 +51,11 @@ OVWindowQueue::Loaded OVWindowQueue::load(const QString &queue) {
 OVQueueSetup::Result OVWindowQueue::setUp(const QString &queue) {
     const OVPasswordPrompt::ForQueue forQueue(queue);
     return OVQueueSetup::setUp(queue);
+}
+
+OVQueueSetup::Result OVWindowQueue::repair(const QString &queue) {
+    const OVPasswordPrompt::ForQueue forQueue(queue);
+    return OVQueueSetup::repair(queue);
 }
 
 QString OVWindowQueue::problemText(Problem problem, const QString &queue, const QString &server) {
@@ -58,6 +67,8 @@ QString OVWindowQueue::problemText(Problem problem, const QString &queue, const 
         return OVChooserTexts::localized(OVChooserTexts::unreachable).arg(server);
     case Problem::QueueUnknown:
         return localized(queueUnknown).arg(server, queue);
+    case Problem::Damaged:
+        return localized(damagedPpd).arg(queue);
     case Problem::NoPPD:
         return localized(queueWithoutPpd).arg(queue);
     case Problem::UnreadablePPD:
@@ -83,6 +94,12 @@ QString OVWindowQueue::setUpFailureText(const OVQueueSetup::Result &result, cons
         return localized(setUpNotAuthorized).arg(queue);
     case Outcome::ServerLacksRoute:
         return localized(setUpLacksFilter).arg(server);
+    case Outcome::Damaged:
+        return problemText(Problem::Damaged, queue, server);
+    case Outcome::Unknown:
+        return localized(setUpUnknown).arg(queue);
+    case Outcome::NoDriver:
+        return localized(repairNoDriver).arg(queue, result.detail);
     default:
         return localized(setUpFailed).arg(queue, result.detail);
     }

@@ -13,7 +13,15 @@
 // user's language, for the message bar above the tabs and for OK's alert.
 class OVWindowQueue {
 public:
-    enum class Problem { None, ServerUnreachable, QueueUnknown, NoPPD, UnreadablePPD, NotSetUp };
+    enum class Problem {
+        None,
+        ServerUnreachable,
+        QueueUnknown,
+        Damaged,
+        NoPPD,
+        UnreadablePPD,
+        NotSetUp
+    };
 
     struct Loaded {
         std::optional<OVSettingsSnapshot> settings; // nullopt: the defaults stay
@@ -25,10 +33,12 @@ public:
     // Sets the queue up as the command line's setup does; a password the
     // server asks for is asked for the queue.
     static OVQueueSetup::Result setUp(const QString &queue);
+    // Repairs a damaged queue the same way, as the command line's setup --repair.
+    static OVQueueSetup::Result repair(const QString &queue);
 
     // Empty for Problem::None.
     static QString problemText(Problem problem, const QString &queue, const QString &server);
-    // Why a set-up that neither changed the queue nor found it set up failed.
+    // Why a set-up or repair that neither changed the queue nor found it set up failed.
     static QString setUpFailureText(const OVQueueSetup::Result &result, const QString &queue,
                                     const QString &server);
 };

@@ -34,6 +34,8 @@ QString OVWindowSave::failureText(const Outcome &outcome, const QString &queue,
                                   const QString &server) {
     using Result = OVSettingsSave::Result;
     const OVSettingsSave::Outcome &save = outcome.save;
+    if (outcome.queue == OVQueueSetup::State::Damaged)
+        return localized(damagedPpd).arg(queue);
     if (outcome.queue == OVQueueSetup::State::NotSetUp)
         return localized(queueNotSetUp).arg(queue);
     if (outcome.queue == OVQueueSetup::State::QueueUnknown)
@@ -51,6 +53,8 @@ QString OVWindowSave::failureText(const Outcome &outcome, const QString &queue,
         return jobFailureText(save);
     case Result::NotHeld:
         return localized(saveNotHeld).arg(save.jobId).arg(save.differing.join(", "));
+    case Result::Replaced:
+        return localized(saveReplaced).arg(save.jobId).arg(save.replacedBy);
     case Result::Damaged:
         return localized(saveDamaged).arg(queue);
     case Result::NotReadBack:

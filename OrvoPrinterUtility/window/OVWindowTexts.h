@@ -53,6 +53,7 @@ inline constexpr char queueNotSetUp[] = "IDS_QUEUE_NOT_SET_UP"; // %1: the queue
 inline constexpr char savingSettings[] = "Saving settings...";
 inline constexpr char settingUpQueue[] = "Setting up the queue...";
 inline constexpr char setUpButton[] = "Set Up…";
+inline constexpr char repairButton[] = "Repair…";
 // %1: the server, %2: the queue
 inline constexpr char queueUnknown[] = "The print server %1 has no print queue \"%2\".";
 // %1: the queue, in this and the following texts
@@ -65,6 +66,17 @@ inline constexpr char setUpNotAuthorized[] = "The print queue \"%1\" was not set
 inline constexpr char setUpLacksFilter[] = // %1: the server
     "The print server %1 lacks the utility's driver filter, so its queues cannot be set up. "
     "Install the utility on the print server first.";
+inline constexpr char damagedPpd[] =
+    "The PPD of the print queue \"%1\" is damaged, so its settings cannot be shown or saved. "
+    "Choose \"Repair…\" to rebuild it from the queue's driver with the settings it still holds.";
+inline constexpr char setUpUnknown[] =
+    "The print server stopped answering, so whether the print queue \"%1\" was changed is not "
+    "known. Try again once the server answers: only what is not done yet is done again.";
+// %2: the queue's make and model
+inline constexpr char repairNoDriver[] =
+    "The print server has no driver for \"%2\", the printer of the queue \"%1\", so its PPD "
+    "cannot be rebuilt. A print administrator can give the queue its driver (lpadmin -m), then "
+    "set it up.";
 // %2: the server's own words
 inline constexpr char setUpFailed[] = "The print queue \"%1\" could not be set up: %2";
 // %1: the server's own words
@@ -83,8 +95,13 @@ inline constexpr char saveJobPending[] =
 // %2: the settings' option names
 inline constexpr char saveNotHeld[] =
     "Update job %1 ended, but the queue's PPD does not hold every setting (%2). Try again.";
-inline constexpr char saveDamaged[] = "The PPD of the print queue \"%1\" was damaged while the "
-                                      "settings were stored. Set up the queue again, then save.";
+// %2: the later job
+inline constexpr char saveReplaced[] =
+    "Update job %1 ended, then a later save to this print queue (update job %2) replaced its "
+    "settings. Open the window again to see what is stored.";
+inline constexpr char saveDamaged[] =
+    "The PPD of the print queue \"%1\" was damaged while the settings were stored. Choose "
+    "\"Repair…\" to rebuild it, then save.";
 inline constexpr char saveNotReadBack[] =
     "The settings were sent, but the queue's PPD could not be read back to check them. Open the "
     "window again to see what is stored.";
@@ -131,17 +148,22 @@ inline constexpr const char *localizedKeys[] = {
     savingSettings,
     settingUpQueue,
     setUpButton,
+    repairButton,
     queueUnknown,
     queueWithoutPpd,
     unreadablePpd,
     setUpNotAuthorized,
     setUpLacksFilter,
+    damagedPpd,
+    setUpUnknown,
+    repairNoDriver,
     setUpFailed,
     saveRefused,
     saveServerLost,
     saveJobStopped,
     saveJobPending,
     saveNotHeld,
+    saveReplaced,
     saveDamaged,
     saveNotReadBack,
 };

@@ -12,6 +12,8 @@
 #include "OVPrinterUtilityHelper.h"
 #include "OVPrinterUtilityWindowController.h"
 #include "OVQueueChooser.h"
+#include "OVQueueSetup.h"
+#include "OVSettingsSave.h"
 #include "OVTableViewDataSource.h"
 #include "ui_MainUtilityWindiw.h"
 
@@ -115,7 +117,7 @@ protected:
         QTemporaryDir dir;
         ASSERT_TRUE(cups.addQueue("Alpha") && cups.addQueue("Beta") &&
                     cups.addQueue("Gamma", plainPpd(dir)) &&
-                    cups.lpadmin({"-p", "Gamma", "-D", "Lab on the second floor"}));
+                    cups.lpadmin({"-p", "Gamma", "-D", "Lab on the second floor\u202E"}));
         // A second server whose queue changes need an administrator's
         // password, with exactly one queue set up.
         CupsServer::Options options;
@@ -145,7 +147,8 @@ TEST_F(QueueChooserTest, ListsEveryQueueWithItsStateAndFilters) {
     ASSERT_TRUE(m_chooser.isVisible());
     const QTableView *table = m_chooser.queueTable();
     EXPECT_EQ(column(table, 0), (QStringList{"Alpha", "Beta", "Gamma"}));
-    EXPECT_EQ(column(table, 1).last(), "Lab on the second floor");
+    // Characters that would reorder the line show by their code.
+    EXPECT_EQ(column(table, 1).last(), "Lab on the second floor\\u202e");
     EXPECT_EQ(column(table, 2), (QStringList{"Orvo Printer", "Orvo Printer", "Lab Colour Laser"}));
     EXPECT_EQ(column(table, 3), (QStringList{"Set up", "Set up", "Not set up"}));
     EXPECT_EQ(m_chooser.chosenQueue(), "Alpha");
@@ -279,6 +282,32 @@ protected:
     AlertRecorder m_alerts;
     std::unique_ptr<Controller> m_window;
 };
+
+// A PPD cut short while cupsd wrote it is said in the bar, with Repair…, and OK refuses; the
+// repair rebuilds it from the queue's driver, and the window then shows the settings it kept.
+TEST_F(WindowOnServerTest, ADamagedPpdIsRepairedFromTheBar) {
+    CupsServer &server = CupsServerEnvironment::server();
+    ASSERT_TRUE(server.lpadmin(
+        {"-p", "Echo", "-E", "-v", "file:/dev/null", "-m", "drv:///sample.drv/generic.ppd"}));
+    ASSERT_EQ(OVQueueSetup::setUp("Echo").outcome, OVQueueSetup::Outcome::Changed);
+    OVSettingsSnapshot saved;
+    saved.formNames = {"Invoice"};
+    ASSERT_EQ(OVSettingsSave::save(saved, "Echo").result, OVSettingsSave::Result::Stored);
+    const QByteArray ppd = CupsServer::readFile(server.ppdFile("Echo"));
+    CupsServer::writeFile(server.ppdFile("Echo"), ppd.left(ppd.indexOf("\n*PageSize ")));
+    show("Echo");
+    waitForSettings();
+    const OVMessageBar *bar = m_window->messageBar();
+    ASSERT_TRUE(bar->isVisible());
+    EXPECT_TRUE(bar->text().startsWith("The PPD of the print queue \"Echo\" is damaged"));
+    EXPECT_EQ(bar->actionButton()->text(), "Repair\u2026");
+    EXPECT_EQ(m_window->formTableViewDataSource()->getElementsArray(), QStringList());
+    EXPECT_FALSE(ok());
+    EXPECT_EQ(m_alerts.last(), bar->text());
+    ASSERT_TRUE(setUpFromTheBar());
+    EXPECT_EQ(OVQueueSetup::state("Echo"), OVQueueSetup::State::SetUp);
+    EXPECT_EQ(m_window->formTableViewDataSource()->getElementsArray(), saved.formNames);
+}
 
 // The bar says the queue is not set up; OK refuses without sending anything until
 // Set Up has set it up, and then closes only once the PPD holds the settings.

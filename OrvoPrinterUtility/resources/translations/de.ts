@@ -588,6 +588,10 @@
         <translation>Nicht eingerichtet</translation>
     </message>
     <message>
+        <source>Damaged: repair it</source>
+        <translation>Beschädigt: reparieren</translation>
+    </message>
+    <message>
         <source>Asking the print server for its queues...</source>
         <translation>Die Warteschlangen werden beim Druckserver abgefragt...</translation>
     </message>
@@ -696,12 +700,32 @@
         <translation>Der Aktualisierungsauftrag %1 ist beendet, aber die PPD-Datei der Warteschlange enthält nicht alle Einstellungen (%2). Versuchen Sie es erneut.</translation>
     </message>
     <message>
-        <source>The PPD of the print queue "%1" was damaged while the settings were stored. Set up the queue again, then save.</source>
-        <translation>Die PPD-Datei der Druckwarteschlange „%1“ wurde beim Speichern beschädigt. Richten Sie die Warteschlange erneut ein und speichern Sie dann.</translation>
+        <source>The PPD of the print queue "%1" was damaged while the settings were stored. Choose "Repair…" to rebuild it, then save.</source>
+        <translation>Die PPD-Datei der Druckwarteschlange „%1“ wurde beim Speichern beschädigt. Wählen Sie „Reparieren…“, um sie neu aufzubauen, und speichern Sie dann.</translation>
     </message>
     <message>
         <source>The settings were sent, but the queue's PPD could not be read back to check them. Open the window again to see what is stored.</source>
         <translation>Die Einstellungen wurden gesendet, aber die PPD-Datei der Warteschlange konnte zur Prüfung nicht gelesen werden. Öffnen Sie das Fenster erneut, um zu sehen, was gespeichert ist.</translation>
+    </message>
+    <message>
+        <source>Repair…</source>
+        <translation>Reparieren…</translation>
+    </message>
+    <message>
+        <source>The PPD of the print queue "%1" is damaged, so its settings cannot be shown or saved. Choose "Repair…" to rebuild it from the queue's driver with the settings it still holds.</source>
+        <translation>Die PPD-Datei der Druckwarteschlange „%1“ ist beschädigt; ihre Einstellungen können weder angezeigt noch gespeichert werden. Wählen Sie „Reparieren…“, um sie aus dem Treiber der Warteschlange neu aufzubauen, mit den Einstellungen, die sie noch enthält.</translation>
+    </message>
+    <message>
+        <source>The print server stopped answering, so whether the print queue "%1" was changed is not known. Try again once the server answers: only what is not done yet is done again.</source>
+        <translation>Der Druckserver antwortet nicht mehr; ob die Druckwarteschlange „%1“ geändert wurde, ist nicht bekannt. Versuchen Sie es erneut, sobald der Server antwortet: Nur was noch fehlt, wird erneut ausgeführt.</translation>
+    </message>
+    <message>
+        <source>The print server has no driver for "%2", the printer of the queue "%1", so its PPD cannot be rebuilt. A print administrator can give the queue its driver (lpadmin -m), then set it up.</source>
+        <translation>Der Druckserver hat keinen Treiber für „%2“, den Drucker der Warteschlange „%1“; ihre PPD-Datei kann nicht neu aufgebaut werden. Ein Druckadministrator kann der Warteschlange ihren Treiber geben (lpadmin -m) und sie dann einrichten.</translation>
+    </message>
+    <message>
+        <source>Update job %1 ended, then a later save to this print queue (update job %2) replaced its settings. Open the window again to see what is stored.</source>
+        <translation>Der Aktualisierungsauftrag %1 wurde beendet, dann hat ein späteres Speichern in dieser Druckwarteschlange (Aktualisierungsauftrag %2) seine Einstellungen ersetzt. Öffnen Sie das Fenster erneut, um zu sehen, was gespeichert ist.</translation>
     </message>
 </context>
 </TS>

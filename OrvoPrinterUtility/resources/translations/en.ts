@@ -588,6 +588,10 @@
         <translation>Not set up</translation>
     </message>
     <message>
+        <source>Damaged: repair it</source>
+        <translation>Damaged: repair it</translation>
+    </message>
+    <message>
         <source>Asking the print server for its queues...</source>
         <translation>Asking the print server for its queues...</translation>
     </message>
@@ -696,12 +700,32 @@
         <translation>Update job %1 ended, but the queue's PPD does not hold every setting (%2). Try again.</translation>
     </message>
     <message>
-        <source>The PPD of the print queue "%1" was damaged while the settings were stored. Set up the queue again, then save.</source>
-        <translation>The PPD of the print queue "%1" was damaged while the settings were stored. Set up the queue again, then save.</translation>
+        <source>The PPD of the print queue "%1" was damaged while the settings were stored. Choose "Repair…" to rebuild it, then save.</source>
+        <translation>The PPD of the print queue "%1" was damaged while the settings were stored. Choose "Repair…" to rebuild it, then save.</translation>
     </message>
     <message>
         <source>The settings were sent, but the queue's PPD could not be read back to check them. Open the window again to see what is stored.</source>
         <translation>The settings were sent, but the queue's PPD could not be read back to check them. Open the window again to see what is stored.</translation>
+    </message>
+    <message>
+        <source>Repair…</source>
+        <translation>Repair…</translation>
+    </message>
+    <message>
+        <source>The PPD of the print queue "%1" is damaged, so its settings cannot be shown or saved. Choose "Repair…" to rebuild it from the queue's driver with the settings it still holds.</source>
+        <translation>The PPD of the print queue "%1" is damaged, so its settings cannot be shown or saved. Choose "Repair…" to rebuild it from the queue's driver with the settings it still holds.</translation>
+    </message>
+    <message>
+        <source>The print server stopped answering, so whether the print queue "%1" was changed is not known. Try again once the server answers: only what is not done yet is done again.</source>
+        <translation>The print server stopped answering, so whether the print queue "%1" was changed is not known. Try again once the server answers: only what is not done yet is done again.</translation>
+    </message>
+    <message>
+        <source>The print server has no driver for "%2", the printer of the queue "%1", so its PPD cannot be rebuilt. A print administrator can give the queue its driver (lpadmin -m), then set it up.</source>
+        <translation>The print server has no driver for "%2", the printer of the queue "%1", so its PPD cannot be rebuilt. A print administrator can give the queue its driver (lpadmin -m), then set it up.</translation>
+    </message>
+    <message>
+        <source>Update job %1 ended, then a later save to this print queue (update job %2) replaced its settings. Open the window again to see what is stored.</source>
+        <translation>Update job %1 ended, then a later save to this print queue (update job %2) replaced its settings. Open the window again to see what is stored.</translation>
     </message>
 </context>
 </TS>

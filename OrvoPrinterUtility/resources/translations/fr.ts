@@ -588,6 +588,10 @@
         <translation>Non configurée</translation>
     </message>
     <message>
+        <source>Damaged: repair it</source>
+        <translation>Endommagée : à réparer</translation>
+    </message>
+    <message>
         <source>Asking the print server for its queues...</source>
         <translation>Interrogation du serveur d&apos;impression sur ses files...</translation>
     </message>
@@ -696,12 +700,32 @@
         <translation>La tâche de mise à jour %1 est terminée, mais le fichier PPD de la file d’attente ne contient pas tous les réglages (%2). Réessayez.</translation>
     </message>
     <message>
-        <source>The PPD of the print queue "%1" was damaged while the settings were stored. Set up the queue again, then save.</source>
-        <translation>Le fichier PPD de la file d’attente « %1 » a été endommagé pendant l’enregistrement. Configurez de nouveau la file d’attente, puis enregistrez.</translation>
+        <source>The PPD of the print queue "%1" was damaged while the settings were stored. Choose "Repair…" to rebuild it, then save.</source>
+        <translation>Le fichier PPD de la file d’attente « %1 » a été endommagé pendant l’enregistrement. Choisissez « Réparer… » pour le reconstruire, puis enregistrez.</translation>
     </message>
     <message>
         <source>The settings were sent, but the queue's PPD could not be read back to check them. Open the window again to see what is stored.</source>
         <translation>Les réglages ont été envoyés, mais le fichier PPD de la file d’attente n’a pas pu être relu pour les vérifier. Rouvrez la fenêtre pour voir ce qui est enregistré.</translation>
+    </message>
+    <message>
+        <source>Repair…</source>
+        <translation>Réparer…</translation>
+    </message>
+    <message>
+        <source>The PPD of the print queue "%1" is damaged, so its settings cannot be shown or saved. Choose "Repair…" to rebuild it from the queue's driver with the settings it still holds.</source>
+        <translation>Le fichier PPD de la file d’attente « %1 » est endommagé : ses réglages ne peuvent être ni affichés ni enregistrés. Choisissez « Réparer… » pour le reconstruire à partir du pilote de la file, avec les réglages qu’il contient encore.</translation>
+    </message>
+    <message>
+        <source>The print server stopped answering, so whether the print queue "%1" was changed is not known. Try again once the server answers: only what is not done yet is done again.</source>
+        <translation>Le serveur d’impression ne répond plus : on ne sait pas si la file d’attente « %1 » a été modifiée. Réessayez quand le serveur répond : seul ce qui n’est pas encore fait sera refait.</translation>
+    </message>
+    <message>
+        <source>The print server has no driver for "%2", the printer of the queue "%1", so its PPD cannot be rebuilt. A print administrator can give the queue its driver (lpadmin -m), then set it up.</source>
+        <translation>Le serveur d’impression n’a pas de pilote pour « %2 », l’imprimante de la file « %1 » : son fichier PPD ne peut pas être reconstruit. Un administrateur d’impression peut donner son pilote à la file (lpadmin -m), puis la configurer.</translation>
+    </message>
+    <message>
+        <source>Update job %1 ended, then a later save to this print queue (update job %2) replaced its settings. Open the window again to see what is stored.</source>
+        <translation>La tâche de mise à jour %1 s’est terminée, puis un enregistrement ultérieur dans cette file d’attente (tâche de mise à jour %2) a remplacé ses réglages. Rouvrez la fenêtre pour voir ce qui est enregistré.</translation>
     </message>
 </context>
 </TS>

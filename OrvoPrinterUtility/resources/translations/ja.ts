@@ -588,6 +588,10 @@
         <translation>未設定</translation>
     </message>
     <message>
+        <source>Damaged: repair it</source>
+        <translation>破損: 修復が必要</translation>
+    </message>
+    <message>
         <source>Asking the print server for its queues...</source>
         <translation>プリントサーバーにキューを問い合わせています...</translation>
     </message>
@@ -696,12 +700,32 @@
         <translation>更新ジョブ %1 は終了しましたが、キューの PPD にすべての設定が含まれていません (%2)。もう一度お試しください。</translation>
     </message>
     <message>
-        <source>The PPD of the print queue "%1" was damaged while the settings were stored. Set up the queue again, then save.</source>
-        <translation>設定の保存中にプリントキュー「%1」の PPD が破損しました。キューをもう一度設定してから保存してください。</translation>
+        <source>The PPD of the print queue "%1" was damaged while the settings were stored. Choose "Repair…" to rebuild it, then save.</source>
+        <translation>設定の保存中にプリントキュー「%1」の PPD が破損しました。「修復…」を選んで作り直してから保存してください。</translation>
     </message>
     <message>
         <source>The settings were sent, but the queue's PPD could not be read back to check them. Open the window again to see what is stored.</source>
         <translation>設定は送信されましたが、確認のためにキューの PPD を読み戻せませんでした。ウィンドウをもう一度開いて、保存内容を確認してください。</translation>
+    </message>
+    <message>
+        <source>Repair…</source>
+        <translation>修復…</translation>
+    </message>
+    <message>
+        <source>The PPD of the print queue "%1" is damaged, so its settings cannot be shown or saved. Choose "Repair…" to rebuild it from the queue's driver with the settings it still holds.</source>
+        <translation>プリントキュー「%1」の PPD が破損しているため、設定を表示も保存もできません。「修復…」を選ぶと、キューのドライバーから PPD を作り直し、まだ読める設定を残します。</translation>
+    </message>
+    <message>
+        <source>The print server stopped answering, so whether the print queue "%1" was changed is not known. Try again once the server answers: only what is not done yet is done again.</source>
+        <translation>プリントサーバーが応答しなくなったため、プリントキュー「%1」が変更されたかどうかはわかりません。サーバーが応答したらもう一度実行してください。まだ済んでいないことだけが実行されます。</translation>
+    </message>
+    <message>
+        <source>The print server has no driver for "%2", the printer of the queue "%1", so its PPD cannot be rebuilt. A print administrator can give the queue its driver (lpadmin -m), then set it up.</source>
+        <translation>プリントサーバーには、キュー「%1」のプリンター「%2」のドライバーがないため、PPD を作り直せません。プリント管理者がキューにドライバーを設定 (lpadmin -m) してから、キューを設定してください。</translation>
+    </message>
+    <message>
+        <source>Update job %1 ended, then a later save to this print queue (update job %2) replaced its settings. Open the window again to see what is stored.</source>
+        <translation>更新ジョブ %1 は終了しましたが、その後このプリントキューへの別の保存 (更新ジョブ %2) が設定を置き換えました。保存されている内容を確認するには、ウィンドウをもう一度開いてください。</translation>
     </message>
 </context>
 </TS>

@@ -588,6 +588,10 @@
         <translation>未设置</translation>
     </message>
     <message>
+        <source>Damaged: repair it</source>
+        <translation>已损坏：需要修复</translation>
+    </message>
+    <message>
         <source>Asking the print server for its queues...</source>
         <translation>正在向打印服务器查询其队列...</translation>
     </message>
@@ -696,12 +700,32 @@
         <translation>更新作业 %1 已结束，但队列的 PPD 未包含全部设置（%2）。请重试。</translation>
     </message>
     <message>
-        <source>The PPD of the print queue "%1" was damaged while the settings were stored. Set up the queue again, then save.</source>
-        <translation>保存设置时打印队列“%1”的 PPD 已损坏。请重新设置该队列，然后保存。</translation>
+        <source>The PPD of the print queue "%1" was damaged while the settings were stored. Choose "Repair…" to rebuild it, then save.</source>
+        <translation>保存设置时打印队列“%1”的 PPD 已损坏。请选择“修复…”重建它，然后保存。</translation>
     </message>
     <message>
         <source>The settings were sent, but the queue's PPD could not be read back to check them. Open the window again to see what is stored.</source>
         <translation>设置已发送，但无法读回队列的 PPD 进行核对。请再次打开窗口查看已保存的内容。</translation>
+    </message>
+    <message>
+        <source>Repair…</source>
+        <translation>修复…</translation>
+    </message>
+    <message>
+        <source>The PPD of the print queue "%1" is damaged, so its settings cannot be shown or saved. Choose "Repair…" to rebuild it from the queue's driver with the settings it still holds.</source>
+        <translation>打印队列“%1”的 PPD 已损坏，无法显示或保存其设置。请选择“修复…”，用该队列的驱动程序重建它，并保留其中仍可读取的设置。</translation>
+    </message>
+    <message>
+        <source>The print server stopped answering, so whether the print queue "%1" was changed is not known. Try again once the server answers: only what is not done yet is done again.</source>
+        <translation>打印服务器已停止响应，无法确定打印队列“%1”是否已更改。请在服务器响应后重试：只会执行尚未完成的部分。</translation>
+    </message>
+    <message>
+        <source>The print server has no driver for "%2", the printer of the queue "%1", so its PPD cannot be rebuilt. A print administrator can give the queue its driver (lpadmin -m), then set it up.</source>
+        <translation>打印服务器没有“%2”（队列“%1”的打印机）的驱动程序，因此无法重建其 PPD。打印管理员可以为该队列指定驱动程序（lpadmin -m），然后再设置它。</translation>
+    </message>
+    <message>
+        <source>Update job %1 ended, then a later save to this print queue (update job %2) replaced its settings. Open the window again to see what is stored.</source>
+        <translation>更新作业 %1 已结束，随后对此打印队列的另一次保存（更新作业 %2）替换了它的设置。请重新打开窗口查看当前保存的内容。</translation>
     </message>
 </context>
 </TS>

@@ -588,6 +588,10 @@
         <translation>未設定</translation>
     </message>
     <message>
+        <source>Damaged: repair it</source>
+        <translation>已損壞：需要修復</translation>
+    </message>
+    <message>
         <source>Asking the print server for its queues...</source>
         <translation>正在向列印伺服器查詢其佇列...</translation>
     </message>
@@ -696,12 +700,32 @@
         <translation>更新工作 %1 已結束，但佇列的 PPD 未包含全部設定（%2）。請再試一次。</translation>
     </message>
     <message>
-        <source>The PPD of the print queue "%1" was damaged while the settings were stored. Set up the queue again, then save.</source>
-        <translation>儲存設定時列印佇列「%1」的 PPD 已損壞。請重新設定該佇列，然後儲存。</translation>
+        <source>The PPD of the print queue "%1" was damaged while the settings were stored. Choose "Repair…" to rebuild it, then save.</source>
+        <translation>儲存設定時列印佇列「%1」的 PPD 已損壞。請選擇「修復…」重建它，然後儲存。</translation>
     </message>
     <message>
         <source>The settings were sent, but the queue's PPD could not be read back to check them. Open the window again to see what is stored.</source>
         <translation>設定已傳送，但無法讀回佇列的 PPD 進行核對。請再次開啟視窗查看已儲存的內容。</translation>
+    </message>
+    <message>
+        <source>Repair…</source>
+        <translation>修復…</translation>
+    </message>
+    <message>
+        <source>The PPD of the print queue "%1" is damaged, so its settings cannot be shown or saved. Choose "Repair…" to rebuild it from the queue's driver with the settings it still holds.</source>
+        <translation>列印佇列「%1」的 PPD 已損壞，無法顯示或儲存其設定。請選擇「修復…」，以該佇列的驅動程式重建它，並保留其中仍可讀取的設定。</translation>
+    </message>
+    <message>
+        <source>The print server stopped answering, so whether the print queue "%1" was changed is not known. Try again once the server answers: only what is not done yet is done again.</source>
+        <translation>列印伺服器已停止回應，無法確定列印佇列「%1」是否已變更。請在伺服器回應後重試：只會執行尚未完成的部分。</translation>
+    </message>
+    <message>
+        <source>The print server has no driver for "%2", the printer of the queue "%1", so its PPD cannot be rebuilt. A print administrator can give the queue its driver (lpadmin -m), then set it up.</source>
+        <translation>列印伺服器沒有「%2」（佇列「%1」的印表機）的驅動程式，因此無法重建其 PPD。列印管理員可以為該佇列指定驅動程式（lpadmin -m），然後再設定它。</translation>
+    </message>
+    <message>
+        <source>Update job %1 ended, then a later save to this print queue (update job %2) replaced its settings. Open the window again to see what is stored.</source>
+        <translation>更新工作 %1 已結束，隨後對此列印佇列的另一次儲存（更新工作 %2）取代了它的設定。請重新開啟視窗查看目前儲存的內容。</translation>
     </message>
 </context>
 </TS>
