@@ -1,11 +1,11 @@
 #include "OVCommandLine.h"
 
-#include "OVCupsConnection.h"
 #include "OVFetchCommand.h"
 #include "OVLineControls.h"
 #include "OVPpdCommand.h"
 #include "OVQueueCommands.h"
 #include "OVSetupCommand.h"
+#include "OVTaskToken.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -103,7 +103,9 @@ int OVCommandLine::runCommand(const Command &command, const QStringList &argumen
     const int timeout = parser.value(timeoutOption).toInt(&validTimeout);
     if (!validTimeout || timeout <= 0)
         return fail(Usage, "invalid --timeout");
-    OVCupsConnection::setDeadline(OVCupsConnection::Clock::now() + std::chrono::seconds(timeout));
+    // One limit for the whole command: every CUPS and SNMP request and every
+    // wait of the wake flow ends by it.
+    const OVTaskToken::Scope task(std::make_shared<OVTaskToken>(std::chrono::seconds(timeout)));
     return command.run(parser, parser.isSet(jsonOption));
 }
 
@@ -128,7 +130,8 @@ void OVCommandLine::warn(const QString &message) {
 }
 
 int OVCommandLine::serverFailure() {
-    return fail(ServerUnreachable, OVCupsConnection::pastDeadline()
+    const auto task = OVTaskToken::current();
+    return fail(ServerUnreachable, task && task->expired()
                                        ? QStringLiteral("the CUPS server did not answer in time")
                                        : QStringLiteral("cannot reach the CUPS server"));
 }

@@ -3,14 +3,13 @@
 #include "OVCommandLine.h"
 #include "OVPrinterInfoFetch.h"
 #include "OVSleep.h"
+#include "OVTaskToken.h"
 #include "OVWakeOnLanHelper.h"
 #include "OrvoSettingsKeywords.h"
 
 #include <QJsonArray>
 #include <QJsonObject>
 #include <QRegularExpression>
-
-#include <unistd.h>
 
 #include <optional>
 
@@ -74,7 +73,8 @@ bool wake(const QString &address, const QString &community, const QCommandLinePa
     OVSleep::setSleeper([](unsigned seconds) {
         OVCommandLine::progress(
             QStringLiteral("Waiting %1 s for the printer to wake up...").arg(seconds));
-        sleep(seconds);
+        if (const auto task = OVTaskToken::current())
+            task->sleepFor(std::chrono::seconds(seconds));
     });
     // The wake flow reads the octets between colons.
     const QString mac = parser.value(macOption).replace('-', ':');

@@ -2,6 +2,7 @@
 
 #include "OVCommandLine.h"
 #include "OVQueueSetup.h"
+#include "OVSaveTask.h"
 #include "OVSettingsFields.h"
 #include "OVSettingsSave.h"
 #include "OVStoredSettings.h"
@@ -80,12 +81,10 @@ int jobFailure(const OVUpdateJob::JobOutcome &outcome, int jobId) {
     }
 }
 
-// On a queue that is not set up the update job would be printed. 0 when the
-// queue takes saves.
-int notReadyToSave(const QString &queue) {
-    switch (OVQueueSetup::state(queue)) {
-    case OVQueueSetup::State::SetUp:
-        return 0;
+// On a queue that is not set up the update job would be printed; nothing
+// was sent.
+int notReadyToSave(OVQueueSetup::State state, const QString &queue) {
+    switch (state) {
     case OVQueueSetup::State::NotSetUp:
         return OVCommandLine::fail(Exit::Refused, "the queue \"" + queue +
                                                       "\" is not set up for the utility; nothing "
@@ -112,6 +111,47 @@ int submissionFailure(const OVSettingsSave::Outcome &outcome) {
         Exit::Failed,
         QStringLiteral("the server refused the update job: %1 (%2)")
             .arg(QString::fromUtf8(ippErrorString(outcome.refusal)), outcome.refusalText));
+}
+
+// What became of a sent update job.
+int saved(const OVSettingsSave::Outcome &outcome, const QString &queue, bool json) {
+    switch (outcome.result) {
+    case OVSettingsSave::Result::NotSent:
+        return submissionFailure(outcome);
+    case OVSettingsSave::Result::JobNotCompleted:
+        return jobFailure(outcome.job, outcome.jobId);
+    case OVSettingsSave::Result::Damaged:
+        // A server that died while writing the PPD, or a full disk.
+        return damagedFailure(queue, " after the save");
+    case OVSettingsSave::Result::NotReadBack:
+        return loadFailure(outcome.readBack, queue);
+    default:
+        break;
+    }
+    const int jobId = outcome.jobId;
+    const QStringList &differing = outcome.differing;
+    QJsonObject result{{"queue", queue},
+                       {"job", jobId},
+                       {"stored", differing.isEmpty()},
+                       {"differing", QJsonArray::fromStringList(differing)}};
+    if (outcome.replacedBy != 0)
+        result.insert("replacedBy", outcome.replacedBy);
+    OVCommandLine::print(
+        json, result,
+        differing.isEmpty()
+            ? QStringLiteral("Saved with job %1; the PPD holds the settings.\n").arg(jobId)
+            : QString());
+    if (outcome.result == OVSettingsSave::Result::Replaced)
+        return OVCommandLine::fail(
+            Exit::Failed, QStringLiteral("update job %1 completed; a later save to the queue "
+                                         "(job %2) then replaced its settings; the PPD holds that "
+                                         "save's values for: %3")
+                              .arg(jobId)
+                              .arg(outcome.replacedBy)
+                              .arg(differing.join(", ")));
+    if (!differing.isEmpty())
+        return OVCommandLine::fail(Exit::Failed, "the PPD does not hold: " + differing.join(", "));
+    return Exit::Success;
 }
 
 QString readSettingsFile(const QString &path, QJsonObject &json) {
@@ -192,55 +232,19 @@ int OVQueueCommands::save(const QCommandLineParser &parser, bool json) {
     if (const auto status = OVStoredSettings::load(queue, settings);
         status != OVStoredSettings::Status::Loaded)
         return loadFailure(status, queue);
-    if (const int refused = notReadyToSave(queue))
-        return refused;
     settings.isPPDOptionsUpdated = true;
     QString error = OVSettingsFields::apply(given, settings);
     if (error.isEmpty())
         error = OVSettingsFields::apply(parser, settings);
     if (!error.isEmpty())
         return OVCommandLine::fail(Exit::Usage, error);
+    const OVSaveTask::Outcome task = OVSaveTask::run(settings, queue);
     // A value the settings' rules refuse is a usage error; settings each
     // well formed that the PPD or one update job cannot carry are refused.
-    if (const OrvoSettingsVerdict verdict = settings.check(); !verdict.ok())
+    if (const OrvoSettingsVerdict &verdict = task.verdict; !verdict.ok())
         return OVCommandLine::fail(verdict.doesNotFit() ? Exit::Refused : Exit::Usage,
                                    OVSettingsFields::verdictText(verdict) + "; nothing was sent");
-    const OVSettingsSave::Outcome outcome = OVSettingsSave::save(settings, queue);
-    switch (outcome.result) {
-    case OVSettingsSave::Result::NotSent:
-        return submissionFailure(outcome);
-    case OVSettingsSave::Result::JobNotCompleted:
-        return jobFailure(outcome.job, outcome.jobId);
-    case OVSettingsSave::Result::Damaged:
-        // A server that died while writing the PPD, or a full disk.
-        return damagedFailure(queue, " after the save");
-    case OVSettingsSave::Result::NotReadBack:
-        return loadFailure(outcome.readBack, queue);
-    default:
-        break;
-    }
-    const int jobId = outcome.jobId;
-    const QStringList &differing = outcome.differing;
-    QJsonObject result{{"queue", queue},
-                       {"job", jobId},
-                       {"stored", differing.isEmpty()},
-                       {"differing", QJsonArray::fromStringList(differing)}};
-    if (outcome.replacedBy != 0)
-        result.insert("replacedBy", outcome.replacedBy);
-    OVCommandLine::print(
-        json, result,
-        differing.isEmpty()
-            ? QStringLiteral("Saved with job %1; the PPD holds the settings.\n").arg(jobId)
-            : QString());
-    if (outcome.result == OVSettingsSave::Result::Replaced)
-        return OVCommandLine::fail(
-            Exit::Failed, QStringLiteral("update job %1 completed; a later save to the queue "
-                                         "(job %2) then replaced its settings; the PPD holds that "
-                                         "save's values for: %3")
-                              .arg(jobId)
-                              .arg(outcome.replacedBy)
-                              .arg(differing.join(", ")));
-    if (!differing.isEmpty())
-        return OVCommandLine::fail(Exit::Failed, "the PPD does not hold: " + differing.join(", "));
-    return Exit::Success;
+    if (task.queue != OVQueueSetup::State::SetUp)
+        return notReadyToSave(task.queue, queue);
+    return saved(task.save, queue, json);
 }

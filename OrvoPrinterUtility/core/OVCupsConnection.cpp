@@ -12,14 +12,17 @@ constexpr double waitSlice = 0.25;
 } // namespace
 
 OVCupsConnection::OVCupsConnection()
-    : m_deadline(s_deadline.value_or(Clock::now() + defaultLimit))
+    : m_token(OVTaskToken::current())
     , m_http(nullptr) {
     using std::chrono::milliseconds;
-    const auto left = std::chrono::duration_cast<milliseconds>(m_deadline - Clock::now());
-    if (left.count() <= 0)
+    if (!m_token)
+        m_token = std::make_shared<OVTaskToken>(defaultLimit);
+    const auto left = std::chrono::duration_cast<milliseconds>(m_token->deadline() - Clock::now());
+    if (left.count() <= 0 || m_token->cancelled())
         return;
     m_http = httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1,
-                          int(std::min<milliseconds::rep>(left.count(), 1 << 30)), nullptr);
+                          int(std::min<milliseconds::rep>(left.count(), 1 << 30)),
+                          m_token->cancelFlag());
     if (m_http)
         httpSetTimeout(m_http, waitSlice, keepWaiting, this);
 }
@@ -37,5 +40,5 @@ OVCupsConnection::~OVCupsConnection() {
 }
 
 int OVCupsConnection::keepWaiting(http_t *, void *connection) {
-    return Clock::now() < static_cast<OVCupsConnection *>(connection)->m_deadline;
+    return !static_cast<OVCupsConnection *>(connection)->m_token->stopped();
 }

@@ -1,11 +1,13 @@
 #pragma once
 
+#include "OVTaskToken.h"
+
 #include <QString>
 
 #include <cups/http.h>
 
 #include <chrono>
-#include <optional>
+#include <memory>
 
 // A connection to the CUPS server the user's client settings name (server,
 // port, encryption), closed when the object goes. The load and save paths
@@ -14,8 +16,9 @@
 // Every connection has a time limit: a print server that accepts connections
 // but never answers (stopped, overloaded) must not hold the caller for the
 // minute libcups waits on its own. Connecting and every request give up at
-// the deadline set for the whole operation, or defaultLimit after the
-// connection was made.
+// the deadline of the calling thread's task (OVTaskToken), or defaultLimit
+// after the connection was made outside a task, and as soon as the task is
+// cancelled.
 class OVCupsConnection {
 public:
     using Clock = std::chrono::steady_clock;
@@ -33,19 +36,18 @@ public:
     // Null when the server could not be reached.
     http_t *http() const { return m_http; }
     explicit operator bool() const { return m_http != nullptr; }
-    // Whether this connection's time is up.
-    bool expired() const { return Clock::now() >= m_deadline; }
-
-    // Connections made from now on end their work by this time.
-    static void setDeadline(Clock::time_point deadline) { s_deadline = deadline; }
-    // Whether the operation's deadline has passed: a failure then means the
-    // server did not answer in time.
-    static bool pastDeadline() { return s_deadline && Clock::now() >= *s_deadline; }
+    // Whether the task's time is up, or it was cancelled.
+    bool expired() const { return m_token->stopped(); }
+    // Whether the calling thread's task ran out of time or was cancelled: a
+    // failure then means the server did not answer in time.
+    static bool pastDeadline() {
+        const std::shared_ptr<OVTaskToken> task = OVTaskToken::current();
+        return task && task->stopped();
+    }
 
 private:
     static int keepWaiting(http_t *http, void *connection);
 
-    Clock::time_point m_deadline;
+    std::shared_ptr<OVTaskToken> m_token;
     http_t *m_http;
-    static inline std::optional<Clock::time_point> s_deadline;
 };

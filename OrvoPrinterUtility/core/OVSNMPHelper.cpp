@@ -2,11 +2,16 @@
 
 #include "OVCoreLogging.h"
 #include "OVSNMPAnswer.h"
+#include "OVTaskToken.h"
 #include "OrvoSettingsRules.h"
 
 #include <net-snmp/net-snmp-config.h>
 #include <net-snmp/net-snmp-includes.h>
 
+#include <sys/select.h>
+
+#include <algorithm>
+#include <cerrno>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -160,6 +165,76 @@ netsnmp_pdu *buildRequest(const Identifiers &names) {
     return request;
 }
 
+// How long a wait for an answer goes without asking whether its task was
+// cancelled.
+constexpr long kWaitSliceMicroseconds = 50'000;
+
+// Where the answer to a request sent with snmp_sess_async_send arrives.
+struct Pending {
+    bool done = false;
+    int status = STAT_ERROR;
+    netsnmp_pdu *response = nullptr;
+};
+
+int received(int operation, netsnmp_session *, int, netsnmp_pdu *pdu, void *magic) {
+    // A resend is news, not an end.
+    if (operation == NETSNMP_CALLBACK_OP_RESEND)
+        return 1;
+    auto *pending = static_cast<Pending *>(magic);
+    pending->done = true;
+    if (operation == NETSNMP_CALLBACK_OP_RECEIVED_MESSAGE) {
+        pending->status = STAT_SUCCESS;
+        // The library frees its own copy when this returns.
+        pending->response = snmp_clone_pdu(pdu);
+    } else if (operation == NETSNMP_CALLBACK_OP_TIMED_OUT) {
+        pending->status = STAT_TIMEOUT;
+    }
+    return 1;
+}
+
+bool stopped(const std::shared_ptr<OVTaskToken> &token) {
+    return token && token->stopped();
+}
+
+// One turn of the session's event loop: reads what arrived, or lets the
+// library resend or give up on a request whose time is up. Never waits
+// longer than a slice, so a cancel is seen at once.
+void serviceOnce(void *session) {
+    int descriptors = 0;
+    fd_set readable;
+    FD_ZERO(&readable);
+    timeval wait{0, kWaitSliceMicroseconds};
+    int block = 0;
+    snmp_sess_select_info(session, &descriptors, &readable, &wait, &block);
+    if (wait.tv_sec > 0 || wait.tv_usec > kWaitSliceMicroseconds)
+        wait = {0, kWaitSliceMicroseconds};
+    const int ready = select(descriptors, &readable, nullptr, nullptr, &wait);
+    if (ready > 0)
+        snmp_sess_read(session, &readable);
+    else if (ready == 0 || errno == EINTR)
+        snmp_sess_timeout(session);
+}
+
+// snmp_sess_synch_response with the same timeouts and retries, except that
+// it ends as soon as the calling thread's task is cancelled or out of time,
+// which counts as no answer. Takes request in every case. pending must
+// outlive the session: closing it reports a request still out there.
+int awaitResponse(void *session, netsnmp_pdu *request, Pending &pending, netsnmp_pdu **response) {
+    const std::shared_ptr<OVTaskToken> token = OVTaskToken::current();
+    if (stopped(token) || !snmp_sess_async_send(session, request, received, &pending)) {
+        snmp_free_pdu(request);
+        return stopped(token) ? STAT_TIMEOUT : STAT_ERROR;
+    }
+    while (!pending.done && !stopped(token))
+        serviceOnce(session);
+    *response = pending.response;
+    const int status = pending.done ? pending.status : STAT_TIMEOUT;
+    // Where snmp_error() finds why, as after a synchronous request.
+    if (status == STAT_TIMEOUT)
+        snmp_sess_session(session)->s_snmp_errno = SNMPERR_TIMEOUT;
+    return status;
+}
+
 // One synchronous get request in its own session, torn down before
 // returning. The session is Net-SNMP's single-session kind, which shares no
 // state with requests on other threads.
@@ -180,6 +255,7 @@ Answer exchange(const char *address, const QString &community, SessionSettings s
     settingsRecord.timeout = settings.timeout;
     settingsRecord.retries = settings.retries;
     settingsRecord.peername = peerName.data();
+    Pending pending;
     void *session = snmp_sess_open(&settingsRecord);
     if (!session) {
         logSessionError(address, &settingsRecord);
@@ -188,7 +264,7 @@ Answer exchange(const char *address, const QString &community, SessionSettings s
     netsnmp_pdu *response = nullptr;
     {
         const OVSNMPAnswer heard(session);
-        answer.status = snmp_sess_synch_response(session, buildRequest(names), &response);
+        answer.status = awaitResponse(session, buildRequest(names), pending, &response);
         answer.values = heard.read(answer.status, response, expected);
     }
     if (answer.status != STAT_SUCCESS)

@@ -1,13 +1,13 @@
 #include "OVSleep.h"
 
+#include "OVTaskToken.h"
+
 #include <chrono>
-#include <condition_variable>
 #include <mutex>
+#include <thread>
 
 namespace {
 std::mutex sleeperMutex;
-std::condition_variable interruption;
-bool interrupted = false;
 OVSleep::Sleeper &currentSleeper() {
     static OVSleep::Sleeper sleeper;
     return sleeper;
@@ -15,27 +15,22 @@ OVSleep::Sleeper &currentSleeper() {
 } // namespace
 
 bool OVSleep::sleepSeconds(unsigned seconds) {
-    std::unique_lock lock(sleeperMutex);
-    const Sleeper sleeper = currentSleeper();
-    if (!sleeper) {
-        interruption.wait_for(lock, std::chrono::seconds(seconds), [] { return interrupted; });
-        return !interrupted;
+    Sleeper sleeper;
+    {
+        std::lock_guard lock(sleeperMutex);
+        sleeper = currentSleeper();
     }
-    lock.unlock();
-    sleeper(seconds);
-    lock.lock();
-    return !interrupted;
+    const std::shared_ptr<OVTaskToken> token = OVTaskToken::current();
+    if (sleeper)
+        sleeper(seconds);
+    else if (token)
+        return token->sleepFor(std::chrono::seconds(seconds));
+    else
+        std::this_thread::sleep_for(std::chrono::seconds(seconds));
+    return !token || !token->stopped();
 }
 
 void OVSleep::setSleeper(Sleeper sleeper) {
     std::lock_guard lock(sleeperMutex);
     currentSleeper() = std::move(sleeper);
-}
-
-void OVSleep::setInterrupted(bool interrupt) {
-    {
-        std::lock_guard lock(sleeperMutex);
-        interrupted = interrupt;
-    }
-    interruption.notify_all();
 }

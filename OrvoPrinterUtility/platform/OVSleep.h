@@ -8,11 +8,10 @@ class OVSleep {
 public:
     using Sleeper = std::function<void(unsigned seconds)>;
 
-    // False when sleeps are interrupted: the caller should give up.
+    // False when the calling thread's task (OVTaskToken) was cancelled or ran
+    // out of time: the caller should give up. A real sleep ends at once then,
+    // so a closing window never waits for a wake flow.
     static bool sleepSeconds(unsigned seconds);
     // An empty sleeper restores the real one.
     static void setSleeper(Sleeper sleeper);
-    // While interrupted, a real sleep under way ends at once and later ones
-    // do not sleep, so a closing window never waits for a wake flow.
-    static void setInterrupted(bool interrupted);
 };

@@ -1,23 +1,22 @@
 #include "OVPrinterUtilityWindowController.h"
 
-#include "OVControlsLock.h"
 #include "OVCustomRestrictedTextField.h"
-#include "OVInputHold.h"
 #include "OVLaunchEvent.h"
 #include "OVMessageBar.h"
 #include "OVNotificationCenter.h"
 #include "OVPrinterUtilityHelper.h"
-#include "OVSleep.h"
 #include "OVStoredSettings.h"
 #include "OVTableViewDataSource.h"
 #include "OVWindowSetUp.h"
+#include "OVWindowTexts.h"
 #include "OrvoSettingsKeywords.h"
 #include "ui_MainUtilityWindiw.h"
 
 #include <QCloseEvent>
-#include <QCoreApplication>
 
 #include <mutex>
+
+using namespace OVWindowTexts;
 
 namespace {
 
@@ -87,14 +86,11 @@ void OVPrinterUtilityWindowController::applicationDidFinishLaunching(const QStri
     loadControls();
 }
 
-// A wake flow under way would keep the closing window for minutes: its sleeps
-// end now, and what it finds is no longer shown.
+// A task under way would keep the closing window for up to its limit, a
+// wake flow for minutes: it ends now, and what it finds is not shown.
 void OVPrinterUtilityWindowController::windowWillClose(const QString &identifier) {
-    if (identifier != windowIdentifier)
-        return;
-    m_closing = true;
-    OVSleep::setInterrupted(true);
-    closeButtonClicked(m_ui->closeButton);
+    if (identifier == windowIdentifier)
+        closeButtonClicked(m_ui->closeButton);
 }
 
 bool OVPrinterUtilityWindowController::eventFilter(QObject *watched, QEvent *event) {
@@ -118,7 +114,7 @@ void OVPrinterUtilityWindowController::loadControls() {
     OVWindowSetUp::setUpWindowTitle(m_window.get(), dictionary);
     OVWindowSetUp::setUpTexts(*m_ui);
     OVWindowSetUp::setUpSettingsFields(*m_ui);
-    showProgress(false);
+    enter(State::Loading);
     OVWindowSetUp::setUpFolderTab(*m_ui);
     m_bAdminLoginModeEnabled = false;
     createDataSources();
@@ -141,15 +137,17 @@ void OVPrinterUtilityWindowController::createDataSources() {
 
 void OVPrinterUtilityWindowController::connectActions() {
     using C = OVPrinterUtilityWindowController;
-    const QList<QAbstractButton *> fetches = fetchButtons();
-    const Action fetchActions[] = {
-        &C::getPrinterInfoButtonClicked, &C::folderGetPrinterInfoButtonClicked,
-        &C::formGetPrinterInfoButtonClicked, &C::barcodeAreaDefinitionGetPrinterInfoButtonClicked,
-        &C::colorProfileGetPrinterInfoButtonClicked};
     Ui::MainUtilityWindiw &c = *m_ui;
-    const std::pair<QAbstractButton *, Action> others[] = {
+    const std::pair<QAbstractButton *, Action> actions[] = {
+        {c.printerGetPrinterInfoButton, &C::getPrinterInfoButtonClicked},
+        {c.folderGetPrinterInfoButton, &C::folderGetPrinterInfoButtonClicked},
+        {c.formGetPrinterInfoButton, &C::formGetPrinterInfoButtonClicked},
+        {c.barcodeAreaDefinitionGetPrinterInfoButton,
+         &C::barcodeAreaDefinitionGetPrinterInfoButtonClicked},
+        {c.colorProfileGetPrinterInfoButton, &C::colorProfileGetPrinterInfoButtonClicked},
         {c.okButton, &C::okButtonClicked},
         {c.closeButton, &C::closeButtonClicked},
+        {c.cancelButton, &C::cancelButtonClicked},
         {c.folderAddButton, &C::folderAddButtonClicked},
         {c.folderDeleteButton, &C::folderDeleteButtonClicked},
         {c.folderClearButton, &C::folderClearButtonClicked},
@@ -158,50 +156,66 @@ void OVPrinterUtilityWindowController::connectActions() {
         {c.colorProfileClearButton, &C::colorProfileClearButtonClicked},
         {c.snmpCommunityCheck, &C::customSnmpCommunityClicked},
         {c.wakeOnLANCheck, &C::wakeOnLANCheckClicked}};
-    for (qsizetype i = 0; i < fetches.size(); ++i)
-        connect(fetches[i], &QAbstractButton::clicked, this,
-                [this, button = fetches[i], action = fetchActions[i]] {
-                    runAction(button, action, true);
-                });
-    for (const auto &[button, action] : others)
+    for (const auto &[button, action] : actions)
         connect(button, &QAbstractButton::clicked, this,
-                [this, button = button, action = action] { runAction(button, action, false); });
+                [this, button = button, action = action] { (this->*action)(button); });
     connect(m_messageBar, &OVMessageBar::actionTriggered, this,
             &OVPrinterUtilityWindowController::messageBarActionTriggered);
 }
 
-QList<QAbstractButton *> OVPrinterUtilityWindowController::fetchButtons() const {
-    Ui::MainUtilityWindiw &c = *m_ui;
-    return {c.printerGetPrinterInfoButton, c.folderGetPrinterInfoButton, c.formGetPrinterInfoButton,
-            c.barcodeAreaDefinitionGetPrinterInfoButton, c.colorProfileGetPrinterInfoButton};
+// What each state shows: the settings are on only when idle, where their
+// own rules (constraintsSnmpItems, constraintsWakeOnLanItems) narrow them;
+// nothing a task's notifications or the user's typing run turns one on
+// meanwhile, since those rules do nothing outside the idle state.
+void OVPrinterUtilityWindowController::enter(State state) {
+    m_state = state;
+    const bool idle = state == State::Idle;
+    for (QWidget *control : settingsControls())
+        control->setEnabled(idle);
+    m_messageBar->actionButton()->setEnabled(idle);
+    const bool cancellable = state == State::Fetching || state == State::Saving;
+    m_ui->cancelButton->setVisible(cancellable);
+    m_ui->cancelButton->setEnabled(cancellable);
+    m_ui->closeButton->setEnabled(state != State::Closing);
+    if (idle) {
+        constraintsSnmpItems();
+        constraintsWakeOnLanItems();
+    }
+    showProgress(state == State::Loading     ? loadingSettings
+                 : state == State::Fetching  ? gettingInformation
+                 : state == State::Saving    ? savingSettings
+                 : state == State::SettingUp ? settingUpQueue
+                                             : nullptr);
 }
 
-// Only one action runs at a time: the printer arrays are shared, and each
-// step of a fetch must see the controls as they were when it began. During a
-// fetch the user's input to the window is held; a click or key on a fetch
-// button is dropped for good, so no second fetch starts, then or afterwards.
-// The rest (typing, OK, Close) takes effect, in order, once the fetch is over.
-void OVPrinterUtilityWindowController::runAction(QAbstractButton *button, Action action,
-                                                 bool isFetch) {
-    if (m_actionRunning)
+void OVPrinterUtilityWindowController::showProgress(const char *text) {
+    const bool show = text != nullptr;
+    if (show)
+        m_ui->progressIndicatorText->setText(localized(text));
+    m_ui->progressIndicatorText->setHidden(!show);
+    m_ui->progressIndicatorText->repaint();
+    m_ui->progressIndicator->setHidden(!show);
+}
+
+void OVPrinterUtilityWindowController::cancelButtonClicked(QObject *) {
+    if (!m_task)
         return;
-    std::optional<OVInputHold> hold;
-    if (isFetch)
-        hold.emplace(m_window.get(), fetchButtons());
-    m_actionRunning = true;
-    (this->*action)(button);
-    m_actionRunning = false;
-    // The window system keeps input back while a step runs; it reaches the
-    // hold here, before the hold ends.
-    if (hold)
-        QCoreApplication::processEvents();
+    m_task->cancel();
+    // A fetch waits for its steps to return, at once now; a save's result
+    // is dropped when it comes.
+    if (m_state == State::Saving)
+        enter(State::Idle);
 }
 
 void OVPrinterUtilityWindowController::constraintsSnmpItems() {
+    if (m_state != State::Idle)
+        return;
     m_ui->snmpCommunityText->setEnabled(m_ui->snmpCommunityCheck->isChecked());
 }
 
 void OVPrinterUtilityWindowController::constraintsWakeOnLanItems() {
+    if (m_state != State::Idle)
+        return;
     Ui::MainUtilityWindiw &c = *m_ui;
     const bool wake = c.wakeOnLANCheck->isChecked();
     bool anyMacText = false;

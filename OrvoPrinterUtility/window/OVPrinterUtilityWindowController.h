@@ -1,5 +1,6 @@
 #pragma once
 
+#include "OVBackgroundTask.h"
 #include "OVFolderSelection.h"
 #include "OVPrinterInfoFetch.h"
 #include "OVWindowQueue.h"
@@ -14,11 +15,9 @@
 #include <optional>
 #include <span>
 
-class OVControlsLock;
 class OVMessageBar;
 class OVTableViewDataSource;
 struct OVSettingsSnapshot;
-class QAbstractButton;
 class QLineEdit;
 class QTableView;
 class QWidget;
@@ -33,11 +32,19 @@ class MainUtilityWindiw;
 // of a queue that is not set up); the folder tab shows an OVFolderSelection;
 // Get Printer Info runs OVPrinterInfoFetch; OK saves through OVWindowSave and
 // closes the window only once the settings are stored. Every call that may
-// wait on the network goes through OVBackgroundTask.
+// wait on the network goes through OVBackgroundTask, as a task that Cancel
+// or closing the window ends at once.
+//
+// The window is in one state at a time, and the state alone decides which
+// controls are on and what the progress indicator says: the settings only
+// when idle (where the controls' own rules narrow them further), Cancel only
+// while a fetch or a save runs, Close until the window closes.
 class OVPrinterUtilityWindowController : public QObject {
     Q_OBJECT
 
 public:
+    enum class State { Loading, Idle, Fetching, Saving, SettingUp, Closing };
+
     static constexpr const char *windowIdentifier = "MainUtilityWindiw";
     static constexpr int macFieldCount = 6;
 
@@ -53,6 +60,7 @@ public:
     bool bError() const { return m_bError; }
     bool bAdminLoginModeEnabled() const { return m_bAdminLoginModeEnabled; }
     bool isPPDOptionsUpdated() const { return m_isPpdOptionsUpdated; }
+    State state() const { return m_state; }
     QStringList allSharedBoxNames() const { return m_folders.allSharedBoxNames(); }
     QStringList selectedSharedBoxNames() const { return m_folders.selectedSharedBoxNames(); }
     QList<qint32> selectedSharedBoxIndex() const { return m_folders.selectedSharedBoxIndex(); }
@@ -92,6 +100,8 @@ public:
     // Saving.
     void okButtonClicked(QObject *sender);
     void closeButtonClicked(QObject *sender);
+    // Ends the fetch or the save under way; what it found is not shown.
+    void cancelButtonClicked(QObject *sender);
     void saveOptionsToPPD();
     OVSettingsSnapshot settingsSnapshot() const;
 
@@ -117,9 +127,7 @@ public:
     void formClearButtonClicked(QObject *sender);
     void barcodeAreaDefinitionClearButtonClicked(QObject *sender);
     void colorProfileClearButtonClicked(QObject *sender);
-    void showProgress(bool show);
     void showFailedMessage();
-    bool wakeOnLanWrapper();
     void customSnmpCommunityClicked(QObject *sender);
     void wakeOnLANCheckClicked(QObject *sender);
 
@@ -139,13 +147,14 @@ private:
     void resetLaunchState();
     void createDataSources();
     void connectActions();
-    void runAction(QAbstractButton *button, Action action, bool isFetch);
-    QList<QAbstractButton *> fetchButtons() const;
+    void enter(State state);
+    void showProgress(const char *text);
+    // Runs a task on the print server on the worker, within the limit of
+    // such a task; done sees its result unless it was cancelled.
+    template <typename Work, typename Done> void startTask(State state, Work &&work, Done &&done);
     void bindTable(OVTableViewDataSource *dataSource, QTableView *table);
     QList<QWidget *> settingsControls() const;
     void finishLoading(const OVWindowQueue::Loaded &loaded);
-    void lockSettings(const char *progressText);
-    void unlockSettings();
     void showProblem(OVWindowQueue::Problem problem);
     void messageBarActionTriggered();
     // repair: rebuild a damaged PPD instead.
@@ -178,9 +187,11 @@ private:
     std::unique_ptr<OVTableViewDataSource> m_barcodeAreaDefinitionTableViewDataSource;
     std::unique_ptr<OVTableViewDataSource> m_colorProfileTableViewDataSource;
     OVMessageBar *m_messageBar;
-    // The settings controls are off while the window loads, saves or sets
-    // up the queue.
-    std::unique_ptr<OVControlsLock> m_busy;
+    State m_state = State::Loading;
+    // The task under way, for Cancel and closing.
+    OVBackgroundTask::Token m_task;
+    // Tells a task's result from that of an earlier, cancelled one.
+    quint64 m_taskGeneration = 0;
     // What keeps the window from saving, as the bar says it.
     OVWindowQueue::Problem m_problem = OVWindowQueue::Problem::None;
     QString m_server;
@@ -189,9 +200,20 @@ private:
     bool m_bError = false;
     bool m_bAdminLoginModeEnabled = false;
     bool m_isPpdOptionsUpdated = false;
-    bool m_actionRunning = false;
-    // OK's save is under way: a second OK is ignored.
-    bool m_saving = false;
-    // The window is closing: what a fetch finds is no longer shown.
-    bool m_closing = false;
 };
+
+// A cancelled task's result is dropped: the window is already back in the
+// state it had before the task, or closing.
+template <typename Work, typename Done>
+void OVPrinterUtilityWindowController::startTask(State state, Work &&work, Done &&done) {
+    enter(state);
+    m_task = OVBackgroundTask::run(this, std::forward<Work>(work),
+                                   [this, generation = ++m_taskGeneration,
+                                    done = std::forward<Done>(done)](const auto &result) mutable {
+                                       if (generation != m_taskGeneration || !m_task ||
+                                           m_task->cancelled())
+                                           return;
+                                       m_task.reset();
+                                       done(result);
+                                   });
+}

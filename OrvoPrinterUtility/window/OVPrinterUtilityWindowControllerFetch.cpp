@@ -2,7 +2,6 @@
 // OVPrinterInfoFetch off the GUI thread and shows what came back.
 #include "OVBackgroundTask.h"
 #include "OVPrinterUtilityWindowController.h"
-#include "OVSleep.h"
 #include "OVTableViewDataSource.h"
 #include "OVWindowLog.h"
 #include "OVWindowTexts.h"
@@ -12,13 +11,10 @@
 namespace {
 using Step = OVPrinterInfoFetch::Step;
 using Fetch = OVPrinterInfoFetch;
+// A fetch has no limit of its own beyond its requests' timeouts and the wake
+// flow's designed waits (minutes for a printer going to sleep).
+constexpr std::chrono::hours fetchLimit{1};
 } // namespace
-
-void OVPrinterUtilityWindowController::showProgress(bool show) {
-    m_ui->progressIndicatorText->setHidden(!show);
-    m_ui->progressIndicatorText->repaint();
-    m_ui->progressIndicator->setHidden(!show);
-}
 
 void OVPrinterUtilityWindowController::showFailedMessage() {
     const QString text = localized(OVWindowTexts::failedToObtain);
@@ -40,24 +36,28 @@ Fetch::Printer OVPrinterUtilityWindowController::fetchTarget() const {
     return {c.printerIPAddressText->text(), QString::fromUtf8(getSnmpCommunityFromUI()), wake};
 }
 
-bool OVPrinterUtilityWindowController::wakeOnLanWrapper() {
-    OVSleep::setInterrupted(false);
-    return OVBackgroundTask::wait([printer = fetchTarget()] {
-        return OVPrinterInfoFetch::wake(printer.address, *printer.wake);
-    });
-}
-
-// The steps run one after another on the worker while the window paints and
-// holds the user's input; their results show together, in the steps' order.
+// The steps run one after another on the worker while the window paints;
+// its state leaves only Cancel and Close on meanwhile, so no second fetch
+// starts and every step uses the address and community the fetch began with.
+// The results show together, in the steps' order; a cancelled fetch shows
+// nothing and changes no list.
 void OVPrinterUtilityWindowController::fetch(std::span<const Step> steps) {
-    showProgress(true);
-    OVSleep::setInterrupted(false);
+    enter(State::Fetching);
+    OVBackgroundTask::Waiting how;
+    how.limit = fetchLimit;
+    how.events = QEventLoop::AllEvents;
+    how.running = &m_task;
     const Fetch::Result result = OVBackgroundTask::wait(
-        [printer = fetchTarget(), steps] { return OVPrinterInfoFetch::fetch(printer, steps); });
-    if (m_closing)
+        [printer = fetchTarget(), steps] { return OVPrinterInfoFetch::fetch(printer, steps); },
+        how);
+    const bool cancelled = m_task->cancelled();
+    m_task.reset();
+    if (m_state == State::Closing)
+        return;
+    enter(State::Idle);
+    if (cancelled)
         return;
     showFetched(result);
-    showProgress(false);
     if (!result.failedStep)
         return;
     const Fetch::FailedStep &failed = *result.failedStep;
@@ -102,7 +102,6 @@ void OVPrinterUtilityWindowController::applyFolderList(const Fetch::Result &resu
 }
 
 void OVPrinterUtilityWindowController::failFetch() {
-    showProgress(false);
     showFailedMessage();
     m_bError = true;
 }

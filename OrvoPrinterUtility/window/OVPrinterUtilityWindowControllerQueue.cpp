@@ -1,7 +1,6 @@
 // The controller's part in the queue itself: the bar above the tabs that says
 // what keeps the window from saving, and the set-up it offers.
 #include "OVAlert.h"
-#include "OVBackgroundTask.h"
 #include "OVChooserTexts.h"
 #include "OVMessageBar.h"
 #include "OVPrinterUtilityWindowController.h"
@@ -26,7 +25,7 @@ void OVPrinterUtilityWindowController::showProblem(Problem problem) {
 }
 
 void OVPrinterUtilityWindowController::messageBarActionTriggered() {
-    if (m_busy)
+    if (m_state != State::Idle)
         return;
     if (m_problem == Problem::NotSetUp || m_problem == Problem::Damaged)
         setUpQueue(m_problem == Problem::Damaged);
@@ -35,10 +34,8 @@ void OVPrinterUtilityWindowController::messageBarActionTriggered() {
 }
 
 void OVPrinterUtilityWindowController::setUpQueue(bool repair) {
-    lockSettings(OVWindowTexts::settingUpQueue);
-    m_messageBar->actionButton()->setEnabled(false);
-    OVBackgroundTask::run(
-        this,
+    startTask(
+        State::SettingUp,
         [queue = m_printerId, repair] {
             return repair ? OVWindowQueue::repair(queue) : OVWindowQueue::setUp(queue);
         },
@@ -46,8 +43,7 @@ void OVPrinterUtilityWindowController::setUpQueue(bool repair) {
 }
 
 void OVPrinterUtilityWindowController::setUpEnded(const OVQueueSetup::Result &result) {
-    unlockSettings();
-    m_messageBar->actionButton()->setEnabled(true);
+    enter(State::Idle);
     using Outcome = OVQueueSetup::Outcome;
     if (result.outcome == Outcome::Changed || result.outcome == Outcome::Unchanged) {
         // A repaired queue has settings to show now, where the window showed defaults.

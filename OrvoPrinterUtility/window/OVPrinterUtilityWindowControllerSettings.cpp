@@ -1,7 +1,6 @@
 // The controller's part in the queue's settings: they load in the background
 // while the window shows, fill the controls, and OK saves them.
 #include "OVBackgroundTask.h"
-#include "OVControlsLock.h"
 #include "OVPrinterUtilityWindowController.h"
 #include "OVSettingsSnapshot.h"
 #include "OVTableViewDataSource.h"
@@ -14,8 +13,7 @@ using namespace OVWindowTexts;
 // The steps after the stored settings are in, or the window's defaults
 // stayed because the queue has none to give.
 void OVPrinterUtilityWindowController::finishLoading(const OVWindowQueue::Loaded &loaded) {
-    unlockSettings();
-    m_ui->progressIndicatorText->setText(localized(gettingInformation));
+    enter(State::Idle);
     m_server = loaded.server;
     if (loaded.settings)
         applySettings(*loaded.settings);
@@ -44,26 +42,9 @@ QList<QWidget *> OVPrinterUtilityWindowController::settingsControls() const {
 // asked. A missing server, queue, PPD or attribute leaves the window's
 // defaults in place, and the bar above the tabs says what is missing.
 void OVPrinterUtilityWindowController::loadOptionsFromPPD() {
-    lockSettings(loadingSettings);
-    OVBackgroundTask::run(
-        this, [printerID = m_printerId] { return OVWindowQueue::load(printerID); },
+    startTask(
+        State::Loading, [printerID = m_printerId] { return OVWindowQueue::load(printerID); },
         [this](const OVWindowQueue::Loaded &loaded) { finishLoading(loaded); });
-}
-
-// Held from the start of a load, save or set-up to its end; a second hold
-// while one is on keeps the first, which knows the controls' own states.
-void OVPrinterUtilityWindowController::lockSettings(const char *progressText) {
-    if (!m_busy)
-        m_busy = std::make_unique<OVControlsLock>(settingsControls());
-    m_ui->progressIndicatorText->setText(localized(progressText));
-    showProgress(true);
-}
-
-void OVPrinterUtilityWindowController::unlockSettings() {
-    if (m_busy)
-        m_busy->release();
-    m_busy.reset();
-    showProgress(false);
 }
 
 void OVPrinterUtilityWindowController::applySettings(const OVSettingsSnapshot &s) {
@@ -108,7 +89,7 @@ void OVPrinterUtilityWindowController::showList(OVTableViewDataSource *dataSourc
 // ---- saving -----------------------------------------------------------------
 
 void OVPrinterUtilityWindowController::okButtonClicked(QObject *) {
-    if (m_saving)
+    if (m_state != State::Idle)
         return;
     // Settings that did not come from the queue would replace the stored
     // ones with defaults, and a queue that is not set up would print them:
@@ -125,8 +106,7 @@ void OVPrinterUtilityWindowController::okButtonClicked(QObject *) {
 // The window closes only on settings the queue's PPD holds; otherwise it
 // stays open with everything set, and says what became of the save.
 void OVPrinterUtilityWindowController::saved(const OVWindowSave::Outcome &outcome) {
-    m_saving = false;
-    unlockSettings();
+    enter(State::Idle);
     if (outcome.stored()) {
         closeButtonClicked(m_ui->closeButton);
         return;
@@ -140,22 +120,34 @@ void OVPrinterUtilityWindowController::saved(const OVWindowSave::Outcome &outcom
               OVWindowSave::listsToShortenText(outcome.verdict));
         return;
     }
-    if (outcome.queueDamaged || outcome.save.result == OVSettingsSave::Result::Damaged)
+    if (outcome.queue == OVQueueSetup::State::Damaged ||
+        outcome.save.result == OVSettingsSave::Result::Damaged)
         showProblem(OVWindowQueue::Problem::Damaged);
-    else if (!outcome.queueSetUp)
+    else if (outcome.queue == OVQueueSetup::State::NotSetUp)
         showProblem(OVWindowQueue::Problem::NotSetUp);
-    alert(OVWindowSave::failureText(outcome, m_printerId));
+    alert(OVWindowSave::failureText(outcome, m_printerId, m_server));
 }
 
+// A task under way would keep the closing window for up to its limit, a
+// wake flow for minutes: it ends now, and what it finds is not shown.
 void OVPrinterUtilityWindowController::closeButtonClicked(QObject *) {
+    if (m_state == State::Closing)
+        return;
+    if (m_task)
+        m_task->cancel();
+    enter(State::Closing);
+    m_window->hide();
     emit applicationShouldTerminate();
 }
 
+// The whole save (submit, wait for the job, read back) has one limit.
 void OVPrinterUtilityWindowController::saveOptionsToPPD() {
-    m_saving = true;
-    lockSettings(savingSettings);
-    OVWindowSave::save(this, settingsSnapshot(), m_printerId,
-                       [this](const OVWindowSave::Outcome &outcome) { saved(outcome); });
+    startTask(
+        State::Saving,
+        [settings = settingsSnapshot(), queue = m_printerId] {
+            return OVSaveTask::run(settings, queue);
+        },
+        [this](const OVWindowSave::Outcome &outcome) { saved(outcome); });
 }
 
 OVSettingsSnapshot OVPrinterUtilityWindowController::settingsSnapshot() const {

@@ -1,9 +1,7 @@
 #include "OVWindowSave.h"
 
-#include "OVBackgroundTask.h"
 #include "OVChooserTexts.h"
-#include "OVQueueSetup.h"
-#include "OVWindowLog.h"
+#include "OVWindowQueue.h"
 #include "OVWindowTexts.h"
 #include "OrvoSettingsKeywords.h"
 #include "OrvoSettingsRules.h"
@@ -32,39 +30,18 @@ constexpr std::pair<const char *, const char *> fieldLabels[] = {
 
 } // namespace
 
-void OVWindowSave::save(QObject *context, const OVSettingsSnapshot &settings,
-                        const QString &printerID, std::function<void(const Outcome &)> done) {
-    OVBackgroundTask::run(
-        context,
-        [settings, printerID] {
-            Outcome outcome;
-            // Long lists take the size check a while to measure: the rules run
-            // here too, so that OK never holds up the window.
-            outcome.verdict = settings.check();
-            if (!outcome.verdict.ok())
-                return outcome;
-            // On a queue that is not set up the update job would be printed,
-            // and the settings lost.
-            const OVQueueSetup::State state = OVQueueSetup::state(printerID);
-            outcome.queueDamaged = state == OVQueueSetup::State::Damaged;
-            outcome.queueSetUp = state != OVQueueSetup::State::NotSetUp && !outcome.queueDamaged;
-            if (outcome.queueSetUp)
-                outcome.save = OVSettingsSave::save(settings, printerID);
-            qCDebug(orvoWindow) << "save to" << printerID << "set up:" << outcome.queueSetUp
-                                << "result:" << int(outcome.save.result)
-                                << "job:" << outcome.save.jobId;
-            return outcome;
-        },
-        std::move(done));
-}
-
-QString OVWindowSave::failureText(const Outcome &outcome, const QString &queue) {
+QString OVWindowSave::failureText(const Outcome &outcome, const QString &queue,
+                                  const QString &server) {
     using Result = OVSettingsSave::Result;
     const OVSettingsSave::Outcome &save = outcome.save;
-    if (outcome.queueDamaged)
+    if (outcome.queue == OVQueueSetup::State::Damaged)
         return localized(damagedPpd).arg(queue);
-    if (!outcome.queueSetUp)
+    if (outcome.queue == OVQueueSetup::State::NotSetUp)
         return localized(queueNotSetUp).arg(queue);
+    if (outcome.queue == OVQueueSetup::State::QueueUnknown)
+        return OVWindowQueue::problemText(OVWindowQueue::Problem::QueueUnknown, queue, server);
+    if (outcome.queue == OVQueueSetup::State::ServerUnreachable)
+        return OVWindowQueue::problemText(OVWindowQueue::Problem::ServerUnreachable, queue, server);
     switch (save.result) {
     case Result::Stored:
         return {};

@@ -94,6 +94,7 @@ void OVWindowSetUp::setUpWindowTitle(QWidget *window,
 void OVWindowSetUp::setUpTexts(Ui::MainUtilityWindiw &c) {
     c.okButton->setText(localized(ok));
     c.closeButton->setText(localized(closeButton));
+    c.cancelButton->setText(localized(OVChooserTexts::cancel));
     c.introTextLabel->setText(localized(introText));
     c.snmpCommunityCheck->setText(localized(SnmpCommunityName));
     c.wakeOnLANCheck->setText(localized(wakeOnLan));
@@ -168,7 +169,7 @@ void OVWindowSetUp::setTabOrder(Ui::MainUtilityWindiw &c, const QList<QWidget *>
     if (allControls)
         // The tab widget hands its focus to its tab bar.
         chain = settingsChain(c) + aboveTabs + QList<QWidget *>{c.meinTabView} + tabPageChain(c) +
-                QList<QWidget *>{c.closeButton, c.okButton};
+                QList<QWidget *>{c.cancelButton, c.closeButton, c.okButton};
     else
         chain = {c.snmpCommunityText, c.macAddressText1, c.macAddressText2, c.macAddressText3,
                  c.macAddressText4,   c.macAddressText5, c.macAddressText6, c.printerIPAddressText};

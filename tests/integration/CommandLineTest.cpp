@@ -5,10 +5,12 @@
 #include "SettingsInputs.h"
 #include "SimulatedPrinter.h"
 
+#include <QElapsedTimer>
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QTest>
 
 namespace {
 
@@ -263,6 +265,28 @@ TEST(CommandLine, FetchesFromTheSimulatedPrinter) {
         printer.set(f.oid, f.value);
         check({"fetch", "--address", address}, f.exit, f.message);
     }
+}
+
+// --timeout bounds the whole fetch: a printer that answers the first queries and then goes
+// silent costs the command its limit once, not a timeout and retries per query.
+TEST(CommandLine, FetchEndsAtItsTimeoutWhenThePrinterFallsSilent) {
+    using P = SimulatedPrinter;
+    P printer;
+    ASSERT_TRUE(printer.start()) << printer.errorText().toStdString();
+    printer.setDefaults();
+    printer.setResponseDelayMs(100);
+    QElapsedTimer elapsed;
+    elapsed.start();
+    bool answered = false;
+    const CommandLineRun run(
+        ORVO_CLI, {"fetch", "--timeout", "10", "--address", P::loopbackAddress()}, {}, [&] {
+            answered = QTest::qWaitFor([&] { return printer.requestCount() >= 2; }, 5000);
+            printer.setSilent(true);
+        });
+    EXPECT_TRUE(answered);
+    EXPECT_LT(elapsed.elapsed(), 12000);
+    EXPECT_EQ(run.exit, 5) << run.shown.toStdString();
+    EXPECT_TRUE(run.shown.contains("did not answer")) << run.shown.toStdString();
 }
 
 } // namespace

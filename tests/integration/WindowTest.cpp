@@ -1,6 +1,8 @@
 // The main window driven by clicks and typing, against a private cupsd and printer.
 #include "AlertRecorder.h"
 #include "CupsServerEnvironment.h"
+#include "OVCustomRestrictedTextField.h"
+#include "OVNotificationCenter.h"
 #include "OVPreferredLanguages.h"
 #include "OVPrinterUtilityWindowController.h"
 #include "OVTableViewDataSource.h"
@@ -8,11 +10,14 @@
 #include "SimulatedPrinter.h"
 #include "ui_MainUtilityWindiw.h"
 
+#include <QElapsedTimer>
 #include <QSignalSpy>
 #include <QTest>
 #include <QTimer>
 
 #include <gtest/gtest.h>
+
+#include <csignal>
 
 const bool isolated = PrivateNetwork::enter();
 [[maybe_unused]] const auto cupsd = ::testing::AddGlobalTestEnvironment(new CupsServerEnvironment);
@@ -342,37 +347,130 @@ TEST_F(WindowTest, TextsInTheUsersLanguage) {
     EXPECT_EQ(m_alerts, QStringList{"Die Informationen konnten nicht abgerufen werden."});
 }
 
-// During a slow fetch (0.3 s, the timeout 1 s) fetch clicks are dropped and typing waits.
-TEST_F(WindowTest, InputWaitsForAFetchAndFetchClicksAreDropped) {
-    openOnPrinter();
-    m_printer.setResponseDelayMs(300);
-    QString duringFetch;
-    QTimer::singleShot(0, [&] {
-        for (QPushButton *button :
-             {m_c->printerGetPrinterInfoButton, m_c->folderGetPrinterInfoButton,
-              m_c->formGetPrinterInfoButton, m_c->barcodeAreaDefinitionGetPrinterInfoButton,
-              m_c->colorProfileGetPrinterInfoButton})
-            click(button);
-        QTest::keyClicks(m_c->printerIPAddressText, "9");
-        duringFetch = m_c->printerIPAddressText->text();
-    });
-    EXPECT_EQ(requestsDuring(m_printer, [&] { click(m_c->formGetPrinterInfoButton); }), 2);
-    EXPECT_EQ(duringFetch, P::loopbackAddress());
-    EXPECT_EQ(m_c->printerIPAddressText->text(), P::loopbackAddress() + "9");
-    EXPECT_EQ(forms(), m_printer.namesInUse(P::Table::Form));
+// The controls a user can reach, other than the window's Close and Cancel.
+QList<QWidget *> settingsControlsOn(QWidget *window, const Ui::MainUtilityWindiw &c) {
+    QList<QWidget *> on;
+    for (QWidget *control : window->findChildren<QWidget *>()) {
+        const bool reachable = qobject_cast<QAbstractButton *>(control) ||
+                               qobject_cast<QLineEdit *>(control) ||
+                               qobject_cast<QAbstractItemView *>(control);
+        if (reachable && control != c.closeButton && control != c.cancelButton &&
+            control->isEnabled() && control->isVisible())
+            on << control;
+    }
+    return on;
 }
 
-// Closing the window during a wake wait ends the flow at once: no further question to the
-// printer, no alert.
-TEST_F(WindowTest, ClosingEndsAWakeWait) {
+// While a fetch or a save runs, what would re-enable a control when idle (a field's text
+// notification, the check boxes' toggles, typing) turns none on, and the progress says what
+// runs. Both tasks are held on a peer that is slow (the printer) or stopped (cupsd).
+TEST_F(WindowTest, ATaskAloneDecidesTheControls) {
     openOnPrinter();
     m_c->macAddressText6->setText("cc");
-    m_printer.set(P::kSleepMode, 2L); // going to sleep: the flow waits 5 s between questions
-    QSignalSpy terminated(m_window.get(), &Controller::applicationShouldTerminate);
-    QTimer::singleShot(100, m_window.get(), [this] { m_window->mainWindowObject()->close(); });
-    EXPECT_EQ(requestsDuring(m_printer, [&] { click(m_c->formGetPrinterInfoButton); }), 1);
-    EXPECT_EQ(terminated.count(), 1);
+    const auto poke = [&](const char *progress) {
+        EXPECT_TRUE(m_c->progressIndicatorText->isVisible());
+        EXPECT_EQ(m_c->progressIndicatorText->text(), progress);
+        const auto toggle = [&] {
+            m_c->wakeOnLANCheck->toggle();
+            m_window->wakeOnLANCheckClicked(m_c->wakeOnLANCheck);
+            m_c->snmpCommunityCheck->toggle();
+            m_window->customSnmpCommunityClicked(m_c->snmpCommunityCheck);
+        };
+        OVNotificationCenter::defaultCenter().postNotification(
+            OVCustomRestrictedTextField::notification, m_c->macAddressText1);
+        toggle();
+        QTest::keyClicks(m_c->macAddressText1, "1");
+        EXPECT_EQ(settingsControlsOn(m_window->mainWindowObject(), *m_c), QList<QWidget *>());
+        EXPECT_TRUE(m_c->cancelButton->isEnabled() && m_c->closeButton->isEnabled());
+        toggle();
+    };
+    m_printer.setResponseDelayMs(300);
+    QTimer::singleShot(100, [&] { poke("Getting information from printer..."); });
+    click(m_c->formGetPrinterInfoButton);
+    m_printer.setResponseDelayMs(0);
+    EXPECT_EQ(m_window->state(), Controller::State::Idle);
+
+    const pid_t cupsd = pid_t(CupsServerEnvironment::server().pid());
+    ::kill(cupsd, SIGSTOP);
+    click(m_c->okButton);
+    poke("Saving settings...");
+    click(m_c->cancelButton);
+    ::kill(cupsd, SIGCONT);
+    EXPECT_EQ(m_window->state(), Controller::State::Idle);
+    EXPECT_TRUE(m_c->okButton->isEnabled() && m_c->macAddressText1->isEnabled());
+    EXPECT_FALSE(m_c->cancelButton->isVisible());
     EXPECT_EQ(m_alerts, QStringList());
+}
+
+// Cancel ends a fetch at once; the lists keep what they had.
+TEST_F(WindowTest, CancelledFetchChangesNoList) {
+    openOnPrinter();
+    const QStringList before = forms();
+    m_printer.setResponseDelayMs(300);
+    QElapsedTimer sinceCancel;
+    QTimer::singleShot(450, [&] {
+        sinceCancel.start();
+        click(m_c->cancelButton);
+    });
+    click(m_c->printerGetPrinterInfoButton);
+    EXPECT_LT(sinceCancel.elapsed(), 1000);
+    EXPECT_EQ(forms(), before);
+    EXPECT_EQ(m_window->state(), Controller::State::Idle);
+    EXPECT_EQ(m_alerts, QStringList());
+}
+
+// Closing during Get Printer Info ends it at once, while the printer keeps quiet and while
+// the wake flow waits for a printer going to sleep (5 s between questions): no further
+// question to the printer, no alert.
+TEST_F(WindowTest, ClosingEndsAFetchAtOnce) {
+    const std::function<void()> waits[] = {[&] {
+                                               m_c->wakeOnLANCheck->setChecked(false);
+                                               m_printer.setSilent(true);
+                                           },
+                                           [&] {
+                                               m_c->macAddressText6->setText("cc");
+                                               m_printer.set(P::kSleepMode, 2L);
+                                           }};
+    for (const auto &wait : waits) {
+        openOnPrinter();
+        wait();
+        QSignalSpy terminated(m_window.get(), &Controller::applicationShouldTerminate);
+        QElapsedTimer sinceClose;
+        QTimer::singleShot(300, m_window.get(), [&] {
+            sinceClose.start();
+            m_window->mainWindowObject()->close();
+        });
+        EXPECT_LE(requestsDuring(m_printer, [&] { click(m_c->formGetPrinterInfoButton); }), 1);
+        EXPECT_LT(sinceClose.elapsed(), 1000);
+        EXPECT_FALSE(m_window->mainWindowObject()->isVisible());
+        EXPECT_EQ(terminated.count(), 1);
+        EXPECT_EQ(m_alerts, QStringList());
+        m_printer.setDefaults();
+    }
+}
+
+// A server that stops answering after OK costs the save its one limit of 30 s, not one per
+// request; the alert says so and the window keeps what the user set.
+TEST_F(WindowTest, SaveToAStoppedServerEndsWithinItsLimit) {
+    openOnPrinter();
+    type(m_c->printerIPAddressText, "192.0.2.7");
+    const pid_t cupsd = pid_t(CupsServerEnvironment::server().pid());
+    QElapsedTimer elapsed;
+    elapsed.start();
+    ::kill(cupsd, SIGSTOP);
+    click(m_c->okButton);
+    const bool ended =
+        QTest::qWaitFor([&] { return m_window->state() != Controller::State::Saving; }, 40000);
+    ::kill(cupsd, SIGCONT);
+    EXPECT_TRUE(ended);
+    EXPECT_LT(elapsed.elapsed(), 35000);
+    EXPECT_EQ(m_window->state(), Controller::State::Idle);
+    // Said as unreachable when it stopped before the queue's set-up was checked.
+    ASSERT_EQ(m_alerts.size(), 1);
+    EXPECT_TRUE(m_alerts.first().startsWith("The print server stopped answering") ||
+                m_alerts.first().contains("cannot be reached"))
+        << m_alerts.first().toStdString();
+    EXPECT_EQ(m_c->printerIPAddressText->text(), "192.0.2.7");
 }
 
 } // namespace
