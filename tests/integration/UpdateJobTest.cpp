@@ -228,6 +228,10 @@ TEST(UpdateJobSecurity, OnlyWellFormedSettingsReachThePPD) {
          "PrinterMacAddress='QUJD\ncupsFilter2=x\r\nIsWakeOnLan=yes'",
          false},
         {"WrongShape", "IsOverTheRouter=yes", false},
+        // The queue stores Wake-on-LAN on and no MAC address: a job must not leave it so.
+        {"WakeOnLanOverNoStoredMac", "IsWakeOnLan=1", false},
+        {"MacClearedUnderStoredWakeOnLan", "PrinterMacAddress=", false},
+        {"WakeOnLanOverAMalformedMac", "IsWakeOnLan=1 PrinterMacAddress=QUJD", false},
         {"PartTooLong", "PSFormName2_Part1=" + QByteArray(204, 'Q'), false},
         {"TenThousandOptions", tenThousandOptions, true},
         {"NotAnUpdateJob", "IsWakeOnLan=0", false, false},
