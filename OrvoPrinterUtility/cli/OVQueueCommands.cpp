@@ -246,5 +246,5 @@ int OVQueueCommands::save(const QCommandLineParser &parser, bool json) {
                                    OVSettingsFields::verdictText(verdict) + "; nothing was sent");
     if (task.queue != OVQueueSetup::State::SetUp)
         return notReadyToSave(task.queue, queue);
-    return saved(task.save, queue, json);
+    return saved(task, queue, json);
 }
