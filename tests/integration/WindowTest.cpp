@@ -468,10 +468,17 @@ TEST_F(WindowTest, ProgramExitsSoonAfterClosingDuringAFetch) {
         program.setEnvironment({{"ORVO_SCRIPT_PRINTER", P::loopbackAddress().toUtf8()},
                                 {"ORVO_SCRIPT_WAKE", wake},
                                 {"XDG_RUNTIME_DIR", QFile::encodeName(runtime.path())}});
-        ASSERT_TRUE(program.start(ORVO_SCRIPTED_UTILITY, {"--printer", "Fresh"}));
-        ASSERT_TRUE(program.waitForFinished(60000));
-        const auto exited = std::chrono::duration_cast<std::chrono::milliseconds>(
-            std::chrono::steady_clock::now().time_since_epoch());
+        bool finished = false;
+        std::chrono::milliseconds exited{};
+        const int asked = requestsDuring(m_printer, [&] {
+            finished = program.start(ORVO_SCRIPTED_UTILITY, {"--printer", "Fresh"}) &&
+                       program.waitForFinished(60000);
+            exited = std::chrono::duration_cast<std::chrono::milliseconds>(
+                std::chrono::steady_clock::now().time_since_epoch());
+        });
+        ASSERT_TRUE(finished) << program.errorText().toStdString();
+        // The window closed while the fetch was under way: the printer was asked.
+        EXPECT_GE(asked, 1);
         EXPECT_EQ(program.exitCode(), 0) << program.standardError().toStdString();
         const QByteArray closed = program.standardOutput().trimmed();
         ASSERT_FALSE(closed.isEmpty()) << program.standardError().toStdString();
