@@ -5,6 +5,7 @@
 OVSaveTask::Outcome OVSaveTask::run(const OVSettingsSnapshot &settings, const QString &queue) {
     const Outcome outcome = OVSettingsSave::save(settings, queue);
     qCDebug(orvoCore) << "save to" << queue << "queue state:" << int(outcome.queue)
-                      << "result:" << int(outcome.result) << "job:" << outcome.jobId;
+                      << "user may save:" << outcome.userMaySave << "result:" << int(outcome.result)
+                      << "job:" << outcome.jobId;
     return outcome;
 }

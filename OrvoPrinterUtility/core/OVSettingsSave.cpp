@@ -30,8 +30,10 @@ OVSettingsSave::Outcome OVSettingsSave::save(const OVSettingsSnapshot &settings,
     outcome.verdict = settings.check();
     if (!outcome.verdict.ok())
         return outcome;
-    outcome.queue = OVQueueSetup::state(queue);
-    if (outcome.queue != OVQueueSetup::State::SetUp)
+    const OVQueueSetup::Access access = OVQueueSetup::access(queue);
+    outcome.queue = access.state;
+    outcome.userMaySave = access.userMaySave();
+    if (outcome.queue != OVQueueSetup::State::SetUp || !outcome.userMaySave)
         return outcome;
     outcome.jobId = OVUpdateJob::saveOptionsToPPD(settings, queue);
     if (outcome.jobId == 0) {

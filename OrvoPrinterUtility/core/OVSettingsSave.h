@@ -13,16 +13,16 @@
 
 // Saves the settings to a set-up queue and finds out whether they arrived:
 // the settings' rules (the size of the update job among them), the queue's
-// set-up check, then the update job, waited for, and the queue's PPD read
-// back. Nothing is sent that a rule refuses, whoever asks. A save is only
-// reported as stored when the PPD holds every value that was sent, so that
-// neither the window nor the command line ever claims a save that the server
-// dropped, printed, or left half written.
+// set-up check and whether the user may save on it, then the update job,
+// waited for, and the queue's PPD read back. Nothing is sent that a rule refuses, whoever asks. A
+// save is only reported as stored when the PPD holds every value that was sent, so that neither the
+// window nor the command line ever claims a save that the server dropped, printed, or left half
+// written.
 class OVSettingsSave {
 public:
     enum class Result {
         Stored,
-        NotSent,         // verdict, queue, or refusal and refusalText say why
+        NotSent,         // verdict, queue, userMaySave, or refusal and refusalText say why
         JobNotCompleted, // job says how it ended, or that it has not yet
         NotHeld,         // the job completed but the PPD lacks differing
         Replaced,        // as NotHeld, and a later update job, replacedBy, completed since
@@ -37,6 +37,9 @@ public:
         // Anything but SetUp: on a queue that is not set up the update job
         // would be printed, and the settings lost.
         OVQueueSetup::State queue = OVQueueSetup::State::SetUp;
+        // False: the queue names who may save, and not this user (the filter
+        // would store nothing of the job).
+        bool userMaySave = true;
         int jobId = 0;
         ipp_status_t refusal = IPP_STATUS_OK;
         QString refusalText;
