@@ -79,11 +79,13 @@ bool OrvoPPDUpdateFilter::looksLikeJobAttribute(const char *name) {
 // The window and the command line never send a setting that breaks its rule,
 // so a job with one is no save a user meant: none of its settings is stored,
 // rather than a part that would leave the others inconsistent.
-bool OrvoPPDUpdateFilter::refused(int count, cups_option_t *options, OrvoFilterLog &log) {
+bool OrvoPPDUpdateFilter::refused(int count, cups_option_t *options,
+                                  const OrvoStoredSettings &current, OrvoFilterLog &log) {
     std::vector<OrvoSettingsRules::JobOption> job;
     for (int i = 0; i < count; ++i)
         job.emplace_back(options[i].name, options[i].value);
-    const auto refusal = OrvoSettingsRules::checkJob(job);
+    const auto refusal = OrvoSettingsRules::checkJob(
+        job, [&current](const std::string &keyword) { return current.value(keyword); });
     if (refusal)
         log.refusedJob(refusal->keyword, refusal->verdict.explanation());
     return refusal.has_value();
@@ -91,9 +93,9 @@ bool OrvoPPDUpdateFilter::refused(int count, cups_option_t *options, OrvoFilterL
 
 void OrvoPPDUpdateFilter::store(const char *user, int count, cups_option_t *options,
                                 OrvoFilterLog &log, std::FILE *out) {
-    if (refused(count, options, log))
-        return;
     const OrvoStoredSettings current(std::getenv("PPD"));
+    if (refused(count, options, current, log))
+        return;
     if (!current.takesUpdates()) {
         // Ends the job as done: a failing filter would stop the queue for everyone.
         log.write(OrvoFilterLog::Level::Warning,

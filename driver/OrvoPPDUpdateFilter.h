@@ -5,6 +5,7 @@
 #include <cstdio>
 
 class OrvoFilterLog;
+class OrvoStoredSettings;
 
 // The CUPS filter of the utility's queue: a job that carries the update marker
 // has its settings options handed to cupsd as PPD attributes; every other
@@ -22,7 +23,8 @@ private:
     static void drainInput();
     static bool isUpdateJob(int count, cups_option_t *options);
     static bool looksLikeJobAttribute(const char *name);
-    static bool refused(int count, cups_option_t *options, OrvoFilterLog &log);
+    static bool refused(int count, cups_option_t *options, const OrvoStoredSettings &current,
+                        OrvoFilterLog &log);
     static void store(const char *user, int count, cups_option_t *options, OrvoFilterLog &log,
                       std::FILE *out);
 };

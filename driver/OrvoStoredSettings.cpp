@@ -39,8 +39,11 @@ OrvoStoredSettings::OrvoStoredSettings(const char *ppdPath) {
     }
 }
 
+const char *OrvoStoredSettings::value(const std::string &keyword) const {
+    const auto held = m_values.find(keyword);
+    return held != m_values.end() ? held->second.c_str() : nullptr;
+}
+
 bool OrvoStoredSettings::unchangedBy(std::string_view name, std::string_view value) const {
-    const auto held = m_values.find(std::string(name));
-    return OrvoSettingsComparison::holds(name, value,
-                                         held != m_values.end() ? held->second.c_str() : nullptr);
+    return OrvoSettingsComparison::holds(name, value, this->value(std::string(name)));
 }

@@ -18,6 +18,8 @@ public:
 
     // Whether storing the value would leave the PPD reading the same.
     bool unchangedBy(std::string_view name, std::string_view value) const;
+    // The stored value of a settings keyword; null when the PPD holds none.
+    const char *value(const std::string &keyword) const;
     // Whether the queue was set up for the utility: its PPD carries the set-up
     // line. The server routes update jobs to the filter on every queue.
     bool takesUpdates() const { return m_takesUpdates; }

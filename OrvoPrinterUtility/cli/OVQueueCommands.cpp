@@ -275,5 +275,5 @@ int OVQueueCommands::save(const QCommandLineParser &parser, bool json) {
         return notReadyToSave(task.queue, queue);
     if (!task.userMaySave)
         return notASaver(queue);
-    return saved(task.save, queue, json);
+    return saved(task, queue, json);
 }

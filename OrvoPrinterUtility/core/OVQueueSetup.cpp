@@ -190,21 +190,26 @@ OVQueueSetup::Found OVQueueSetup::find(http_t *http, const QString &queue) {
     return found;
 }
 
-// Fetched on this connection, so that it keeps to the deadline: cupsGetPPD2
-// may open a connection of its own that waits a minute on a server that
-// stopped answering.
-bool OVQueueSetup::fetchPpd(http_t *http, const QString &queue, Found &found) {
+http_status_t OVQueueSetup::withPpdFile(http_t *http, const QString &queue,
+                                        const std::function<void(const char *fileName)> &use) {
     char fileName[1024];
     const int fd = cupsTempFd(fileName, sizeof fileName);
     if (fd < 0)
-        return false;
+        return HTTP_STATUS_ERROR;
     // cupsd looks the name up as the request line spells it, without decoding
     // percent escapes, and a queue name holds no space, slash or '#': the name
     // goes as it is, as libcups itself sends it.
     const QByteArray resource = "/printers/" + queue.toUtf8() + ".ppd";
     const http_status_t status = cupsGetFd(http, resource.constData(), fd);
     close(fd);
-    if (status == HTTP_STATUS_OK) {
+    if (status == HTTP_STATUS_OK)
+        use(fileName);
+    unlink(fileName);
+    return status;
+}
+
+bool OVQueueSetup::fetchPpd(http_t *http, const QString &queue, Found &found) {
+    const http_status_t status = withPpdFile(http, queue, [&found](const char *fileName) {
         QFile file(QString::fromLocal8Bit(fileName));
         found.hasPpd = file.open(QIODevice::ReadOnly);
         found.ppd = file.readAll();
@@ -212,8 +217,7 @@ bool OVQueueSetup::fetchPpd(http_t *http, const QString &queue, Found &found) {
         found.opens = opened != nullptr;
         if (opened)
             r_ppdClose(opened);
-    }
-    unlink(fileName);
+    });
     return status == HTTP_STATUS_OK ||
            (status == HTTP_STATUS_NOT_FOUND && !OVCupsConnection::pastDeadline());
 }

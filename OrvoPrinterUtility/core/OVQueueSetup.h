@@ -95,6 +95,14 @@ public:
     // still holds whole, sets it up, installs it and checks the result.
     static Result repair(const QString &queue);
 
+    // Fetches the queue's PPD on this connection into a temporary file, hands
+    // the file's name to use, then removes it; the server's HTTP status. On
+    // the caller's connection the fetch keeps to its task's deadline:
+    // cupsGetPPD2 may open a connection of its own that waits a minute on a
+    // server that stopped answering.
+    static http_status_t withPpdFile(http_t *http, const QString &queue,
+                                     const std::function<void(const char *fileName)> &use);
+
 private:
     // What the server says of a queue, and its PPD as fetched.
     struct Found {

@@ -1,7 +1,6 @@
 #include "OVSettingsSave.h"
 
 #include "OVCupsConnection.h"
-#include "OVQueueSetup.h"
 #include "OrvoSNMPHelper.h"
 #include "OrvoSettingsCodec.h"
 #include "OrvoSettingsComparison.h"
@@ -28,6 +27,14 @@ QStringList missingFrom(ppd_file_t *ppd, const OVSettingsSnapshot &sent) {
 OVSettingsSave::Outcome OVSettingsSave::save(const OVSettingsSnapshot &settings,
                                              const QString &queue) {
     Outcome outcome;
+    outcome.verdict = settings.check();
+    if (!outcome.verdict.ok())
+        return outcome;
+    const OVQueueSetup::Access access = OVQueueSetup::access(queue);
+    outcome.queue = access.state;
+    outcome.userMaySave = access.userMaySave();
+    if (outcome.queue != OVQueueSetup::State::SetUp || !outcome.userMaySave)
+        return outcome;
     outcome.jobId = OVUpdateJob::saveOptionsToPPD(settings, queue);
     if (outcome.jobId == 0) {
         outcome.refusal = cupsLastError();

@@ -1,8 +1,10 @@
 #pragma once
 
+#include "OVQueueSetup.h"
 #include "OVSettingsSnapshot.h"
 #include "OVStoredSettings.h"
 #include "OVUpdateJob.h"
+#include "OrvoSettingsVerdict.h"
 
 #include <QString>
 #include <QStringList>
@@ -10,15 +12,17 @@
 #include <cups/ipp.h>
 
 // Saves the settings to a set-up queue and finds out whether they arrived:
-// the update job is sent, waited for, and the queue's PPD read back. A save
-// is only reported as stored when the PPD holds every value that was sent,
-// so that neither the window nor the command line ever claims a save that
-// the server dropped, printed, or left half written.
+// the settings' rules (the size of the update job among them), the queue's
+// set-up check and whether the user may save on it, then the update job,
+// waited for, and the queue's PPD read back. Nothing is sent that a rule refuses, whoever asks. A
+// save is only reported as stored when the PPD holds every value that was sent, so that neither the
+// window nor the command line ever claims a save that the server dropped, printed, or left half
+// written.
 class OVSettingsSave {
 public:
     enum class Result {
         Stored,
-        NotSent,         // refusal and refusalText say why
+        NotSent,         // verdict, queue, userMaySave, or refusal and refusalText say why
         JobNotCompleted, // job says how it ended, or that it has not yet
         NotHeld,         // the job completed but the PPD lacks differing
         Replaced,        // as NotHeld, and a later update job, replacedBy, completed since
@@ -27,6 +31,15 @@ public:
     };
     struct Outcome {
         Result result = Result::NotSent;
+        // Not ok: a setting breaks its rule, or the job would not reach the
+        // driver unless some lists are shortened.
+        OrvoSettingsVerdict verdict;
+        // Anything but SetUp: on a queue that is not set up the update job
+        // would be printed, and the settings lost.
+        OVQueueSetup::State queue = OVQueueSetup::State::SetUp;
+        // False: the queue names who may save, and not this user (the filter
+        // would store nothing of the job).
+        bool userMaySave = true;
         int jobId = 0;
         ipp_status_t refusal = IPP_STATUS_OK;
         QString refusalText;
@@ -34,10 +47,10 @@ public:
         OVStoredSettings::Status readBack = OVStoredSettings::Status::Loaded;
         QStringList differing; // option names, with NotHeld and Replaced
         int replacedBy = 0;
+
+        bool stored() const { return result == Result::Stored; }
     };
 
-    // The queue must be set up (OVQueueSetup): on any other queue the update
-    // job would be printed.
     static Outcome save(const OVSettingsSnapshot &settings, const QString &queue);
 
     // Whether a failed submission means the server stopped answering rather

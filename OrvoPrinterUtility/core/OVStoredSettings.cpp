@@ -2,29 +2,13 @@
 
 #include "OVCupsConnection.h"
 #include "OVPrinterUtilityHelper.h"
+#include "OVQueueSetup.h"
 #include "OrvoPPD_Interface.h"
 #include "OrvoSNMPHelper.h"
 #include "OrvoSettingsKeywords.h"
 #include "OrvoSettingsVerdict.h"
 
 #include <cups/cups.h>
-
-#include <unistd.h>
-
-namespace {
-
-struct FetchedPPD {
-    ~FetchedPPD() {
-        if (ppd)
-            r_ppdClose(ppd);
-        if (!fileName.isEmpty())
-            unlink(fileName.constData());
-    }
-    QByteArray fileName;
-    ppd_file_t *ppd = nullptr;
-};
-
-} // namespace
 
 QString OVStoredSettings::defaultFolderName(int number) {
     return OVPrinterUtilityHelper::getLocalizedStringFor(
@@ -74,18 +58,22 @@ OVStoredSettings::withQueuePPD(const QString &printerID,
     const OVCupsConnection connection;
     if (!connection)
         return Status::ServerUnreachable;
-    FetchedPPD fetched;
-    fetched.fileName = r_cupsGetPPD2(connection.http(), printerID.toUtf8().constData());
+    Status status = Status::UnreadablePPD;
+    const http_status_t fetched =
+        OVQueueSetup::withPpdFile(connection.http(), printerID, [&](const char *fileName) {
+            if (ppd_file_t *ppd = r_ppdOpenFile(fileName)) {
+                use(ppd);
+                r_ppdClose(ppd);
+                status = Status::Loaded;
+            }
+        });
+    if (fetched == HTTP_STATUS_OK)
+        return status;
     // "Not found" is the server's answer for a queue without a PPD (or
     // without a name); anything else means it did not answer.
-    if (fetched.fileName.isEmpty())
-        return cupsLastError() == IPP_STATUS_ERROR_NOT_FOUND ? Status::NoPPD
-                                                             : Status::ServerUnreachable;
-    fetched.ppd = r_ppdOpenFile(fetched.fileName.constData());
-    if (!fetched.ppd)
-        return Status::UnreadablePPD;
-    use(fetched.ppd);
-    return Status::Loaded;
+    return fetched == HTTP_STATUS_NOT_FOUND && !OVCupsConnection::pastDeadline()
+               ? Status::NoPPD
+               : Status::ServerUnreachable;
 }
 
 bool OVStoredSettings::setMacAddressStr(std::array<QString, 6> &fields, const QString &mac) {

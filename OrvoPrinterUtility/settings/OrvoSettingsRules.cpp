@@ -89,12 +89,8 @@ OrvoSettingsVerdict OrvoSettingsRules::check(const OrvoSettings &s) {
         if (OrvoSettingsVerdict verdict = community(s.community); !verdict.ok())
             return verdict;
     }
-    if (s.wakeOnLan && s.macAddress.empty())
-        return {K::PrinterMacAddress, Problem::MacAddressMissing};
-    if (s.wakeOnLan) {
-        if (OrvoSettingsVerdict verdict = macAddress(s.macAddress); !verdict.ok())
-            return verdict;
-    }
+    if (OrvoSettingsVerdict verdict = wakeOnLan(s); !verdict.ok())
+        return verdict;
     if (s.printerAddress) {
         if (OrvoSettingsVerdict verdict = printerAddress(*s.printerAddress); !verdict.ok())
             return verdict;
@@ -112,26 +108,45 @@ OrvoSettingsVerdict OrvoSettingsRules::check(const OrvoSettings &s) {
 // option's shape: whatever the reader would ignore, or the PPD could not
 // hold, must not be stored, and none of the job is.
 std::optional<OrvoSettingsRules::Refusal>
-OrvoSettingsRules::checkJob(std::span<const JobOption> options) {
+OrvoSettingsRules::checkJob(std::span<const JobOption> options,
+                            const OrvoSettingsCodec::Lookup &stored) {
     std::map<std::string, std::string, std::less<>> settings;
     for (const auto &[name, value] : options) {
         if (OrvoSettingsOption::keywordOf(name))
             settings.emplace(name, value);
     }
-    OrvoSettingsCodec::Decoded decoded =
-        OrvoSettingsCodec::decode([&](const std::string &keyword) -> const char * {
-            const auto found = settings.find(keyword);
-            return found == settings.end() ? nullptr : found->second.c_str();
-        });
+    const auto inJob = [&](const std::string &keyword) -> const char * {
+        const auto found = settings.find(keyword);
+        return found == settings.end() ? nullptr : found->second.c_str();
+    };
+    OrvoSettingsCodec::Decoded decoded = OrvoSettingsCodec::decode(inJob);
     if (!decoded.ignored.empty())
         return Refusal{std::move(decoded.ignored.front().keyword),
                        std::move(decoded.ignored.front().verdict)};
+    // A job that touches neither leaves the stored pair as it was.
+    if (settings.contains(K::IsWakeOnLan) || settings.contains(K::PrinterMacAddress)) {
+        const OrvoSettings result = OrvoSettingsCodec::decode([&](const std::string &keyword) {
+                                        const char *value = inJob(keyword);
+                                        return value ? value : stored(keyword);
+                                    }).settings;
+        if (OrvoSettingsVerdict verdict = wakeOnLan(result); !verdict.ok())
+            return Refusal{std::string(verdict.field), std::move(verdict)};
+    }
     for (const auto &[name, value] : options) {
         OrvoSettingsOption::Result option = OrvoSettingsOption::check(name, value);
         if (option.kind == OrvoSettingsOption::Kind::Malformed)
             return Refusal{std::string(name), std::move(option.verdict)};
     }
     return std::nullopt;
+}
+
+// Wake-on-LAN needs the printer's MAC address; without Wake-on-LAN none is sent.
+OrvoSettingsVerdict OrvoSettingsRules::wakeOnLan(const OrvoSettings &settings) {
+    if (!settings.wakeOnLan)
+        return {};
+    if (settings.macAddress.empty())
+        return {K::PrinterMacAddress, Problem::MacAddressMissing};
+    return macAddress(settings.macAddress);
 }
 
 OrvoSettingsVerdict OrvoSettingsRules::names(const OrvoSettingsNameList &list,

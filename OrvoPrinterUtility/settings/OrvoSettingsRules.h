@@ -1,6 +1,7 @@
 #pragma once
 
 #include "OrvoSettings.h"
+#include "OrvoSettingsCodec.h"
 #include "OrvoSettingsOption.h"
 #include "OrvoSettingsVerdict.h"
 
@@ -49,15 +50,19 @@ public:
     static OrvoSettingsVerdict check(const OrvoSettings &settings);
 
     // Why an update job's options must not reach the PPD at all: an option of
-    // a settings keyword that is malformed, or a setting that breaks its rule.
+    // a settings keyword that is malformed, a setting that breaks its rule, or
+    // Wake-on-LAN and MAC address options that, over the stored settings
+    // (`stored`), leave Wake-on-LAN on without a valid MAC address.
     struct Refusal {
         std::string keyword; // the option's name, or the setting's keyword
         OrvoSettingsVerdict verdict;
     };
     using JobOption = std::pair<std::string_view, std::string_view>;
-    static std::optional<Refusal> checkJob(std::span<const JobOption> options);
+    static std::optional<Refusal> checkJob(std::span<const JobOption> options,
+                                           const OrvoSettingsCodec::Lookup &stored);
 
 private:
+    static OrvoSettingsVerdict wakeOnLan(const OrvoSettings &settings);
     static OrvoSettingsVerdict names(const OrvoSettingsNameList &list,
                                      const OrvoSettings &settings);
     static OrvoSettingsVerdict indices(const OrvoSettings &settings);

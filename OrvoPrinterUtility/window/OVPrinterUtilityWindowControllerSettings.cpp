@@ -125,7 +125,7 @@ void OVPrinterUtilityWindowController::saved(const OVWindowSave::Outcome &outcom
         return;
     }
     if (outcome.queue == OVQueueSetup::State::Damaged ||
-        outcome.save.result == OVSettingsSave::Result::Damaged)
+        outcome.result == OVSettingsSave::Result::Damaged)
         showProblem(OVWindowQueue::Problem::Damaged);
     else if (outcome.queue == OVQueueSetup::State::NotSetUp)
         showProblem(OVWindowQueue::Problem::NotSetUp);

@@ -33,7 +33,7 @@ constexpr std::pair<const char *, const char *> fieldLabels[] = {
 QString OVWindowSave::failureText(const Outcome &outcome, const QString &queue,
                                   const QString &server) {
     using Result = OVSettingsSave::Result;
-    const OVSettingsSave::Outcome &save = outcome.save;
+    const OVSettingsSave::Outcome &save = outcome;
     if (outcome.queue == OVQueueSetup::State::Damaged)
         return localized(damagedPpd).arg(queue);
     if (outcome.queue == OVQueueSetup::State::NotSetUp)

@@ -4,6 +4,7 @@
 #include "CupsServerEnvironment.h"
 #include "SettingsInputs.h"
 #include "SimulatedPrinter.h"
+#include "SpawnedProcess.h"
 
 #include <QElapsedTimer>
 #include <QFile>
@@ -182,10 +183,10 @@ TEST(CommandLine, ShowNamesTheLinesItIgnored) {
     const QJsonObject shown = QJsonDocument::fromJson(run.shown).object();
     EXPECT_EQ(shown["macAddress"], "00:00:00:00:00:00");
     EXPECT_EQ(shown["chosenFolderIndexes"], QJsonArray{0});
-    QProcess process;
+    SpawnedProcess process;
     process.start(ORVO_CLI, {"show", "forged"});
     ASSERT_TRUE(process.waitForFinished(60000));
-    EXPECT_EQ(process.readAllStandardError(),
+    EXPECT_EQ(process.standardError(),
               "orvo-printer-utility-cli: ignored a line of the PPD: *PrinterMacAddress is not six "
               "two-digit hexadecimal numbers joined by colons; its default is shown\n"
               "orvo-printer-utility-cli: ignored a line of the PPD: *SelSharedBoxIndex0 holds an "

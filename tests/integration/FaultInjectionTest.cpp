@@ -6,6 +6,7 @@
 #include "CupsServer.h"
 #include "OVQueueSetup.h"
 #include "OrvoPPD_Interface.h"
+#include "SpawnedProcess.h"
 
 #include <QElapsedTimer>
 #include <QFile>
@@ -110,11 +111,11 @@ TEST(FaultInjection, StoppedServerAndPausedQueue) {
     }
     ::kill(pid_t(server.pid()), SIGCONT);
     // A save to a paused queue waits there and is applied once the queue runs again.
-    ASSERT_EQ(QProcess::execute("cupsdisable", {"-h", server.address(), "Office"}), 0);
+    ASSERT_EQ(SpawnedProcess::execute("cupsdisable", {"-h", server.address(), "Office"}), 0);
     const CommandLineRun queued = cli(save(2, 2));
     EXPECT_EQ(queued.exit, 8);
     EXPECT_TRUE(queued.shown.contains("may still be applied when the queue runs"));
-    ASSERT_EQ(QProcess::execute("cupsenable", {"-h", server.address(), "Office"}), 0);
+    ASSERT_EQ(SpawnedProcess::execute("cupsenable", {"-h", server.address(), "Office"}), 0);
     EXPECT_TRUE(QTest::qWaitFor(
         [&] { return server.queuePpd("Office").contains("*PSFormName0_Part1: \"Rm9ybSAy\""); },
         10000));
@@ -223,9 +224,9 @@ TEST(FaultInjection, ConcurrentSavesSayWhatBecameOfEach) {
     CupsServer server(QStringLiteral(ORVO_PPD_UPDATE_FILTER));
     ASSERT_TRUE(server.isRunning() && server.addQueue("Office"));
     constexpr int saves = 10;
-    std::vector<std::unique_ptr<QProcess>> running;
+    std::vector<std::unique_ptr<SpawnedProcess>> running;
     for (int number = 1; number <= saves; ++number) {
-        running.push_back(std::make_unique<QProcess>());
+        running.push_back(std::make_unique<SpawnedProcess>());
         running.back()->start(ORVO_CLI, save(number) << "--json");
     }
     static const QRegularExpression replaced(
@@ -234,9 +235,9 @@ TEST(FaultInjection, ConcurrentSavesSayWhatBecameOfEach) {
                        "values for: PSFormName0_Part1\n$"));
     int held = 0;
     for (int number = 1; number <= saves; ++number) {
-        QProcess &process = *running[number - 1];
+        SpawnedProcess &process = *running[number - 1];
         ASSERT_TRUE(process.waitForFinished(60000));
-        const QByteArray said = process.readAllStandardError();
+        const QByteArray said = process.standardError();
         SCOPED_TRACE(said.toStdString());
         if (process.exitCode() == 0) {
             ++held;

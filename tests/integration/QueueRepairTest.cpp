@@ -6,6 +6,7 @@
 #include "OVQueueSetup.h"
 #include "OVSettingsSave.h"
 #include "OVStoredSettings.h"
+#include "SpawnedProcess.h"
 
 #include <QFile>
 #include <QThread>
@@ -25,10 +26,10 @@ CommandLineRun cli(const QStringList &arguments) {
 
 // The name under which the server's drivers list a PPD file, as lpadmin -m takes it.
 QString driverNamed(const QString &fileName) {
-    QProcess lpinfo;
+    SpawnedProcess lpinfo;
     lpinfo.start("lpinfo", {"-m"});
     lpinfo.waitForFinished(30000);
-    for (const QByteArray &line : lpinfo.readAllStandardOutput().split('\n')) {
+    for (const QByteArray &line : lpinfo.standardOutput().split('\n')) {
         if (line.contains(fileName.toUtf8()))
             return QString::fromUtf8(line.left(line.indexOf(' ')));
     }

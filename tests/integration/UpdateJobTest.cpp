@@ -228,6 +228,10 @@ TEST(UpdateJobSecurity, OnlyWellFormedSettingsReachThePPD) {
          "PrinterMacAddress='QUJD\ncupsFilter2=x\r\nIsWakeOnLan=yes'",
          false},
         {"WrongShape", "IsOverTheRouter=yes", false},
+        // The queue stores Wake-on-LAN on and no MAC address: a job must not leave it so.
+        {"WakeOnLanOverNoStoredMac", "IsWakeOnLan=1", false},
+        {"MacClearedUnderStoredWakeOnLan", "PrinterMacAddress=", false},
+        {"WakeOnLanOverAMalformedMac", "IsWakeOnLan=1 PrinterMacAddress=QUJD", false},
         {"PartTooLong", "PSFormName2_Part1=" + QByteArray(204, 'Q'), false},
         {"TenThousandOptions", tenThousandOptions, true},
         {"NotAnUpdateJob", "IsWakeOnLan=0", false, false},
@@ -257,9 +261,10 @@ TEST(UpdateJobSecurity, OnlyWellFormedSettingsReachThePPD) {
     EXPECT_LT(log.count("option \\\"J"), 100); // cupsd logs a quote as \"
 }
 
-// Each of the settings inputs sent in an update job that no front end checked, as any user who
-// may print can send one: what the rules accept is stored, anything else leaves the PPD as it
-// was, with the filter's reason in the server's log.
+// Each of the settings inputs: the save sends none that the rules refuse, whoever calls it. Sent
+// in an update job that no front end checked, as any user who may print can send one, what the
+// rules accept is stored, anything else leaves the PPD as it was, with the filter's reason in
+// the server's log.
 TEST(UpdateJobSecurity, TheFilterAppliesTheSettingsRules) {
     constexpr char queue[] = "OrvoRules";
     CupsServer &cups = CupsServerEnvironment::server();
@@ -269,17 +274,23 @@ TEST(UpdateJobSecurity, TheFilterAppliesTheSettingsRules) {
         const OVSettingsSnapshot snapshot = input.snapshot();
         const OrvoSettingsVerdict verdict = snapshot.check();
         const QByteArray before = cups.queuePpd(queue);
+        const int jobsBefore = cups.lastJob();
         const OVSettingsSave::Outcome outcome = OVSettingsSave::save(snapshot, queue);
-        if (verdict.ok()) {
-            EXPECT_EQ(outcome.result, OVSettingsSave::Result::Stored)
-                << outcome.differing.join(", ").toStdString();
+        EXPECT_EQ(outcome.stored(), verdict.ok())
+            << int(outcome.result) << " " << outcome.differing.join(", ").toStdString();
+        if (verdict.ok())
             continue;
-        }
-        EXPECT_EQ(outcome.result, OVSettingsSave::Result::NotHeld);
+        EXPECT_EQ(outcome.verdict.explanation(), verdict.explanation());
+        EXPECT_EQ(cups.lastJob(), jobsBefore);
+        QByteArray options;
+        for (const auto &[name, value] : OVUpdateJob::optionList(snapshot))
+            options += name + "=" + value + " ";
+        const int job = cups.printJob(queue, options);
+        EXPECT_EQ(cups.waitForJob(job), IPP_JSTATE_COMPLETED);
         EXPECT_EQ(cups.queuePpd(queue), before);
         const QRegularExpression refusal(
             QString("\\[Job %1\\] Refused the update job, nothing stored: (%2\\S*) (.*)\n")
-                .arg(outcome.jobId)
+                .arg(job)
                 .arg(QString::fromUtf8(verdict.field.data(), qsizetype(verdict.field.size()))));
         const QRegularExpressionMatch logged = refusal.match(QString::fromUtf8(cups.errorLog()));
         ASSERT_TRUE(logged.hasMatch());

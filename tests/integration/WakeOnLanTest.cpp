@@ -5,11 +5,11 @@
 #include "OVSystemLog.h"
 #include "OVWakeOnLanHelper.h"
 #include "SimulatedPrinter.h"
+#include "SpawnedProcess.h"
 #include "TestNetworkNamespaces.h"
 
 #include <QDateTime>
 #include <QFile>
-#include <QProcess>
 #include <QSaveFile>
 #include <QThread>
 
@@ -225,8 +225,8 @@ TEST(WakeOnLan, ReachesAndWakesThePrinter) {
         SCOPED_TRACE(mac);
         printer.set(SimulatedPrinter::kSleepMode, kAsleep);
         const auto wake = [&, mac = mac, exit = exit] {
-            EXPECT_EQ(QProcess::execute(ORVO_CLI, {"fetch", "--wake", "--over-router", "--mac", mac,
-                                                   "--address", kV4}),
+            EXPECT_EQ(SpawnedProcess::execute(ORVO_CLI, {"fetch", "--wake", "--over-router",
+                                                         "--mac", mac, "--address", kV4}),
                       exit);
         };
         EXPECT_EQ(sent(kMac, wake), exit == 0 ? QStringList({kV4, kV4}) : QStringList());

@@ -10,16 +10,20 @@
 #include "OVTableViewDataSource.h"
 #include "PrivateNetwork.h"
 #include "SimulatedPrinter.h"
+#include "SpawnedProcess.h"
 #include "ui_MainUtilityWindiw.h"
 
 #include <QElapsedTimer>
 #include <QSignalSpy>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
 
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <csignal>
+#include <cstdio>
 
 const bool isolated = PrivateNetwork::enter();
 [[maybe_unused]] const auto cupsd = ::testing::AddGlobalTestEnvironment(new CupsServerEnvironment);
@@ -447,6 +451,43 @@ TEST_F(WindowTest, ClosingEndsAFetchAtOnce) {
         EXPECT_FALSE(m_window->mainWindowObject()->isVisible());
         EXPECT_EQ(terminated.count(), 1);
         EXPECT_EQ(m_alerts, QStringList());
+        m_printer.setDefaults();
+    }
+}
+
+// The program as users start it exits within 2 s of its window closing during Get Printer Info,
+// while the printer keeps quiet and while the wake flow waits for a printer going to sleep.
+TEST_F(WindowTest, ProgramExitsSoonAfterClosingDuringAFetch) {
+    const std::pair<QByteArray, std::function<void()>> waits[] = {
+        {"0", [&] { m_printer.setSilent(true); }},
+        {"1", [&] { m_printer.set(P::kSleepMode, 2L); }}};
+    for (const auto &[wake, wait] : waits) {
+        SCOPED_TRACE(wake.toStdString());
+        wait();
+        // Qt would make its runtime folder in the client's temporary folder, which must stay empty.
+        const QTemporaryDir runtime;
+        SpawnedProcess program;
+        program.setEnvironment({{"ORVO_SCRIPT_PRINTER", P::loopbackAddress().toUtf8()},
+                                {"ORVO_SCRIPT_WAKE", wake},
+                                {"XDG_RUNTIME_DIR", QFile::encodeName(runtime.path())}});
+        bool finished = false;
+        std::chrono::milliseconds exited{};
+        const int asked = requestsDuring(m_printer, [&] {
+            finished = program.start(ORVO_SCRIPTED_UTILITY, {"--printer", "Fresh"}) &&
+                       program.waitForFinished(60000);
+            exited = std::chrono::duration_cast<std::chrono::milliseconds>(
+                std::chrono::steady_clock::now().time_since_epoch());
+        });
+        ASSERT_TRUE(finished) << program.errorText().toStdString();
+        // The window closed while the fetch was under way: the printer was asked.
+        EXPECT_GE(asked, 1);
+        EXPECT_EQ(program.exitCode(), 0) << program.standardError().toStdString();
+        const QByteArray closed = program.standardOutput().trimmed();
+        ASSERT_FALSE(closed.isEmpty()) << program.standardError().toStdString();
+        const qint64 exitMs = exited.count() - closed.toLongLong();
+        std::printf("Wake-on-LAN %s: the program exited %lld ms after its window closed\n",
+                    wake.constData(), static_cast<long long>(exitMs));
+        EXPECT_LT(exitMs, 2000);
         m_printer.setDefaults();
     }
 }

@@ -4,6 +4,7 @@
 #include "OrvoSNMPHelper.h"
 #include "OrvoSettingsCodec.h"
 #include "OrvoSettingsKeywords.h"
+#include "OrvoSettingsRules.h"
 #include "SettingsInputs.h"
 
 #include <QTemporaryFile>
@@ -162,6 +163,41 @@ TEST(OrvoSettingsRules, TheSettingsInputs) {
         expected.community = expected.customCommunity ? expected.community : K::defaultCommunity;
         EXPECT_TRUE(read.ignored.empty());
         EXPECT_TRUE(read.settings == expected);
+    }
+}
+
+// A job's Wake-on-LAN and MAC address options are judged over what the queue stores: the result
+// may not be Wake-on-LAN on without a MAC address; a job that touches neither leaves the pair.
+TEST(OrvoSettingsRules, AJobIsJudgedOverTheStoredSettings) {
+    using Stored = std::map<std::string, std::string>;
+    const std::string mac = OrvoSettingsCodec::encodeBase64("00:11:22:aa:bb:cc");
+    const struct {
+        const char *what;
+        std::vector<OrvoSettingsRules::JobOption> job;
+        Stored stored;
+        bool refused;
+    } jobs[] = {
+        {"WakeOnOverAStoredMac", {{K::IsWakeOnLan, "1"}}, {{K::PrinterMacAddress, mac}}, false},
+        {"WakeOnOverNoMac", {{K::IsWakeOnLan, "1"}}, {}, true},
+        {"WakeOnOverAMalformedMac",
+         {{K::IsWakeOnLan, "1"}},
+         {{K::PrinterMacAddress, OrvoSettingsCodec::encodeBase64("00:11")}},
+         true},
+        {"WakeOff", {{K::IsWakeOnLan, "0"}}, {}, false},
+        {"MacClearedWithWakeOff", {{K::PrinterMacAddress, ""}}, {{K::IsWakeOnLan, "0"}}, false},
+        {"MacClearedWithWakeOn", {{K::PrinterMacAddress, ""}}, {{K::IsWakeOnLan, "1"}}, true},
+        {"NeitherTouched", {{"PSFormName0_Part1", "QUJD"}}, {{K::IsWakeOnLan, "1"}}, false},
+    };
+    for (const auto &[what, job, stored, refused] : jobs) {
+        SCOPED_TRACE(what);
+        const auto refusal = OrvoSettingsRules::checkJob(
+            job, [&stored = stored](const std::string &keyword) -> const char * {
+                const auto found = stored.find(keyword);
+                return found == stored.end() ? nullptr : found->second.c_str();
+            });
+        EXPECT_EQ(refusal.has_value(), refused);
+        EXPECT_EQ(refusal.value_or(OrvoSettingsRules::Refusal{}).keyword,
+                  refused ? K::PrinterMacAddress : "");
     }
 }
 
