@@ -1,6 +1,7 @@
 #include "OVAlert.h"
 
 #include <QDialogButtonBox>
+#include <QGuiApplication>
 #include <QProxyStyle>
 #include <QPushButton>
 
@@ -49,8 +50,10 @@ QString fillFormat(const QString &format, const QStringList &arguments) {
 
 } // namespace
 
+// The application's name as the desktop shows it, not its binary's.
 OVAlert::OVAlert()
     : m_buttonBoxStyle(std::make_unique<FixedButtonOrderStyle>()) {
+    setWindowTitle(QGuiApplication::applicationDisplayName());
     if (auto *box = findChild<QDialogButtonBox *>()) {
         box->setStyle(m_buttonBoxStyle.get());
     }

@@ -12,7 +12,9 @@
 #include "OrvoSettingsKeywords.h"
 #include "ui_MainUtilityWindiw.h"
 
-#include <QCloseEvent>
+#include <QApplication>
+#include <QKeyEvent>
+#include <QPushButton>
 
 #include <mutex>
 
@@ -77,6 +79,7 @@ void OVPrinterUtilityWindowController::resetLaunchState() {
     m_printerId = QString("");
     m_bAdminLoginModeEnabled = false;
     m_isPpdOptionsUpdated = false;
+    m_shownSettings.reset();
 }
 
 // ---- start-up and closing ---------------------------------------------------
@@ -93,10 +96,44 @@ void OVPrinterUtilityWindowController::windowWillClose(const QString &identifier
         closeButtonClicked(m_ui->closeButton);
 }
 
+// The window is a dialog: Return presses OK (or the button that has the
+// focus), Escape presses Close, and closing it is Close, which may be refused.
 bool OVPrinterUtilityWindowController::eventFilter(QObject *watched, QEvent *event) {
-    if (watched == m_window.get() && event->type() == QEvent::Close)
+    if (watched != m_window.get())
+        return QObject::eventFilter(watched, event);
+    if (event->type() == QEvent::Close) {
         windowWillClose(m_window->objectName());
+        event->setAccepted(m_state == State::Closing);
+        return !event->isAccepted();
+    }
+    if (event->type() == QEvent::KeyPress)
+        return pressDialogKey(static_cast<QKeyEvent *>(event)->key());
     return QObject::eventFilter(watched, event);
+}
+
+bool OVPrinterUtilityWindowController::pressDialogKey(int key) {
+    QAbstractButton *button = nullptr;
+    if (key == Qt::Key_Escape)
+        button = m_ui->closeButton;
+    else if (key == Qt::Key_Return || key == Qt::Key_Enter)
+        button = qobject_cast<QPushButton *>(QApplication::focusWidget());
+    else
+        return false;
+    if (!button)
+        button = m_ui->okButton;
+    if (button->isEnabled() && button->isVisible())
+        button->click();
+    return true;
+}
+
+// What the user changed since the settings were shown: fetched values
+// count too, as they are not stored until OK.
+bool OVPrinterUtilityWindowController::hasUnsavedChanges() const {
+    if (!m_shownSettings)
+        return false;
+    OVSettingsSnapshot now = settingsSnapshot();
+    now.isPPDOptionsUpdated = m_shownSettings->isPPDOptionsUpdated;
+    return now != *m_shownSettings;
 }
 
 QString OVPrinterUtilityWindowController::localized(const char *key) const {
@@ -111,7 +148,7 @@ void OVPrinterUtilityWindowController::loadControls() {
         std::lock_guard lock(dictionaryMutex);
         dictionary = informationDictionary();
     }
-    OVWindowSetUp::setUpWindowTitle(m_window.get(), dictionary);
+    OVWindowSetUp::setUpWindowTitle(m_window.get(), dictionary, m_printerId);
     OVWindowSetUp::setUpTexts(*m_ui);
     OVWindowSetUp::setUpSettingsFields(*m_ui);
     enter(State::Loading);

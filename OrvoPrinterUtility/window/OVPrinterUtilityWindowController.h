@@ -3,6 +3,7 @@
 #include "OVBackgroundTask.h"
 #include "OVFolderSelection.h"
 #include "OVPrinterInfoFetch.h"
+#include "OVSettingsSnapshot.h"
 #include "OVWindowQueue.h"
 #include "OVWindowSave.h"
 
@@ -17,7 +18,6 @@
 
 class OVMessageBar;
 class OVTableViewDataSource;
-struct OVSettingsSnapshot;
 class QLineEdit;
 class QTableView;
 class QWidget;
@@ -145,6 +145,12 @@ private:
     using Action = void (OVPrinterUtilityWindowController::*)(QObject *sender);
 
     void resetLaunchState();
+    bool pressDialogKey(int key);
+    bool hasUnsavedChanges() const;
+    // Asks whether to drop changes not saved; yes when there are none.
+    bool mayDiscardChanges();
+    // Ends what runs and hides the window, for good.
+    void closeWindow();
     void createDataSources();
     void connectActions();
     void enter(State state);
@@ -200,6 +206,8 @@ private:
     bool m_bError = false;
     bool m_bAdminLoginModeEnabled = false;
     bool m_isPpdOptionsUpdated = false;
+    // The settings as the window showed them once loaded, to tell changes by.
+    std::optional<OVSettingsSnapshot> m_shownSettings;
 };
 
 // A cancelled task's result is dropped: the window is already back in the

@@ -1,6 +1,8 @@
 // The controller's part in the queue's settings: they load in the background
 // while the window shows, fill the controls, and OK saves them.
+#include "OVAlert.h"
 #include "OVBackgroundTask.h"
+#include "OVChooserTexts.h"
 #include "OVPrinterUtilityWindowController.h"
 #include "OVSettingsSnapshot.h"
 #include "OVTableViewDataSource.h"
@@ -24,6 +26,7 @@ void OVPrinterUtilityWindowController::finishLoading(const OVWindowQueue::Loaded
     loadBarcodeAreaDefinitionValues();
     loadColorProfileValues();
     setTabOrder();
+    m_shownSettings = settingsSnapshot();
     emit settingsLoaded();
 }
 
@@ -108,7 +111,7 @@ void OVPrinterUtilityWindowController::okButtonClicked(QObject *) {
 void OVPrinterUtilityWindowController::saved(const OVWindowSave::Outcome &outcome) {
     enter(State::Idle);
     if (outcome.stored()) {
-        closeButtonClicked(m_ui->closeButton);
+        closeWindow();
         return;
     }
     // A setting that breaks its rule is named, and so are the lists to
@@ -128,11 +131,24 @@ void OVPrinterUtilityWindowController::saved(const OVWindowSave::Outcome &outcom
     alert(OVWindowSave::failureText(outcome, m_printerId, m_server));
 }
 
+void OVPrinterUtilityWindowController::closeButtonClicked(QObject *) {
+    if (m_state != State::Closing && mayDiscardChanges())
+        closeWindow();
+}
+
+bool OVPrinterUtilityWindowController::mayDiscardChanges() {
+    if (!hasUnsavedChanges())
+        return true;
+    const auto question = OVAlert::alertWithMessageText(
+        localized(discardQuestion), localized(discardButton), localized(OVChooserTexts::cancel),
+        QString(), localized(discardDetail));
+    question->setEscapeButton(question->panelButtons().last());
+    return question->runModal() == OVAlert::defaultReturn;
+}
+
 // A task under way would keep the closing window for up to its limit, a
 // wake flow for minutes: it ends now, and what it finds is not shown.
-void OVPrinterUtilityWindowController::closeButtonClicked(QObject *) {
-    if (m_state == State::Closing)
-        return;
+void OVPrinterUtilityWindowController::closeWindow() {
     if (m_task)
         m_task->cancel();
     enter(State::Closing);

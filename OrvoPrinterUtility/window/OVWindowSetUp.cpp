@@ -80,15 +80,20 @@ QList<QWidget *> tabPageChain(Ui::MainUtilityWindiw &c) {
 }
 } // namespace
 
-void OVWindowSetUp::setUpWindowTitle(QWidget *window,
-                                     const std::optional<QVariantMap> &dictionary) {
+// Several windows may be open at once, one per queue: the queue in the title
+// tells them apart.
+void OVWindowSetUp::setUpWindowTitle(QWidget *window, const std::optional<QVariantMap> &dictionary,
+                                     const QString &queue) {
+    QString title = window->windowTitle();
     if (!dictionary) {
-        window->setWindowTitle(localized(defaultTitle));
-        return;
+        title = localized(defaultTitle);
+    } else if (const auto modelName = dictionary->constFind(modelNameKey);
+               modelName != dictionary->constEnd()) {
+        title = modelName->toString() + localized(utilitySuffix);
     }
-    const auto modelName = dictionary->constFind(modelNameKey);
-    if (modelName != dictionary->constEnd())
-        window->setWindowTitle(modelName->toString() + localized(utilitySuffix));
+    if (!queue.isEmpty())
+        title += QStringLiteral(" — ") + queue;
+    window->setWindowTitle(title);
 }
 
 void OVWindowSetUp::setUpTexts(Ui::MainUtilityWindiw &c) {

@@ -102,6 +102,9 @@ inline constexpr char saveReplaced[] =
 inline constexpr char saveDamaged[] =
     "The PPD of the print queue \"%1\" was damaged while the settings were stored. Choose "
     "\"Repair…\" to rebuild it, then save.";
+inline constexpr char discardQuestion[] = "Discard the changes to the settings?";
+inline constexpr char discardDetail[] = "They were not saved to the print queue.";
+inline constexpr char discardButton[] = "Discard";
 inline constexpr char saveNotReadBack[] =
     "The settings were sent, but the queue's PPD could not be read back to check them. Open the "
     "window again to see what is stored.";
@@ -166,5 +169,8 @@ inline constexpr const char *localizedKeys[] = {
     saveReplaced,
     saveDamaged,
     saveNotReadBack,
+    discardQuestion,
+    discardDetail,
+    discardButton,
 };
 } // namespace OVWindowTexts

@@ -727,5 +727,17 @@
         <source>Update job %1 ended, then a later save to this print queue (update job %2) replaced its settings. Open the window again to see what is stored.</source>
         <translation>Der Aktualisierungsauftrag %1 wurde beendet, dann hat ein späteres Speichern in dieser Druckwarteschlange (Aktualisierungsauftrag %2) seine Einstellungen ersetzt. Öffnen Sie das Fenster erneut, um zu sehen, was gespeichert ist.</translation>
     </message>
+    <message>
+        <source>Discard the changes to the settings?</source>
+        <translation>Die Änderungen an den Einstellungen verwerfen?</translation>
+    </message>
+    <message>
+        <source>They were not saved to the print queue.</source>
+        <translation>Sie wurden nicht in der Druckwarteschlange gespeichert.</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Verwerfen</translation>
+    </message>
 </context>
 </TS>

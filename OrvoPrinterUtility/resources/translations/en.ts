@@ -727,5 +727,17 @@
         <source>Update job %1 ended, then a later save to this print queue (update job %2) replaced its settings. Open the window again to see what is stored.</source>
         <translation>Update job %1 ended, then a later save to this print queue (update job %2) replaced its settings. Open the window again to see what is stored.</translation>
     </message>
+    <message>
+        <source>Discard the changes to the settings?</source>
+        <translation>Discard the changes to the settings?</translation>
+    </message>
+    <message>
+        <source>They were not saved to the print queue.</source>
+        <translation>They were not saved to the print queue.</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Discard</translation>
+    </message>
 </context>
 </TS>

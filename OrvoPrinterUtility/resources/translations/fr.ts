@@ -727,5 +727,17 @@
         <source>Update job %1 ended, then a later save to this print queue (update job %2) replaced its settings. Open the window again to see what is stored.</source>
         <translation>La tâche de mise à jour %1 s’est terminée, puis un enregistrement ultérieur dans cette file d’attente (tâche de mise à jour %2) a remplacé ses réglages. Rouvrez la fenêtre pour voir ce qui est enregistré.</translation>
     </message>
+    <message>
+        <source>Discard the changes to the settings?</source>
+        <translation>Abandonner les modifications des réglages ?</translation>
+    </message>
+    <message>
+        <source>They were not saved to the print queue.</source>
+        <translation>Elles n’ont pas été enregistrées dans la file d’impression.</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Abandonner</translation>
+    </message>
 </context>
 </TS>

@@ -727,5 +727,17 @@
         <source>Update job %1 ended, then a later save to this print queue (update job %2) replaced its settings. Open the window again to see what is stored.</source>
         <translation>更新ジョブ %1 は終了しましたが、その後このプリントキューへの別の保存 (更新ジョブ %2) が設定を置き換えました。保存されている内容を確認するには、ウィンドウをもう一度開いてください。</translation>
     </message>
+    <message>
+        <source>Discard the changes to the settings?</source>
+        <translation>設定の変更を破棄しますか?</translation>
+    </message>
+    <message>
+        <source>They were not saved to the print queue.</source>
+        <translation>変更はプリントキューに保存されていません。</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>破棄</translation>
+    </message>
 </context>
 </TS>

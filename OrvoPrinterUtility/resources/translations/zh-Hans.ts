@@ -727,5 +727,17 @@
         <source>Update job %1 ended, then a later save to this print queue (update job %2) replaced its settings. Open the window again to see what is stored.</source>
         <translation>更新作业 %1 已结束，随后对此打印队列的另一次保存（更新作业 %2）替换了它的设置。请重新打开窗口查看当前保存的内容。</translation>
     </message>
+    <message>
+        <source>Discard the changes to the settings?</source>
+        <translation>放弃对设置的更改吗?</translation>
+    </message>
+    <message>
+        <source>They were not saved to the print queue.</source>
+        <translation>这些更改尚未保存到打印队列。</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>放弃</translation>
+    </message>
 </context>
 </TS>

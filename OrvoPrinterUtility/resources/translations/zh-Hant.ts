@@ -727,5 +727,17 @@
         <source>Update job %1 ended, then a later save to this print queue (update job %2) replaced its settings. Open the window again to see what is stored.</source>
         <translation>更新工作 %1 已結束，隨後對此列印佇列的另一次儲存（更新工作 %2）取代了它的設定。請重新開啟視窗查看目前儲存的內容。</translation>
     </message>
+    <message>
+        <source>Discard the changes to the settings?</source>
+        <translation>放棄對設定的變更嗎?</translation>
+    </message>
+    <message>
+        <source>They were not saved to the print queue.</source>
+        <translation>這些變更尚未儲存到列印佇列。</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>放棄</translation>
+    </message>
 </context>
 </TS>

@@ -1,0 +1,124 @@
+// The settings window behaves as a desktop dialog: its title, its keys, the
+// question before changes are dropped, the titles of its alerts. The window
+// reads a private cupsd; nothing here reaches a printer.
+#include "CupsServerEnvironment.h"
+#include "OVAlert.h"
+#include "OVPrinterUtilityWindowController.h"
+#include "ui_MainUtilityWindiw.h"
+
+#include <QApplication>
+#include <QSignalSpy>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+[[maybe_unused]] const auto cupsd = ::testing::AddGlobalTestEnvironment(new CupsServerEnvironment);
+
+namespace {
+
+using Controller = OVPrinterUtilityWindowController;
+
+// Answers every alert with the button at `answer` and keeps its text.
+class Answering {
+public:
+    explicit Answering(int answer) {
+        OVAlert::setResponder([this, answer](const OVAlert &alert) {
+            m_texts << alert.text() + '|' + alert.informativeText();
+            m_titles << alert.windowTitle();
+            return answer;
+        });
+    }
+    ~Answering() { OVAlert::setResponder({}); }
+    Answering(const Answering &) = delete;
+    Answering &operator=(const Answering &) = delete;
+    QStringList m_texts;
+    QStringList m_titles;
+};
+
+class DialogTest : public ::testing::Test {
+protected:
+    static void SetUpTestSuite() {
+        ASSERT_TRUE(CupsServerEnvironment::server().addQueue("Office"));
+    }
+    void TearDown() override { Controller::setInformationDictionary(std::nullopt); }
+
+    void open(const QString &queue = "Office") {
+        m_window = std::make_unique<Controller>();
+        QSignalSpy loaded(m_window.get(), &Controller::settingsLoaded);
+        m_window->applicationDidFinishLaunching({"--printer", queue});
+        m_window->mainWindowObject()->show();
+        m_c = &m_window->controls();
+        ASSERT_TRUE(loaded.wait(30000));
+    }
+    // Whether the window ended (closed and asked the application to quit).
+    bool ends(const std::function<void()> &action) {
+        QSignalSpy terminated(m_window.get(), &Controller::applicationShouldTerminate);
+        action();
+        return !terminated.isEmpty() && !m_window->mainWindowObject()->isVisible();
+    }
+
+    std::unique_ptr<Controller> m_window;
+    Ui::MainUtilityWindiw *m_c = nullptr;
+};
+
+TEST_F(DialogTest, TitleNamesTheQueue) {
+    const std::pair<std::optional<QVariantMap>, const char *> cases[] = {
+        {std::nullopt, "Orvo Printer Utility — Office"},
+        {QVariantMap{{"Orvo Printer - Model Name", "X-900"}}, "X-900 - Utility — Office"}};
+    for (const auto &[dictionary, title] : cases) {
+        Controller::setInformationDictionary(dictionary);
+        open();
+        EXPECT_EQ(m_window->mainWindowObject()->windowTitle(), QString::fromUtf8(title));
+    }
+}
+
+TEST_F(DialogTest, ReturnIsOkAndEscapeIsClose) {
+    Answering alerts(0);
+    open();
+    QTest::keyClick(m_c->printerIPAddressText, Qt::Key_Return);
+    EXPECT_EQ(m_window->state(), Controller::State::Saving);
+    m_window->cancelButtonClicked(m_c->cancelButton);
+    open();
+    EXPECT_TRUE(ends([&] { QTest::keyClick(m_c->printerIPAddressText, Qt::Key_Escape); }));
+    EXPECT_TRUE(alerts.m_texts.isEmpty()) << alerts.m_texts.join('\n').toStdString();
+}
+
+// Close and the window's own close button ask only when something changed,
+// and the answer Cancel keeps the window and what was typed.
+TEST_F(DialogTest, ClosingAsksBeforeChangesAreDropped) {
+    const struct {
+        bool change;
+        int answer; // 0: Discard, 1: Cancel
+        bool viaWindow;
+        int questions;
+        bool closes;
+    } cases[] = {{false, 1, false, 0, true},
+                 {false, 1, true, 0, true},
+                 {true, 0, false, 1, true},
+                 {true, 1, false, 1, false},
+                 {true, 1, true, 1, false}};
+    for (const auto &c : cases) {
+        Answering alerts(c.answer);
+        open();
+        if (c.change)
+            QTest::keyClicks(m_c->printerIPAddressText, "192.0.2.1");
+        QWidget *window = m_window->mainWindowObject();
+        EXPECT_EQ(ends([&] { c.viaWindow ? void(window->close()) : m_c->closeButton->click(); }),
+                  c.closes);
+        ASSERT_EQ(alerts.m_texts.size(), c.questions);
+        if (c.questions) {
+            EXPECT_TRUE(alerts.m_texts[0].startsWith("Discard the changes"));
+        }
+        if (!c.closes) {
+            EXPECT_TRUE(window->isVisible() && m_c->printerIPAddressText->text() == "192.0.2.1");
+        }
+    }
+}
+
+TEST(AlertTitle, IsTheApplicationsDisplayName) {
+    QApplication::setApplicationDisplayName("Orvo Printer Utility");
+    const auto alert = OVAlert::alertWithMessageText("Text", {}, {}, {}, {});
+    EXPECT_EQ(alert->windowTitle(), "Orvo Printer Utility");
+}
+
+} // namespace
