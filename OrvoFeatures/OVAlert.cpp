@@ -118,6 +118,18 @@ int OVAlert::runModal() {
     return resultForButtonIndex(m_buttons.indexOf(qobject_cast<QPushButton *>(clickedButton())));
 }
 
+QPointer<OVAlert> OVAlert::showWithoutBlocking(std::unique_ptr<OVAlert> alert) {
+    if (const Responder &responder = installedResponder()) {
+        responder(*alert);
+        return nullptr;
+    }
+    alert->setWindowModality(Qt::NonModal);
+    alert->setAttribute(Qt::WA_ShowWithoutActivating);
+    alert->setAttribute(Qt::WA_DeleteOnClose);
+    alert->show();
+    return alert.release();
+}
+
 int OVAlert::resultForButtonIndex(qsizetype index) const {
     switch (index) {
     case 1:

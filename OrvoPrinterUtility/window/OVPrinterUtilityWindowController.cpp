@@ -2,6 +2,7 @@
 
 #include "OVCustomRestrictedTextField.h"
 #include "OVLaunchEvent.h"
+#include "OVMacAddressEntry.h"
 #include "OVMessageBar.h"
 #include "OVNotificationCenter.h"
 #include "OVPrinterUtilityHelper.h"
@@ -39,6 +40,8 @@ OVPrinterUtilityWindowController::OVPrinterUtilityWindowController(QObject *pare
     m_window->installEventFilter(this);
     resetLaunchState();
     connectActions();
+    connect(new OVMacAddressEntry(macAddressFields(), this), &OVMacAddressEntry::filled, this,
+            &OVPrinterUtilityWindowController::constraintsWakeOnLanItems);
 }
 
 // Observers registered with this controller as context leave with it, and

@@ -127,7 +127,8 @@ public:
     void formClearButtonClicked(QObject *sender);
     void barcodeAreaDefinitionClearButtonClicked(QObject *sender);
     void colorProfileClearButtonClicked(QObject *sender);
-    void showFailedMessage();
+    // reason: the informative text, why the fetch failed.
+    void showFailedMessage(const QString &reason);
     void customSnmpCommunityClicked(QObject *sender);
     void wakeOnLANCheckClicked(QObject *sender);
 
@@ -180,8 +181,8 @@ private:
     void showFetched(const OVPrinterInfoFetch::Result &result);
     void showFetchedList(const std::optional<QStringList> &list, OVTableViewDataSource *dataSource);
     void applyFolderList(const OVPrinterInfoFetch::Result &result);
-    void failFetch();
-    void failFolderFetch();
+    void failFetch(const QString &reason);
+    void failFolderFetch(const QString &reason);
     std::array<QLineEdit *, macFieldCount> macAddressFields() const;
     QString localized(const char *key) const;
 

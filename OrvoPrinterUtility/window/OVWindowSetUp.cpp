@@ -24,6 +24,16 @@ QString localized(const char *key) {
     return OVPrinterUtilityHelper::getLocalizedStringFor(QString::fromUtf8(key));
 }
 
+// The characters the community may hold besides letters and digits, as the
+// field's message lists them; the invisible U+200B would only puzzle there.
+QString communitySymbols() {
+    QStringList symbols;
+    for (const QChar c : QString::fromUtf8(OrvoSettingsRules::communityCharacters))
+        if (!c.isLetterOrNumber() && c != QChar(0x200B))
+            symbols << QString(c);
+    return symbols.join(u' ');
+}
+
 // A label's text as the name assistive technology reads for its field.
 QString spokenLabel(const char *key) {
     return OVChooserTexts::withoutMnemonic(localized(key));
@@ -136,7 +146,8 @@ void OVWindowSetUp::setUpSettingsFields(Ui::MainUtilityWindiw &c) {
     c.snmpCommunityText->setInvalidCharacters(communityInvalidCharacters);
     c.snmpCommunityText->setMaxLength(int(OrvoSettingsRules::communityLimit));
     c.snmpCommunityText->showMessageIfInvalid(true);
-    c.snmpCommunityText->setInvalidMessageString(localized(prohibitCharacter), QString(""));
+    c.snmpCommunityText->setInvalidMessageString(
+        localized(communityAllowed).arg(communitySymbols()), localized(communityCharacter));
     c.snmpCommunityText->setText(OrvoSettingsKeywords::defaultCommunity);
     c.snmpCommunityText->setEnabled(false);
     c.wakeOnLANCheck->setChecked(true);

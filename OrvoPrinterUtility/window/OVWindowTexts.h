@@ -10,7 +10,9 @@ inline constexpr char ok[] = "OK";
 inline constexpr char closeButton[] = "Close";
 inline constexpr char introText[] = "IntroText";
 inline constexpr char SnmpCommunityName[] = "SNMP Community Name";
-inline constexpr char prohibitCharacter[] = "IDS_SNMP_PROHIBIT_CHARACTER_ERROR";
+// %1: the characters besides letters and digits
+inline constexpr char communityAllowed[] =
+    "It may hold the letters A-Z and a-z, the digits 0-9 and these characters: %1";
 inline constexpr char wakeOnLan[] = "Wake On LAN";
 inline constexpr char macAddressLabel[] = "MAC Address of the Printer:";
 // What assistive technology calls each of the six MAC fields; %1: 1 to 6.
@@ -102,6 +104,21 @@ inline constexpr char saveReplaced[] =
 inline constexpr char saveDamaged[] =
     "The PPD of the print queue \"%1\" was damaged while the settings were stored. Choose "
     "\"Repair…\" to rebuild it, then save.";
+// Why Get Printer Info failed. %1: the address, %2: what was asked
+inline constexpr char fetchNoAddress[] =
+    "The IP address of the printer is empty. Enter it, then try again.";
+inline constexpr char fetchNoAnswer[] =
+    "The printer at %1 did not answer when asked for %2. The IP "
+    "address or the SNMP community name may be wrong.";
+inline constexpr char fetchRefused[] =
+    "The printer at %1 answered with an error when asked for %2. It may not keep this information.";
+inline constexpr char fetchUnreadable[] =
+    "The printer at %1 sent an answer that cannot be read when asked for %2.";
+inline constexpr char stepMacAddress[] = "its MAC address";
+inline constexpr char stepFolders[] = "its shared folders";
+inline constexpr char stepForms[] = "its forms";
+inline constexpr char stepBarcodeAreas[] = "its barcode area definitions";
+inline constexpr char stepColorProfiles[] = "its color profiles";
 inline constexpr char discardQuestion[] = "Discard the changes to the settings?";
 inline constexpr char discardDetail[] = "They were not saved to the print queue.";
 inline constexpr char discardButton[] = "Discard";
@@ -118,7 +135,7 @@ inline constexpr const char *localizedKeys[] = {
     closeButton,
     introText,
     SnmpCommunityName,
-    prohibitCharacter,
+    communityAllowed,
     wakeOnLan,
     macAddressLabel,
     macAddressByte,
@@ -169,6 +186,15 @@ inline constexpr const char *localizedKeys[] = {
     saveReplaced,
     saveDamaged,
     saveNotReadBack,
+    fetchNoAddress,
+    fetchNoAnswer,
+    fetchRefused,
+    fetchUnreadable,
+    stepMacAddress,
+    stepFolders,
+    stepForms,
+    stepBarcodeAreas,
+    stepColorProfiles,
     discardQuestion,
     discardDetail,
     discardButton,

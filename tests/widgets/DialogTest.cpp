@@ -3,10 +3,12 @@
 // reads a private cupsd; nothing here reaches a printer.
 #include "CupsServerEnvironment.h"
 #include "OVAlert.h"
+#include "OVFetchFailureText.h"
 #include "OVPrinterUtilityWindowController.h"
 #include "ui_MainUtilityWindiw.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -112,6 +114,83 @@ TEST_F(DialogTest, ClosingAsksBeforeChangesAreDropped) {
         if (!c.closes) {
             EXPECT_TRUE(window->isVisible() && m_c->printerIPAddressText->text() == "192.0.2.1");
         }
+    }
+}
+
+// The alert keeps its message and says why as its informative text: the
+// window's own empty address, then each failure kind of a step.
+TEST_F(DialogTest, FetchFailureSaysWhy) {
+    Answering alerts(0);
+    open();
+    m_c->printerGetPrinterInfoButton->click();
+    EXPECT_EQ(alerts.m_texts, QStringList{"Failed to obtain information.|The IP address of the "
+                                          "printer is empty. Enter it, then try again."});
+    using R = OVSNMPHelper::Reason;
+    using S = OVPrinterInfoFetch::Step;
+    const std::tuple<R, S, const char *> cases[] = {
+        {R::NoAnswer, S::MacAddress,
+         "The printer at ::1 did not answer when asked for its MAC address. The IP address or the "
+         "SNMP community name may be wrong."},
+        {R::Refused, S::Forms,
+         "The printer at ::1 answered with an error when asked for its forms. It may not keep "
+         "this information."},
+        {R::Unreadable, S::ColorProfiles,
+         "The printer at ::1 sent an answer that cannot be read when asked for its color "
+         "profiles."}};
+    for (const auto &[reason, step, text] : cases)
+        EXPECT_EQ(OVFetchFailureText::reason("::1", {step, {reason, "detail"}}), text);
+}
+
+// A refused character is named with what is allowed; the text typed before
+// and after it stays.
+TEST_F(DialogTest, CommunityMessageNamesTheRefusedCharacter) {
+    Answering alerts(0);
+    open();
+    m_c->snmpCommunityCheck->click();
+    m_c->snmpCommunityText->clear();
+    QTest::keyClicks(m_c->snmpCommunityText, "ab#cd");
+    EXPECT_EQ(m_c->snmpCommunityText->text(), "abcd");
+    EXPECT_EQ(alerts.m_texts,
+              QStringList{"The SNMP community name cannot contain \"#\".|It may hold the letters "
+                          "A-Z and a-z, the digits 0-9 and these characters: , . / : ; @ [ \\ "
+                          "\u00A5 ] ^ _"});
+}
+
+// A whole address pasted into any byte fills all six, in each usual form;
+// anything else pasted is refused. Typing runs on from byte to byte.
+TEST_F(DialogTest, MacAddressPasteAndTyping) {
+    open();
+    const std::array<QLineEdit *, 6> fields = {m_c->macAddressText1, m_c->macAddressText2,
+                                               m_c->macAddressText3, m_c->macAddressText4,
+                                               m_c->macAddressText5, m_c->macAddressText6};
+    const auto mac = [&] {
+        QStringList bytes;
+        for (QLineEdit *field : fields)
+            bytes << field->text();
+        return bytes.join(':');
+    };
+    const std::tuple<const char *, int, const char *> pastes[] = {
+        {"00:1B:63:84:45:E6", 0, "00:1B:63:84:45:E6"},
+        {"00-1b-63-84-45-e6", 3, "00:1B:63:84:45:E6"},
+        {" 001b638445E6\n", 5, "00:1B:63:84:45:E6"},
+        {"00:1B:63", 1, "00:00:00:00:00:00"},
+        {"00:1B-63:84:45:E6", 1, "00:00:00:00:00:00"}};
+    for (const auto &[text, field, expected] : pastes) {
+        m_window->setMacAddressStr("00:00:00:00:00:00");
+        QApplication::clipboard()->setText(text);
+        fields[field]->setFocus();
+        QTest::keyClick(fields[field], Qt::Key_V, Qt::ControlModifier);
+        EXPECT_EQ(mac(), expected) << text;
+    }
+    const std::pair<const char *, const char *> typing[] = {{"aabbccddeeff", "aa:bb:cc:dd:ee:ff"},
+                                                            {"1:2-3", "1:2:3:00:00:00"}};
+    for (const auto &[keys, expected] : typing) {
+        m_window->setMacAddressStr("00:00:00:00:00:00");
+        fields[0]->setFocus();
+        fields[0]->selectAll();
+        for (const char key : std::string_view(keys))
+            QTest::keyClick(QApplication::focusWidget(), key);
+        EXPECT_EQ(mac(), expected) << keys;
     }
 }
 

@@ -28,10 +28,6 @@
         <translation>SNMP-Community-Name</translation>
     </message>
     <message>
-        <source>IDS_SNMP_PROHIBIT_CHARACTER_ERROR</source>
-        <translation>Dieses Zeichen ist im SNMP-Community-Namen nicht zulässig.</translation>
-    </message>
-    <message>
         <source>Wake On LAN</source>
         <translation>Wake on LAN</translation>
     </message>
@@ -738,6 +734,46 @@
     <message>
         <source>Discard</source>
         <translation>Verwerfen</translation>
+    </message>
+    <message>
+        <source>It may hold the letters A-Z and a-z, the digits 0-9 and these characters: %1</source>
+        <translation>Er darf die Buchstaben A-Z und a-z, die Ziffern 0-9 und diese Zeichen enthalten: %1</translation>
+    </message>
+    <message>
+        <source>The IP address of the printer is empty. Enter it, then try again.</source>
+        <translation>Die IP-Adresse des Druckers ist leer. Geben Sie sie ein und versuchen Sie es erneut.</translation>
+    </message>
+    <message>
+        <source>The printer at %1 did not answer when asked for %2. The IP address or the SNMP community name may be wrong.</source>
+        <translation>Der Drucker unter %1 hat auf die Frage nach %2 nicht geantwortet. Die IP-Adresse oder der SNMP-Community-Name ist möglicherweise falsch.</translation>
+    </message>
+    <message>
+        <source>The printer at %1 answered with an error when asked for %2. It may not keep this information.</source>
+        <translation>Der Drucker unter %1 hat auf die Frage nach %2 mit einem Fehler geantwortet. Möglicherweise führt er diese Informationen nicht.</translation>
+    </message>
+    <message>
+        <source>The printer at %1 sent an answer that cannot be read when asked for %2.</source>
+        <translation>Der Drucker unter %1 hat auf die Frage nach %2 eine Antwort gesendet, die nicht gelesen werden kann.</translation>
+    </message>
+    <message>
+        <source>its MAC address</source>
+        <translation>seiner MAC-Adresse</translation>
+    </message>
+    <message>
+        <source>its shared folders</source>
+        <translation>seinen freigegebenen Ordnern</translation>
+    </message>
+    <message>
+        <source>its forms</source>
+        <translation>seinen Formularen</translation>
+    </message>
+    <message>
+        <source>its barcode area definitions</source>
+        <translation>seinen Barcodebereichsdefinitionen</translation>
+    </message>
+    <message>
+        <source>its color profiles</source>
+        <translation>seinen Farbprofilen</translation>
     </message>
 </context>
 </TS>

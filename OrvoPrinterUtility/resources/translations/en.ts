@@ -28,10 +28,6 @@
         <translation>SNMP Community Name</translation>
     </message>
     <message>
-        <source>IDS_SNMP_PROHIBIT_CHARACTER_ERROR</source>
-        <translation>The SNMP community name cannot contain this character.</translation>
-    </message>
-    <message>
         <source>Wake On LAN</source>
         <translation>Wake On LAN</translation>
     </message>
@@ -738,6 +734,46 @@
     <message>
         <source>Discard</source>
         <translation>Discard</translation>
+    </message>
+    <message>
+        <source>It may hold the letters A-Z and a-z, the digits 0-9 and these characters: %1</source>
+        <translation>It may hold the letters A-Z and a-z, the digits 0-9 and these characters: %1</translation>
+    </message>
+    <message>
+        <source>The IP address of the printer is empty. Enter it, then try again.</source>
+        <translation>The IP address of the printer is empty. Enter it, then try again.</translation>
+    </message>
+    <message>
+        <source>The printer at %1 did not answer when asked for %2. The IP address or the SNMP community name may be wrong.</source>
+        <translation>The printer at %1 did not answer when asked for %2. The IP address or the SNMP community name may be wrong.</translation>
+    </message>
+    <message>
+        <source>The printer at %1 answered with an error when asked for %2. It may not keep this information.</source>
+        <translation>The printer at %1 answered with an error when asked for %2. It may not keep this information.</translation>
+    </message>
+    <message>
+        <source>The printer at %1 sent an answer that cannot be read when asked for %2.</source>
+        <translation>The printer at %1 sent an answer that cannot be read when asked for %2.</translation>
+    </message>
+    <message>
+        <source>its MAC address</source>
+        <translation>its MAC address</translation>
+    </message>
+    <message>
+        <source>its shared folders</source>
+        <translation>its shared folders</translation>
+    </message>
+    <message>
+        <source>its forms</source>
+        <translation>its forms</translation>
+    </message>
+    <message>
+        <source>its barcode area definitions</source>
+        <translation>its barcode area definitions</translation>
+    </message>
+    <message>
+        <source>its color profiles</source>
+        <translation>its color profiles</translation>
     </message>
 </context>
 </TS>

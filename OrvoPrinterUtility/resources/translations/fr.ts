@@ -28,10 +28,6 @@
         <translation>Nom de communauté SNMP</translation>
     </message>
     <message>
-        <source>IDS_SNMP_PROHIBIT_CHARACTER_ERROR</source>
-        <translation>Ce caractère n'est pas autorisé dans le nom de communauté SNMP.</translation>
-    </message>
-    <message>
         <source>Wake On LAN</source>
         <translation>Wake on LAN</translation>
     </message>
@@ -738,6 +734,46 @@
     <message>
         <source>Discard</source>
         <translation>Abandonner</translation>
+    </message>
+    <message>
+        <source>It may hold the letters A-Z and a-z, the digits 0-9 and these characters: %1</source>
+        <translation>Il peut contenir les lettres A-Z et a-z, les chiffres 0-9 et ces caractères : %1</translation>
+    </message>
+    <message>
+        <source>The IP address of the printer is empty. Enter it, then try again.</source>
+        <translation>L’adresse IP de l’imprimante est vide. Saisissez-la, puis réessayez.</translation>
+    </message>
+    <message>
+        <source>The printer at %1 did not answer when asked for %2. The IP address or the SNMP community name may be wrong.</source>
+        <translation>L’imprimante à l’adresse %1 n’a pas répondu à la demande de %2. L’adresse IP ou le nom de communauté SNMP est peut-être erroné.</translation>
+    </message>
+    <message>
+        <source>The printer at %1 answered with an error when asked for %2. It may not keep this information.</source>
+        <translation>L’imprimante à l’adresse %1 a répondu par une erreur à la demande de %2. Elle ne conserve peut-être pas ces informations.</translation>
+    </message>
+    <message>
+        <source>The printer at %1 sent an answer that cannot be read when asked for %2.</source>
+        <translation>L’imprimante à l’adresse %1 a envoyé une réponse illisible à la demande de %2.</translation>
+    </message>
+    <message>
+        <source>its MAC address</source>
+        <translation>son adresse MAC</translation>
+    </message>
+    <message>
+        <source>its shared folders</source>
+        <translation>ses dossiers partagés</translation>
+    </message>
+    <message>
+        <source>its forms</source>
+        <translation>ses formulaires</translation>
+    </message>
+    <message>
+        <source>its barcode area definitions</source>
+        <translation>ses définitions de zones de code-barres</translation>
+    </message>
+    <message>
+        <source>its color profiles</source>
+        <translation>ses profils de couleur</translation>
     </message>
 </context>
 </TS>

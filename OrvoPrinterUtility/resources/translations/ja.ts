@@ -28,10 +28,6 @@
         <translation>SNMP コミュニティー名</translation>
     </message>
     <message>
-        <source>IDS_SNMP_PROHIBIT_CHARACTER_ERROR</source>
-        <translation>SNMP コミュニティー名にこの文字は使用できません。</translation>
-    </message>
-    <message>
         <source>Wake On LAN</source>
         <translation>Wake On LAN</translation>
     </message>
@@ -738,6 +734,46 @@
     <message>
         <source>Discard</source>
         <translation>破棄</translation>
+    </message>
+    <message>
+        <source>It may hold the letters A-Z and a-z, the digits 0-9 and these characters: %1</source>
+        <translation>使用できるのは英字 A-Z と a-z、数字 0-9、および次の文字です: %1</translation>
+    </message>
+    <message>
+        <source>The IP address of the printer is empty. Enter it, then try again.</source>
+        <translation>プリンターの IP アドレスが空です。入力してから、もう一度お試しください。</translation>
+    </message>
+    <message>
+        <source>The printer at %1 did not answer when asked for %2. The IP address or the SNMP community name may be wrong.</source>
+        <translation>%1 のプリンターは %2 の問い合わせに応答しませんでした。IP アドレスまたは SNMP コミュニティー名が間違っている可能性があります。</translation>
+    </message>
+    <message>
+        <source>The printer at %1 answered with an error when asked for %2. It may not keep this information.</source>
+        <translation>%1 のプリンターは %2 の問い合わせにエラーで応答しました。この情報を保持していない可能性があります。</translation>
+    </message>
+    <message>
+        <source>The printer at %1 sent an answer that cannot be read when asked for %2.</source>
+        <translation>%1 のプリンターから %2 の問い合わせに対して読み取れない応答が返されました。</translation>
+    </message>
+    <message>
+        <source>its MAC address</source>
+        <translation>MAC アドレス</translation>
+    </message>
+    <message>
+        <source>its shared folders</source>
+        <translation>共有フォルダー</translation>
+    </message>
+    <message>
+        <source>its forms</source>
+        <translation>フォーム</translation>
+    </message>
+    <message>
+        <source>its barcode area definitions</source>
+        <translation>バーコード領域定義</translation>
+    </message>
+    <message>
+        <source>its color profiles</source>
+        <translation>カラープロファイル</translation>
     </message>
 </context>
 </TS>

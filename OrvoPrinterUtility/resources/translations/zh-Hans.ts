@@ -28,10 +28,6 @@
         <translation>SNMP 团体名称</translation>
     </message>
     <message>
-        <source>IDS_SNMP_PROHIBIT_CHARACTER_ERROR</source>
-        <translation>SNMP 团体名称中不能使用此字符。</translation>
-    </message>
-    <message>
         <source>Wake On LAN</source>
         <translation>网络唤醒</translation>
     </message>
@@ -738,6 +734,46 @@
     <message>
         <source>Discard</source>
         <translation>放弃</translation>
+    </message>
+    <message>
+        <source>It may hold the letters A-Z and a-z, the digits 0-9 and these characters: %1</source>
+        <translation>可以包含字母 A-Z 和 a-z、数字 0-9 以及以下字符：%1</translation>
+    </message>
+    <message>
+        <source>The IP address of the printer is empty. Enter it, then try again.</source>
+        <translation>打印机的 IP 地址为空。请输入后重试。</translation>
+    </message>
+    <message>
+        <source>The printer at %1 did not answer when asked for %2. The IP address or the SNMP community name may be wrong.</source>
+        <translation>位于 %1 的打印机在查询%2时没有应答。IP 地址或 SNMP 团体名称可能有误。</translation>
+    </message>
+    <message>
+        <source>The printer at %1 answered with an error when asked for %2. It may not keep this information.</source>
+        <translation>位于 %1 的打印机在查询%2时返回了错误。它可能不保存此信息。</translation>
+    </message>
+    <message>
+        <source>The printer at %1 sent an answer that cannot be read when asked for %2.</source>
+        <translation>位于 %1 的打印机在查询%2时发送了无法读取的应答。</translation>
+    </message>
+    <message>
+        <source>its MAC address</source>
+        <translation>其 MAC 地址</translation>
+    </message>
+    <message>
+        <source>its shared folders</source>
+        <translation>其共享文件夹</translation>
+    </message>
+    <message>
+        <source>its forms</source>
+        <translation>其表单</translation>
+    </message>
+    <message>
+        <source>its barcode area definitions</source>
+        <translation>其条形码区域定义</translation>
+    </message>
+    <message>
+        <source>its color profiles</source>
+        <translation>其颜色配置文件</translation>
     </message>
 </context>
 </TS>

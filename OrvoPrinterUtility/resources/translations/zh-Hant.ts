@@ -28,10 +28,6 @@
         <translation>SNMP 社群名稱</translation>
     </message>
     <message>
-        <source>IDS_SNMP_PROHIBIT_CHARACTER_ERROR</source>
-        <translation>SNMP 社群名稱中不能使用此字元。</translation>
-    </message>
-    <message>
         <source>Wake On LAN</source>
         <translation>網路喚醒</translation>
     </message>
@@ -738,6 +734,46 @@
     <message>
         <source>Discard</source>
         <translation>放棄</translation>
+    </message>
+    <message>
+        <source>It may hold the letters A-Z and a-z, the digits 0-9 and these characters: %1</source>
+        <translation>可以包含字母 A-Z 和 a-z、數字 0-9 以及以下字元：%1</translation>
+    </message>
+    <message>
+        <source>The IP address of the printer is empty. Enter it, then try again.</source>
+        <translation>印表機的 IP 位址為空白。請輸入後再試一次。</translation>
+    </message>
+    <message>
+        <source>The printer at %1 did not answer when asked for %2. The IP address or the SNMP community name may be wrong.</source>
+        <translation>位於 %1 的印表機在查詢%2時沒有回應。IP 位址或 SNMP 社群名稱可能有誤。</translation>
+    </message>
+    <message>
+        <source>The printer at %1 answered with an error when asked for %2. It may not keep this information.</source>
+        <translation>位於 %1 的印表機在查詢%2時傳回錯誤。它可能不保存此資訊。</translation>
+    </message>
+    <message>
+        <source>The printer at %1 sent an answer that cannot be read when asked for %2.</source>
+        <translation>位於 %1 的印表機在查詢%2時傳送了無法讀取的回應。</translation>
+    </message>
+    <message>
+        <source>its MAC address</source>
+        <translation>其 MAC 位址</translation>
+    </message>
+    <message>
+        <source>its shared folders</source>
+        <translation>其共用資料夾</translation>
+    </message>
+    <message>
+        <source>its forms</source>
+        <translation>其表單</translation>
+    </message>
+    <message>
+        <source>its barcode area definitions</source>
+        <translation>其條碼區域定義</translation>
+    </message>
+    <message>
+        <source>its color profiles</source>
+        <translation>其色彩描述檔</translation>
     </message>
 </context>
 </TS>
