@@ -27,6 +27,7 @@ inline constexpr char unreachable[] =
                                                                                         // server
 inline constexpr char noQueues[] =
     "The print server %1 has no print queues. Add a printer, then try again."; // %1: the server
+inline constexpr char noMatch[] = "No queue matches the filter.";
 inline constexpr char open[] = "Open";
 inline constexpr char cancel[] = "Cancel";
 inline constexpr char retry[] = "Retry";
@@ -57,6 +58,7 @@ inline constexpr const char *localizedKeys[] = {
     loading,
     unreachable,
     noQueues,
+    noMatch,
     open,
     cancel,
     retry,

@@ -4,6 +4,7 @@
 #include "OVLaunchEvent.h"
 #include "OVMacAddressEntry.h"
 #include "OVMessageBar.h"
+#include "OVMnemonics.h"
 #include "OVNotificationCenter.h"
 #include "OVPrinterUtilityHelper.h"
 #include "OVStoredSettings.h"
@@ -37,6 +38,7 @@ OVPrinterUtilityWindowController::OVPrinterUtilityWindowController(QObject *pare
     , m_messageBar(new OVMessageBar(m_window.get())) {
     m_ui->setupUi(m_window.get());
     m_ui->mainLayout->insertWidget(m_ui->mainLayout->indexOf(m_ui->meinTabView), m_messageBar);
+    OVWindowSetUp::makeScrollable(*m_ui);
     m_window->installEventFilter(this);
     resetLaunchState();
     connectActions();
@@ -109,6 +111,9 @@ bool OVPrinterUtilityWindowController::eventFilter(QObject *watched, QEvent *eve
         event->setAccepted(m_state == State::Closing);
         return !event->isAccepted();
     }
+    // Once shown, the window's frame is known, and the screen it is on.
+    if (event->type() == QEvent::Show)
+        OVWindowSetUp::fitIntoScreen(m_window.get());
     if (event->type() == QEvent::KeyPress)
         return pressDialogKey(static_cast<QKeyEvent *>(event)->key());
     return QObject::eventFilter(watched, event);
@@ -156,6 +161,7 @@ void OVPrinterUtilityWindowController::loadControls() {
     OVWindowSetUp::setUpSettingsFields(*m_ui);
     enter(State::Loading);
     OVWindowSetUp::setUpFolderTab(*m_ui);
+    OVMnemonics::assign(m_window.get());
     m_bAdminLoginModeEnabled = false;
     createDataSources();
     OVNotificationCenter::defaultCenter().addObserver(

@@ -164,11 +164,17 @@ private:
     void finishLoading(const OVWindowQueue::Loaded &loaded);
     void showProblem(OVWindowQueue::Problem problem);
     void messageBarActionTriggered();
+    // The bar's button for the problem on show, if it has one.
+    const char *problemAction() const;
+    // Says the problem, offering the bar's way out.
+    void alertProblem();
     // repair: rebuild a damaged PPD instead.
     void setUpQueue(bool repair);
     void setUpEnded(const OVQueueSetup::Result &result);
     // An alert with the one button OK; detail is its informative text.
     void alert(const QString &text, const QString &detail = QString());
+    // Whether the user goes on with what button does; Cancel and Escape say no.
+    bool ask(const char *question, const char *button, const char *detail);
     void applySettings(const OVSettingsSnapshot &settings);
     void applyFolderSettings(const OVSettingsSnapshot &settings);
     void applyListSettings(const OVSettingsSnapshot &settings);

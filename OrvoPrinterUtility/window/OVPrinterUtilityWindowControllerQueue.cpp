@@ -3,6 +3,7 @@
 #include "OVAlert.h"
 #include "OVChooserTexts.h"
 #include "OVMessageBar.h"
+#include "OVMnemonics.h"
 #include "OVPrinterUtilityWindowController.h"
 #include "OVWindowTexts.h"
 #include "ui_MainUtilityWindiw.h"
@@ -15,13 +16,27 @@ void OVPrinterUtilityWindowController::showProblem(Problem problem) {
         m_messageBar->clearMessage();
         return;
     }
-    // The one way out the window itself has, where there is one.
-    const char *action = problem == Problem::NotSetUp            ? OVWindowTexts::setUpButton
-                         : problem == Problem::Damaged           ? OVWindowTexts::repairButton
-                         : problem == Problem::ServerUnreachable ? OVChooserTexts::retry
-                                                                 : nullptr;
+    const char *action = problemAction();
     m_messageBar->showMessage(OVWindowQueue::problemText(problem, m_printerId, m_server),
                               action ? localized(action) : QString());
+    OVMnemonics::assign(m_window.get());
+}
+
+// The one way out the window itself has, where there is one.
+const char *OVPrinterUtilityWindowController::problemAction() const {
+    return m_problem == Problem::NotSetUp            ? OVWindowTexts::setUpButton
+           : m_problem == Problem::Damaged           ? OVWindowTexts::repairButton
+           : m_problem == Problem::ServerUnreachable ? OVChooserTexts::retry
+                                                     : nullptr;
+}
+
+void OVPrinterUtilityWindowController::alertProblem() {
+    const char *action = problemAction();
+    const auto alerted = OVAlert::alertWithMessageText(
+        OVWindowQueue::problemText(m_problem, m_printerId, m_server), localized(OVWindowTexts::ok),
+        action ? localized(action) : QString(), QString(), QString());
+    if (alerted->runModal() == OVAlert::alternateReturn && action)
+        messageBarActionTriggered();
 }
 
 void OVPrinterUtilityWindowController::messageBarActionTriggered() {
@@ -61,4 +76,13 @@ void OVPrinterUtilityWindowController::alert(const QString &text, const QString 
     OVAlert::alertWithMessageText(text, localized(OVWindowTexts::ok), QString(), QString(),
                                   OVAlert::plainMessageFormat, arguments)
         ->runModal();
+}
+
+bool OVPrinterUtilityWindowController::ask(const char *question, const char *button,
+                                           const char *detail) {
+    const auto asked = OVAlert::alertWithMessageText(localized(question), localized(button),
+                                                     localized(OVChooserTexts::cancel), QString(),
+                                                     localized(detail));
+    asked->setEscapeButton(asked->panelButtons().last());
+    return asked->runModal() == OVAlert::defaultReturn;
 }

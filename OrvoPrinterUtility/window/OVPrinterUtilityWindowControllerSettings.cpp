@@ -1,8 +1,6 @@
 // The controller's part in the queue's settings: they load in the background
 // while the window shows, fill the controls, and OK saves them.
-#include "OVAlert.h"
 #include "OVBackgroundTask.h"
-#include "OVChooserTexts.h"
 #include "OVPrinterUtilityWindowController.h"
 #include "OVSettingsSnapshot.h"
 #include "OVTableViewDataSource.h"
@@ -96,9 +94,10 @@ void OVPrinterUtilityWindowController::okButtonClicked(QObject *) {
         return;
     // Settings that did not come from the queue would replace the stored
     // ones with defaults, and a queue that is not set up would print them:
-    // OK says what stands in the way, as the bar does.
+    // OK says what stands in the way, as the bar does, and offers the bar's
+    // way out.
     if (m_problem != OVWindowQueue::Problem::None) {
-        alert(OVWindowQueue::problemText(m_problem, m_printerId, m_server));
+        alertProblem();
         return;
     }
     updateStringArrays();
@@ -139,11 +138,7 @@ void OVPrinterUtilityWindowController::closeButtonClicked(QObject *) {
 bool OVPrinterUtilityWindowController::mayDiscardChanges() {
     if (!hasUnsavedChanges())
         return true;
-    const auto question = OVAlert::alertWithMessageText(
-        localized(discardQuestion), localized(discardButton), localized(OVChooserTexts::cancel),
-        QString(), localized(discardDetail));
-    question->setEscapeButton(question->panelButtons().last());
-    return question->runModal() == OVAlert::defaultReturn;
+    return ask(discardQuestion, discardButton, discardDetail);
 }
 
 // A task under way would keep the closing window for up to its limit, a

@@ -16,8 +16,10 @@
 #include <QTableView>
 #include <QTimer>
 #include <QVBoxLayout>
+#include <cups/cups.h>
 
 #include <algorithm>
+#include <functional>
 
 namespace T = OVChooserTexts;
 
@@ -29,6 +31,7 @@ constexpr int searchRole = Qt::UserRole + 1;
 // The queue's name as the server has it; the cells show names with the
 // characters that reorder a line by their code.
 constexpr int nameRole = Qt::UserRole + 2;
+constexpr int setUpRole = Qt::UserRole + 3;
 
 QList<QStandardItem *> queueRow(const OVQueueSetup::Queue &queue) {
     QList<QStandardItem *> row;
@@ -43,6 +46,7 @@ QList<QStandardItem *> queueRow(const OVQueueSetup::Queue &queue) {
     row[NameColumn]->setData(
         QStringList{queue.name, queue.description, queue.makeAndModel}.join('\n'), searchRole);
     row[NameColumn]->setData(queue.name, nameRole);
+    row[NameColumn]->setData(queue.setUp, setUpRole);
     return row;
 }
 
@@ -113,6 +117,7 @@ void OVQueueChooser::buildControls() {
     connect(m_filter, &QLineEdit::textChanged, this, [this](const QString &filter) {
         m_visible->setFilterFixedString(filter);
         selectFirstVisibleRow();
+        showFilterResult();
     });
     connect(m_table, &QAbstractItemView::doubleClicked, this, &QDialog::accept);
     connect(m_table->selectionModel(), &QItemSelectionModel::selectionChanged, this,
@@ -140,13 +145,26 @@ void OVQueueChooser::load() {
     OVBackgroundTask::run(
         this,
         [] {
-            return Listing{OVQueueSetup::queues(), OVCupsConnection::serverName()};
+            return Listing{OVQueueSetup::queues(), OVCupsConnection::serverName(), defaultQueue()};
         },
         [this](const Listing &listing) { showListing(listing); });
 }
 
+QString OVQueueChooser::defaultQueue() {
+    const OVCupsConnection connection;
+    if (!connection)
+        return {};
+    ipp_t *response = cupsDoRequest(connection.http(), ippNewRequest(IPP_OP_CUPS_GET_DEFAULT), "/");
+    const char *name =
+        ippGetString(ippFindAttribute(response, "printer-name", IPP_TAG_NAME), 0, nullptr);
+    const QString queue = name ? QString::fromUtf8(name) : QString();
+    ippDelete(response);
+    return queue;
+}
+
 void OVQueueChooser::showListing(const Listing &listing) {
     m_answered = true;
+    m_defaultQueue = listing.defaultQueue;
     const QList<OVQueueSetup::Queue> queues = listing.queues.value_or(QList<OVQueueSetup::Queue>());
     fillTable(queues);
     if (!listing.queues)
@@ -177,7 +195,32 @@ void OVQueueChooser::fillTable(const QList<OVQueueSetup::Queue> &queues) {
     m_filter->setEnabled(!queues.isEmpty());
     m_table->setEnabled(!queues.isEmpty());
     m_table->resizeColumnsToContents();
+    selectPreferredRow();
+}
+
+void OVQueueChooser::selectPreferredRow() {
+    const auto rowWhere = [this](const std::function<bool(int)> &wanted) {
+        for (int row = 0; row < m_visible->rowCount(); ++row)
+            if (wanted(row))
+                return row;
+        return -1;
+    };
+    int row = rowWhere([this](int row) {
+        return m_visible->index(row, NameColumn).data(nameRole).toString() == m_defaultQueue;
+    });
+    if (row < 0)
+        row = rowWhere(
+            [this](int row) { return m_visible->index(row, NameColumn).data(setUpRole).toBool(); });
+    m_table->clearSelection();
+    if (row >= 0)
+        m_table->selectRow(row);
     selectFirstVisibleRow();
+}
+
+// A filter that matches nothing says so where the list was.
+void OVQueueChooser::showFilterResult() {
+    const bool none = m_model->rowCount() > 0 && m_visible->rowCount() == 0;
+    setStatus(none ? T::localized(T::noMatch) : QString(), false);
 }
 
 void OVQueueChooser::setStatus(const QString &status, bool offerRetry) {

@@ -52,7 +52,11 @@ private:
     struct Listing {
         std::optional<QList<OVQueueSetup::Queue>> queues;
         QString server;
+        QString defaultQueue; // empty when the server has none
     };
+
+    // The server's default queue, asked in the background.
+    static QString defaultQueue();
 
     void buildControls();
     void load();
@@ -60,6 +64,9 @@ private:
     void fillTable(const QList<OVQueueSetup::Queue> &queues);
     void setStatus(const QString &text, bool offerRetry);
     void selectFirstVisibleRow();
+    // The default queue, else the first set-up one, else the first.
+    void selectPreferredRow();
+    void showFilterResult();
     void updateOpenButton();
 
     QStandardItemModel *m_model;
@@ -70,4 +77,5 @@ private:
     QTableView *m_table = nullptr;
     QPushButton *m_open = nullptr;
     bool m_answered = false;
+    QString m_defaultQueue;
 };

@@ -10,6 +10,8 @@
 #include "ui_MainUtilityWindiw.h"
 
 #include <QGuiApplication>
+#include <QScreen>
+#include <QScrollArea>
 #include <QStyleHints>
 
 namespace {
@@ -32,6 +34,16 @@ QString communitySymbols() {
         if (!c.isLetterOrNumber() && c != QChar(0x200B))
             symbols << QString(c);
     return symbols.join(u' ');
+}
+
+void setUpToolTips(Ui::MainUtilityWindiw &c) {
+    c.printerGetPrinterInfoButton->setToolTip(localized(getPrinterInfoTip));
+    for (QPushButton *button :
+         {c.folderGetPrinterInfoButton, c.formGetPrinterInfoButton,
+          c.barcodeAreaDefinitionGetPrinterInfoButton, c.colorProfileGetPrinterInfoButton})
+        button->setToolTip(localized(getListTip));
+    c.overstepTheRouter->setToolTip(localized(overTheRouterTip));
+    c.folderPersonalFolderCheck->setToolTip(localized(personalFolderTip));
 }
 
 // A label's text as the name assistive technology reads for its field.
@@ -106,6 +118,38 @@ void OVWindowSetUp::setUpWindowTitle(QWidget *window, const std::optional<QVaria
     window->setWindowTitle(title);
 }
 
+void OVWindowSetUp::makeScrollable(Ui::MainUtilityWindiw &c) {
+    auto *content = new QWidget;
+    auto *contentLayout = new QVBoxLayout(content);
+    contentLayout->setContentsMargins(0, 0, 0, 0);
+    while (c.mainLayout->count() > 1 && c.mainLayout->itemAt(0)->layout() != c.bottomLayout) {
+        QLayoutItem *item = c.mainLayout->takeAt(0);
+        if (QLayout *layout = item->layout()) {
+            layout->setParent(nullptr);
+            contentLayout->addLayout(layout);
+            continue;
+        }
+        contentLayout->addWidget(item->widget());
+        delete item;
+    }
+    auto *scroll = new QScrollArea;
+    scroll->setObjectName("settingsScrollArea");
+    scroll->setWidgetResizable(true);
+    scroll->setFrameShape(QFrame::NoFrame);
+    // Tab reaches the controls inside; the area itself is no stop.
+    scroll->setFocusPolicy(Qt::NoFocus);
+    scroll->setWidget(content);
+    c.mainLayout->insertWidget(0, scroll, 1);
+}
+
+void OVWindowSetUp::fitIntoScreen(QWidget *window) {
+    const QScreen *screen = window->screen();
+    if (!screen)
+        return;
+    const QSize frame = window->frameGeometry().size() - window->geometry().size();
+    window->resize(window->size().boundedTo(screen->availableGeometry().size() - frame));
+}
+
 void OVWindowSetUp::setUpTexts(Ui::MainUtilityWindiw &c) {
     c.okButton->setText(localized(ok));
     c.closeButton->setText(localized(closeButton));
@@ -132,8 +176,11 @@ void OVWindowSetUp::setUpTexts(Ui::MainUtilityWindiw &c) {
           c.barcodeAreaDefinitionGetPrinterInfoButton, c.colorProfileGetPrinterInfoButton})
         button->setText(localized(getPrinterInfo));
     for (QPushButton *button : {c.folderClearButton, c.formClearButton,
-                                c.barcodeAreaDefinitionClearButton, c.colorProfileClearButton})
+                                c.barcodeAreaDefinitionClearButton, c.colorProfileClearButton}) {
         button->setText(localized(clear));
+        button->setToolTip(localized(clearTip));
+    }
+    setUpToolTips(c);
     setUpAccessibleNames(c);
 }
 

@@ -19,6 +19,11 @@ public:
     // (an installed build) gives the default title. The queue follows it.
     static void setUpWindowTitle(QWidget *window, const std::optional<QVariantMap> &dictionary,
                                  const QString &queue);
+    // Everything above the window's buttons scrolls, so that the window fits
+    // a small or scaled screen with OK and Close in view.
+    static void makeScrollable(Ui::MainUtilityWindiw &c);
+    // No larger than the screen's available area.
+    static void fitIntoScreen(QWidget *window);
     static void setUpTexts(Ui::MainUtilityWindiw &c);
     static void setUpSettingsFields(Ui::MainUtilityWindiw &c);
     static void setUpFolderTab(Ui::MainUtilityWindiw &c);

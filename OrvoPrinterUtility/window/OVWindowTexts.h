@@ -119,6 +119,22 @@ inline constexpr char stepFolders[] = "its shared folders";
 inline constexpr char stepForms[] = "its forms";
 inline constexpr char stepBarcodeAreas[] = "its barcode area definitions";
 inline constexpr char stepColorProfiles[] = "its color profiles";
+// Tooltips
+inline constexpr char getPrinterInfoTip[] =
+    "Ask the printer at this IP address for its MAC address, shared folders, forms, barcode area "
+    "definitions and color profiles.";
+inline constexpr char getListTip[] = "Ask the printer for this list.";
+inline constexpr char clearTip[] =
+    "Empty this list. The queue keeps its stored list until you choose OK.";
+inline constexpr char personalFolderTip[] =
+    "Also offer each user's personal folder. The printer allows it when its administrator login "
+    "mode is on.";
+inline constexpr char overTheRouterTip[] =
+    "Wake the printer also when it is in another network, behind a router.";
+inline constexpr char clearFoldersQuestion[] = "Drop the registered folders?";
+inline constexpr char clearFoldersDetail[] =
+    "The default folders take their place. The queue keeps its stored folders until you choose "
+    "OK.";
 inline constexpr char discardQuestion[] = "Discard the changes to the settings?";
 inline constexpr char discardDetail[] = "They were not saved to the print queue.";
 inline constexpr char discardButton[] = "Discard";
@@ -195,6 +211,13 @@ inline constexpr const char *localizedKeys[] = {
     stepForms,
     stepBarcodeAreas,
     stepColorProfiles,
+    getPrinterInfoTip,
+    getListTip,
+    clearTip,
+    personalFolderTip,
+    overTheRouterTip,
+    clearFoldersQuestion,
+    clearFoldersDetail,
     discardQuestion,
     discardDetail,
     discardButton,

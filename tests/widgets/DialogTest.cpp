@@ -4,12 +4,23 @@
 #include "CupsServerEnvironment.h"
 #include "OVAlert.h"
 #include "OVFetchFailureText.h"
+#include "OVMessageBar.h"
+#include "OVMnemonics.h"
+#include "OVPreferredLanguages.h"
 #include "OVPrinterUtilityWindowController.h"
+#include "OVQueueChooser.h"
+#include "OVQueueSetup.h"
 #include "ui_MainUtilityWindiw.h"
 
+#include <QAbstractItemModel>
 #include <QApplication>
 #include <QClipboard>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QScreen>
 #include <QSignalSpy>
+#include <QTabWidget>
+#include <QTableView>
 #include <QTest>
 
 #include <gtest/gtest.h>
@@ -39,10 +50,18 @@ public:
 
 class DialogTest : public ::testing::Test {
 protected:
+    // "Plain" and "Bare" are not set up: their bar offers Set Up….
     static void SetUpTestSuite() {
-        ASSERT_TRUE(CupsServerEnvironment::server().addQueue("Office"));
+        CupsServer &cups = CupsServerEnvironment::server();
+        ASSERT_TRUE(cups.addQueue("Office") && cups.addQueue("Lab") && cups.addQueue("Plain") &&
+                    cups.addQueue("Bare"));
+        for (const char *queue : {"Plain", "Bare"})
+            ASSERT_EQ(OVQueueSetup::remove(queue).outcome, OVQueueSetup::Outcome::Changed);
     }
-    void TearDown() override { Controller::setInformationDictionary(std::nullopt); }
+    void TearDown() override {
+        Controller::setInformationDictionary(std::nullopt);
+        OVPreferredLanguages::setOverride(std::nullopt);
+    }
 
     void open(const QString &queue = "Office") {
         m_window = std::make_unique<Controller>();
@@ -192,6 +211,120 @@ TEST_F(DialogTest, MacAddressPasteAndTyping) {
             QTest::keyClick(QApplication::focusWidget(), key);
         EXPECT_EQ(mac(), expected) << keys;
     }
+}
+
+// The window fits the screen's available area with OK and Close in view; the
+// suite also runs at 200 % on a 1920×1200 screen.
+TEST_F(DialogTest, WindowFitsTheScreen) {
+    open();
+    QWidget *window = m_window->mainWindowObject();
+    const QScreen *screen = window->screen();
+    if (qEnvironmentVariable("QT_SCALE_FACTOR") == "2") {
+        EXPECT_EQ(screen->geometry().size() * screen->devicePixelRatio(), QSize(1920, 1200));
+    }
+    const QRect available = screen->availableGeometry();
+    EXPECT_LE(window->frameGeometry().width(), available.width());
+    EXPECT_LE(window->frameGeometry().height(), available.height());
+    for (QWidget *button : {m_c->okButton, m_c->closeButton}) {
+        const QRect inWindow(button->mapTo(window, QPoint(0, 0)), button->size());
+        EXPECT_TRUE(button->isVisible() && window->rect().contains(inWindow));
+    }
+}
+
+// Every button, check box and tab (the bar's Set Up… too) has an Alt+letter of
+// its own in every shipped language: none shared among the controls a user
+// sees at once, the tab page on show and everything outside the pages.
+TEST_F(DialogTest, MnemonicsInEveryLanguage) {
+    for (const char *language : {"en-US", "de-DE", "fr-FR", "ja-JP", "zh-Hans-CN", "zh-TW"}) {
+        OVPreferredLanguages::setOverride(QStringList{language});
+        open("Plain");
+        QTabWidget *tabs = m_c->meinTabView;
+        QStringList outside = {m_c->macAddressLabel->text(), m_c->printerIPAddressLabel->text()};
+        for (int i = 0; i < tabs->count(); ++i)
+            outside << tabs->tabText(i);
+        for (const QAbstractButton *button :
+             m_window->mainWindowObject()->findChildren<QAbstractButton *>())
+            if (!tabs->isAncestorOf(button) && !button->text().isEmpty())
+                outside << button->text();
+        EXPECT_GE(outside.size(), 12);
+        for (int page = 0; page < tabs->count(); ++page) {
+            QStringList seen = outside;
+            for (const QAbstractButton *button :
+                 tabs->widget(page)->findChildren<QAbstractButton *>())
+                if (!button->text().isEmpty())
+                    seen << button->text();
+            QSet<QChar> letters;
+            for (const QString &text : seen) {
+                const QChar letter = OVMnemonics::mnemonicOf(text);
+                EXPECT_FALSE(letter.isNull()) << language << ": " << text.toStdString();
+                EXPECT_FALSE(letters.contains(letter)) << language << ": " << text.toStdString();
+                letters << letter;
+            }
+        }
+    }
+}
+
+TEST_F(DialogTest, ToolTips) {
+    open();
+    const QWidget *const controls[] = {
+        m_c->printerGetPrinterInfoButton, m_c->formGetPrinterInfoButton,  m_c->folderClearButton,
+        m_c->colorProfileClearButton,     m_c->folderPersonalFolderCheck, m_c->overstepTheRouter};
+    for (const QWidget *control : controls)
+        EXPECT_FALSE(control->toolTip().isEmpty()) << control->objectName().toStdString();
+}
+
+// The folder tab's Clear asks before it drops the registered folders; Cancel keeps them.
+TEST_F(DialogTest, FolderClearAsks) {
+    for (const auto &[answer, kept] : {std::pair{1, true}, std::pair{0, false}}) {
+        Answering alerts(answer);
+        open();
+        m_window->folderAddButtonClicked(nullptr);
+        const QStringList before = m_window->selectedSharedBoxNames();
+        m_c->folderClearButton->click();
+        EXPECT_EQ(alerts.m_texts.size(), 1);
+        EXPECT_EQ(m_window->selectedSharedBoxNames() == before, kept);
+    }
+}
+
+// OK on a queue that is not set up says so and offers the bar's Set Up….
+TEST_F(DialogTest, OkOffersSetUp) {
+    Answering alerts(1);
+    open("Bare");
+    m_c->okButton->click();
+    ASSERT_EQ(alerts.m_texts.size(), 1);
+    EXPECT_TRUE(alerts.m_texts[0].startsWith("The print queue \"Bare\" is not set up"));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return m_window->messageBar()->isHidden(); }, 60000));
+    EXPECT_EQ(OVQueueSetup::state("Bare"), OVQueueSetup::State::SetUp);
+}
+
+// The chooser preselects the server's default queue, else the first set-up
+// one, and says when the filter matches nothing.
+TEST_F(DialogTest, ChooserPreselectsAndSaysWhenNothingMatches) {
+    const auto openChooser = [](OVQueueChooser &chooser) {
+        QSignalSpy listed(&chooser, &OVQueueChooser::listed);
+        chooser.start();
+        EXPECT_TRUE(listed.wait(30000));
+    };
+    {
+        OVQueueChooser chooser;
+        openChooser(chooser);
+        const QAbstractItemModel *rows = chooser.queueTable()->model();
+        QString firstSetUp;
+        for (int row = rows->rowCount() - 1; row >= 0; --row)
+            if (rows->index(row, 3).data().toString() == "Set up")
+                firstSetUp = rows->index(row, 0).data().toString();
+        EXPECT_FALSE(firstSetUp.isEmpty());
+        EXPECT_EQ(chooser.chosenQueue(), firstSetUp);
+        chooser.filterField()->setText("no such queue");
+        EXPECT_EQ(chooser.statusText(), "No queue matches the filter.");
+        EXPECT_FALSE(chooser.openButton()->isEnabled());
+        chooser.filterField()->clear();
+        EXPECT_TRUE(chooser.statusText().isEmpty());
+    }
+    ASSERT_TRUE(CupsServerEnvironment::server().lpadmin({"-d", "Plain"}));
+    OVQueueChooser chooser;
+    openChooser(chooser);
+    EXPECT_EQ(chooser.chosenQueue(), "Plain");
 }
 
 TEST(AlertTitle, IsTheApplicationsDisplayName) {

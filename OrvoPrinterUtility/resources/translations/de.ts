@@ -775,5 +775,37 @@
         <source>its color profiles</source>
         <translation>seinen Farbprofilen</translation>
     </message>
+    <message>
+        <source>Ask the printer at this IP address for its MAC address, shared folders, forms, barcode area definitions and color profiles.</source>
+        <translation>Den Drucker unter dieser IP-Adresse nach MAC-Adresse, freigegebenen Ordnern, Formularen, Barcodebereichsdefinitionen und Farbprofilen fragen.</translation>
+    </message>
+    <message>
+        <source>Ask the printer for this list.</source>
+        <translation>Den Drucker nach dieser Liste fragen.</translation>
+    </message>
+    <message>
+        <source>Empty this list. The queue keeps its stored list until you choose OK.</source>
+        <translation>Diese Liste leeren. Die Warteschlange behält ihre gespeicherte Liste, bis Sie OK wählen.</translation>
+    </message>
+    <message>
+        <source>Also offer each user's personal folder. The printer allows it when its administrator login mode is on.</source>
+        <translation>Auch den persönlichen Ordner jedes Benutzers anbieten. Der Drucker erlaubt dies, wenn sein Administrator-Anmeldemodus eingeschaltet ist.</translation>
+    </message>
+    <message>
+        <source>Wake the printer also when it is in another network, behind a router.</source>
+        <translation>Den Drucker auch wecken, wenn er sich in einem anderen Netzwerk hinter einem Router befindet.</translation>
+    </message>
+    <message>
+        <source>Drop the registered folders?</source>
+        <translation>Die registrierten Ordner entfernen?</translation>
+    </message>
+    <message>
+        <source>The default folders take their place. The queue keeps its stored folders until you choose OK.</source>
+        <translation>An ihre Stelle treten die Standardordner. Die Warteschlange behält ihre gespeicherten Ordner, bis Sie OK wählen.</translation>
+    </message>
+    <message>
+        <source>No queue matches the filter.</source>
+        <translation>Keine Warteschlange passt zum Filter.</translation>
+    </message>
 </context>
 </TS>

@@ -775,5 +775,37 @@
         <source>its color profiles</source>
         <translation>its color profiles</translation>
     </message>
+    <message>
+        <source>Ask the printer at this IP address for its MAC address, shared folders, forms, barcode area definitions and color profiles.</source>
+        <translation>Ask the printer at this IP address for its MAC address, shared folders, forms, barcode area definitions and color profiles.</translation>
+    </message>
+    <message>
+        <source>Ask the printer for this list.</source>
+        <translation>Ask the printer for this list.</translation>
+    </message>
+    <message>
+        <source>Empty this list. The queue keeps its stored list until you choose OK.</source>
+        <translation>Empty this list. The queue keeps its stored list until you choose OK.</translation>
+    </message>
+    <message>
+        <source>Also offer each user's personal folder. The printer allows it when its administrator login mode is on.</source>
+        <translation>Also offer each user's personal folder. The printer allows it when its administrator login mode is on.</translation>
+    </message>
+    <message>
+        <source>Wake the printer also when it is in another network, behind a router.</source>
+        <translation>Wake the printer also when it is in another network, behind a router.</translation>
+    </message>
+    <message>
+        <source>Drop the registered folders?</source>
+        <translation>Drop the registered folders?</translation>
+    </message>
+    <message>
+        <source>The default folders take their place. The queue keeps its stored folders until you choose OK.</source>
+        <translation>The default folders take their place. The queue keeps its stored folders until you choose OK.</translation>
+    </message>
+    <message>
+        <source>No queue matches the filter.</source>
+        <translation>No queue matches the filter.</translation>
+    </message>
 </context>
 </TS>

@@ -775,5 +775,37 @@
         <source>its color profiles</source>
         <translation>ses profils de couleur</translation>
     </message>
+    <message>
+        <source>Ask the printer at this IP address for its MAC address, shared folders, forms, barcode area definitions and color profiles.</source>
+        <translation>Demander à l’imprimante à cette adresse IP son adresse MAC, ses dossiers partagés, formulaires, définitions de zones de code-barres et profils de couleur.</translation>
+    </message>
+    <message>
+        <source>Ask the printer for this list.</source>
+        <translation>Demander cette liste à l’imprimante.</translation>
+    </message>
+    <message>
+        <source>Empty this list. The queue keeps its stored list until you choose OK.</source>
+        <translation>Vider cette liste. La file conserve sa liste enregistrée jusqu’à ce que vous choisissiez OK.</translation>
+    </message>
+    <message>
+        <source>Also offer each user's personal folder. The printer allows it when its administrator login mode is on.</source>
+        <translation>Proposer aussi le dossier personnel de chaque utilisateur. L’imprimante le permet lorsque son mode de connexion administrateur est activé.</translation>
+    </message>
+    <message>
+        <source>Wake the printer also when it is in another network, behind a router.</source>
+        <translation>Réveiller l’imprimante aussi lorsqu’elle se trouve sur un autre réseau, derrière un routeur.</translation>
+    </message>
+    <message>
+        <source>Drop the registered folders?</source>
+        <translation>Retirer les dossiers enregistrés ?</translation>
+    </message>
+    <message>
+        <source>The default folders take their place. The queue keeps its stored folders until you choose OK.</source>
+        <translation>Les dossiers par défaut les remplacent. La file conserve ses dossiers enregistrés jusqu’à ce que vous choisissiez OK.</translation>
+    </message>
+    <message>
+        <source>No queue matches the filter.</source>
+        <translation>Aucune file ne correspond au filtre.</translation>
+    </message>
 </context>
 </TS>

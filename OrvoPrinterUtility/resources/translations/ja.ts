@@ -775,5 +775,37 @@
         <source>its color profiles</source>
         <translation>カラープロファイル</translation>
     </message>
+    <message>
+        <source>Ask the printer at this IP address for its MAC address, shared folders, forms, barcode area definitions and color profiles.</source>
+        <translation>この IP アドレスのプリンターに、MAC アドレス、共有フォルダー、フォーム、バーコード領域定義、カラープロファイルを問い合わせます。</translation>
+    </message>
+    <message>
+        <source>Ask the printer for this list.</source>
+        <translation>このリストをプリンターに問い合わせます。</translation>
+    </message>
+    <message>
+        <source>Empty this list. The queue keeps its stored list until you choose OK.</source>
+        <translation>このリストを空にします。OK を選ぶまで、キューには保存済みのリストが残ります。</translation>
+    </message>
+    <message>
+        <source>Also offer each user's personal folder. The printer allows it when its administrator login mode is on.</source>
+        <translation>各ユーザーの個人フォルダーも使えるようにします。プリンターの管理者ログインモードがオンのときに使用できます。</translation>
+    </message>
+    <message>
+        <source>Wake the printer also when it is in another network, behind a router.</source>
+        <translation>プリンターがルーターの先の別のネットワークにある場合も復帰させます。</translation>
+    </message>
+    <message>
+        <source>Drop the registered folders?</source>
+        <translation>登録済みのフォルダーを削除しますか?</translation>
+    </message>
+    <message>
+        <source>The default folders take their place. The queue keeps its stored folders until you choose OK.</source>
+        <translation>代わりに既定のフォルダーが入ります。OK を選ぶまで、キューには保存済みのフォルダーが残ります。</translation>
+    </message>
+    <message>
+        <source>No queue matches the filter.</source>
+        <translation>フィルターに一致するキューはありません。</translation>
+    </message>
 </context>
 </TS>

@@ -775,5 +775,37 @@
         <source>its color profiles</source>
         <translation>其颜色配置文件</translation>
     </message>
+    <message>
+        <source>Ask the printer at this IP address for its MAC address, shared folders, forms, barcode area definitions and color profiles.</source>
+        <translation>向此 IP 地址的打印机查询其 MAC 地址、共享文件夹、表单、条形码区域定义和颜色配置文件。</translation>
+    </message>
+    <message>
+        <source>Ask the printer for this list.</source>
+        <translation>向打印机查询此列表。</translation>
+    </message>
+    <message>
+        <source>Empty this list. The queue keeps its stored list until you choose OK.</source>
+        <translation>清空此列表。在您选择“确定”之前，队列保留其已存储的列表。</translation>
+    </message>
+    <message>
+        <source>Also offer each user's personal folder. The printer allows it when its administrator login mode is on.</source>
+        <translation>同时提供每个用户的个人文件夹。打印机的管理员登录模式开启时可用。</translation>
+    </message>
+    <message>
+        <source>Wake the printer also when it is in another network, behind a router.</source>
+        <translation>打印机位于路由器后的其他网络中时也将其唤醒。</translation>
+    </message>
+    <message>
+        <source>Drop the registered folders?</source>
+        <translation>移除已登记的文件夹吗?</translation>
+    </message>
+    <message>
+        <source>The default folders take their place. The queue keeps its stored folders until you choose OK.</source>
+        <translation>将以默认文件夹代替。在您选择“确定”之前，队列保留其已存储的文件夹。</translation>
+    </message>
+    <message>
+        <source>No queue matches the filter.</source>
+        <translation>没有与筛选条件匹配的队列。</translation>
+    </message>
 </context>
 </TS>

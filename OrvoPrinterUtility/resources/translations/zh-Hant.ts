@@ -775,5 +775,37 @@
         <source>its color profiles</source>
         <translation>其色彩描述檔</translation>
     </message>
+    <message>
+        <source>Ask the printer at this IP address for its MAC address, shared folders, forms, barcode area definitions and color profiles.</source>
+        <translation>向此 IP 位址的印表機查詢其 MAC 位址、共用資料夾、表單、條碼區域定義和色彩描述檔。</translation>
+    </message>
+    <message>
+        <source>Ask the printer for this list.</source>
+        <translation>向印表機查詢此清單。</translation>
+    </message>
+    <message>
+        <source>Empty this list. The queue keeps its stored list until you choose OK.</source>
+        <translation>清空此清單。在您選擇「確定」之前，佇列保留其已儲存的清單。</translation>
+    </message>
+    <message>
+        <source>Also offer each user's personal folder. The printer allows it when its administrator login mode is on.</source>
+        <translation>同時提供每位使用者的個人資料夾。印表機的管理員登入模式開啟時可用。</translation>
+    </message>
+    <message>
+        <source>Wake the printer also when it is in another network, behind a router.</source>
+        <translation>印表機位於路由器後的其他網路中時也將其喚醒。</translation>
+    </message>
+    <message>
+        <source>Drop the registered folders?</source>
+        <translation>移除已登記的資料夾嗎?</translation>
+    </message>
+    <message>
+        <source>The default folders take their place. The queue keeps its stored folders until you choose OK.</source>
+        <translation>將以預設資料夾代替。在您選擇「確定」之前，佇列保留其已儲存的資料夾。</translation>
+    </message>
+    <message>
+        <source>No queue matches the filter.</source>
+        <translation>沒有符合篩選條件的佇列。</translation>
+    </message>
 </context>
 </TS>
