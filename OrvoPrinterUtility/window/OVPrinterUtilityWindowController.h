@@ -164,6 +164,7 @@ private:
     void finishLoading(const OVWindowQueue::Loaded &loaded);
     void showProblem(OVWindowQueue::Problem problem);
     void messageBarActionTriggered();
+    void showQueueNote(const OVQueueDevice::Info &device);
     // The bar's button for the problem on show, if it has one.
     const char *problemAction() const;
     // Says the problem, offering the bar's way out.
@@ -207,6 +208,8 @@ private:
     quint64 m_taskGeneration = 0;
     // What keeps the window from saving, as the bar says it.
     OVWindowQueue::Problem m_problem = OVWindowQueue::Problem::None;
+    // The address the bar offers, from the queue's device URI.
+    QString m_offeredAddress;
     QString m_server;
     OVFolderSelection m_folders;
     QString m_printerId;

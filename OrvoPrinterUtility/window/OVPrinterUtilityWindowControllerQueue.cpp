@@ -39,13 +39,39 @@ void OVPrinterUtilityWindowController::alertProblem() {
         messageBarActionTriggered();
 }
 
+// Where nothing keeps the window from saving, the bar says what the user may
+// want to know first: a stopped queue stores settings only once it runs
+// again; a queue without a printer address offers the host it prints to,
+// which fills the field (and is saved only with OK).
+void OVPrinterUtilityWindowController::showQueueNote(const OVQueueDevice::Info &device) {
+    m_offeredAddress.clear();
+    if (m_problem != Problem::None)
+        return;
+    if (device.stopped) {
+        m_messageBar->showMessage(localized(OVWindowTexts::queueStopped).arg(m_printerId));
+        return;
+    }
+    if (!m_ui->printerIPAddressText->text().isEmpty() || device.host.isEmpty())
+        return;
+    m_offeredAddress = device.host;
+    m_messageBar->showMessage(
+        localized(OVWindowTexts::addressOffered).arg(m_printerId, device.host),
+        localized(OVWindowTexts::useButton));
+    OVMnemonics::assign(m_window.get());
+}
+
 void OVPrinterUtilityWindowController::messageBarActionTriggered() {
     if (m_state != State::Idle)
         return;
-    if (m_problem == Problem::NotSetUp || m_problem == Problem::Damaged)
+    if (m_problem == Problem::NotSetUp || m_problem == Problem::Damaged) {
         setUpQueue(m_problem == Problem::Damaged);
-    else if (m_problem == Problem::ServerUnreachable)
+    } else if (m_problem == Problem::ServerUnreachable) {
         loadOptionsFromPPD();
+    } else if (!m_offeredAddress.isEmpty()) {
+        m_ui->printerIPAddressText->setText(m_offeredAddress);
+        m_offeredAddress.clear();
+        m_messageBar->clearMessage();
+    }
 }
 
 void OVPrinterUtilityWindowController::setUpQueue(bool repair) {

@@ -18,6 +18,7 @@ void OVPrinterUtilityWindowController::finishLoading(const OVWindowQueue::Loaded
     if (loaded.settings)
         applySettings(*loaded.settings);
     showProblem(loaded.problem);
+    showQueueNote(loaded.device);
     initAddDeleteState();
     m_registerFolderTableViewDataSource->selectFirstRow();
     loadFormValues();

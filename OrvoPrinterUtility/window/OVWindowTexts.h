@@ -135,6 +135,12 @@ inline constexpr char clearFoldersQuestion[] = "Drop the registered folders?";
 inline constexpr char clearFoldersDetail[] =
     "The default folders take their place. The queue keeps its stored folders until you choose "
     "OK.";
+inline constexpr char queueStopped[] = // %1: the queue
+    "The print queue \"%1\" is stopped: settings saved now are stored only once it runs again.";
+// %1: the queue, %2: the host it prints to
+inline constexpr char addressOffered[] =
+    "No printer address is stored for the queue \"%1\". It prints to %2.";
+inline constexpr char useButton[] = "Use";
 inline constexpr char discardQuestion[] = "Discard the changes to the settings?";
 inline constexpr char discardDetail[] = "They were not saved to the print queue.";
 inline constexpr char discardButton[] = "Discard";
@@ -218,6 +224,9 @@ inline constexpr const char *localizedKeys[] = {
     overTheRouterTip,
     clearFoldersQuestion,
     clearFoldersDetail,
+    queueStopped,
+    addressOffered,
+    useButton,
     discardQuestion,
     discardDetail,
     discardButton,

@@ -9,6 +9,7 @@
 #include "OVPreferredLanguages.h"
 #include "OVPrinterUtilityWindowController.h"
 #include "OVQueueChooser.h"
+#include "OVQueueDevice.h"
 #include "OVQueueSetup.h"
 #include "ui_MainUtilityWindiw.h"
 
@@ -24,6 +25,8 @@
 #include <QTest>
 
 #include <gtest/gtest.h>
+
+#include <cups/cups.h>
 
 [[maybe_unused]] const auto cupsd = ::testing::AddGlobalTestEnvironment(new CupsServerEnvironment);
 
@@ -47,6 +50,18 @@ public:
     QStringList m_texts;
     QStringList m_titles;
 };
+
+bool pause(const char *queue, bool paused) {
+    char uri[HTTP_MAX_URI];
+    httpAssembleURIf(HTTP_URI_CODING_ALL, uri, sizeof uri, "ipp", nullptr, "localhost", ippPort(),
+                     "/printers/%s", queue);
+    ipp_t *request = ippNewRequest(paused ? IPP_OP_PAUSE_PRINTER : IPP_OP_RESUME_PRINTER);
+    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr, uri);
+    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr,
+                 cupsUser());
+    ippDelete(cupsDoRequest(CUPS_HTTP_DEFAULT, request, "/admin/"));
+    return cupsLastError() <= IPP_STATUS_OK_CONFLICTING;
+}
 
 class DialogTest : public ::testing::Test {
 protected:
@@ -325,6 +340,36 @@ TEST_F(DialogTest, ChooserPreselectsAndSaysWhenNothingMatches) {
     OVQueueChooser chooser;
     openChooser(chooser);
     EXPECT_EQ(chooser.chosenQueue(), "Plain");
+}
+
+// A queue without a printer address offers the host of its device URI, which
+// Use puts in the field; other device URIs offer nothing.
+TEST_F(DialogTest, AddressSuggestedFromTheDeviceUri) {
+    const std::pair<const char *, const char *> cases[] = {
+        {"socket://192.0.2.10:9100", "192.0.2.10"},
+        {"ipp://printer.example/ipp/print", "printer.example"},
+        {"ipps://[2001:db8::5]/ipp/print", "2001:db8::5"},
+        {"lpd://192.0.2.11/queue", "192.0.2.11"},
+        {"http://192.0.2.12:631/ipp", "192.0.2.12"},
+        {"https://printer.example/ipp", "printer.example"},
+        {"file:/dev/null", ""},
+        {"usb://Maker/Model", ""}};
+    for (const auto &[uri, host] : cases)
+        EXPECT_EQ(OVQueueDevice::hostOf(uri), host) << uri;
+    CupsServer &cups = CupsServerEnvironment::server();
+    ASSERT_TRUE(cups.lpadmin({"-p", "Office", "-v", "socket://192.0.2.10:9100"}));
+    open();
+    const OVMessageBar *bar = m_window->messageBar();
+    EXPECT_TRUE(bar->isVisible() && bar->text().endsWith("It prints to 192.0.2.10."));
+    EXPECT_TRUE(m_c->printerIPAddressText->text().isEmpty());
+    bar->actionButton()->click();
+    EXPECT_EQ(m_c->printerIPAddressText->text(), "192.0.2.10");
+    EXPECT_TRUE(bar->isHidden());
+    // A stopped queue says so first.
+    ASSERT_TRUE(pause("Office", true));
+    open();
+    EXPECT_TRUE(m_window->messageBar()->text().contains("is stopped"));
+    ASSERT_TRUE(pause("Office", false) && cups.lpadmin({"-p", "Office", "-v", "file:/dev/null"}));
 }
 
 TEST(AlertTitle, IsTheApplicationsDisplayName) {

@@ -807,5 +807,17 @@
         <source>No queue matches the filter.</source>
         <translation>Keine Warteschlange passt zum Filter.</translation>
     </message>
+    <message>
+        <source>The print queue "%1" is stopped: settings saved now are stored only once it runs again.</source>
+        <translation>Die Druckwarteschlange „%1“ ist angehalten: Jetzt gesicherte Einstellungen werden erst gespeichert, wenn sie wieder läuft.</translation>
+    </message>
+    <message>
+        <source>No printer address is stored for the queue "%1". It prints to %2.</source>
+        <translation>Für die Warteschlange „%1“ ist keine Druckeradresse gespeichert. Sie druckt an %2.</translation>
+    </message>
+    <message>
+        <source>Use</source>
+        <translation>Übernehmen</translation>
+    </message>
 </context>
 </TS>

@@ -807,5 +807,17 @@
         <source>No queue matches the filter.</source>
         <translation>No queue matches the filter.</translation>
     </message>
+    <message>
+        <source>The print queue "%1" is stopped: settings saved now are stored only once it runs again.</source>
+        <translation>The print queue "%1" is stopped: settings saved now are stored only once it runs again.</translation>
+    </message>
+    <message>
+        <source>No printer address is stored for the queue "%1". It prints to %2.</source>
+        <translation>No printer address is stored for the queue "%1". It prints to %2.</translation>
+    </message>
+    <message>
+        <source>Use</source>
+        <translation>Use</translation>
+    </message>
 </context>
 </TS>

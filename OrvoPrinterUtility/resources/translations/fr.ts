@@ -807,5 +807,17 @@
         <source>No queue matches the filter.</source>
         <translation>Aucune file ne correspond au filtre.</translation>
     </message>
+    <message>
+        <source>The print queue "%1" is stopped: settings saved now are stored only once it runs again.</source>
+        <translation>La file d’impression « %1 » est arrêtée : les réglages enregistrés maintenant ne seront stockés qu’à sa reprise.</translation>
+    </message>
+    <message>
+        <source>No printer address is stored for the queue "%1". It prints to %2.</source>
+        <translation>Aucune adresse d’imprimante n’est enregistrée pour la file « %1 ». Elle imprime vers %2.</translation>
+    </message>
+    <message>
+        <source>Use</source>
+        <translation>Utiliser</translation>
+    </message>
 </context>
 </TS>

@@ -807,5 +807,17 @@
         <source>No queue matches the filter.</source>
         <translation>フィルターに一致するキューはありません。</translation>
     </message>
+    <message>
+        <source>The print queue "%1" is stopped: settings saved now are stored only once it runs again.</source>
+        <translation>プリントキュー「%1」は停止しています。今保存した設定は、キューが再開したときに初めて保存されます。</translation>
+    </message>
+    <message>
+        <source>No printer address is stored for the queue "%1". It prints to %2.</source>
+        <translation>キュー「%1」にはプリンターのアドレスが保存されていません。印刷先は %2 です。</translation>
+    </message>
+    <message>
+        <source>Use</source>
+        <translation>使用</translation>
+    </message>
 </context>
 </TS>

@@ -807,5 +807,17 @@
         <source>No queue matches the filter.</source>
         <translation>没有与筛选条件匹配的队列。</translation>
     </message>
+    <message>
+        <source>The print queue "%1" is stopped: settings saved now are stored only once it runs again.</source>
+        <translation>打印队列“%1”已停止：现在保存的设置要等队列恢复运行后才会存储。</translation>
+    </message>
+    <message>
+        <source>No printer address is stored for the queue "%1". It prints to %2.</source>
+        <translation>队列“%1”未存储打印机地址。它打印到 %2。</translation>
+    </message>
+    <message>
+        <source>Use</source>
+        <translation>使用</translation>
+    </message>
 </context>
 </TS>

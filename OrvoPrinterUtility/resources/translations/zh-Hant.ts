@@ -807,5 +807,17 @@
         <source>No queue matches the filter.</source>
         <translation>沒有符合篩選條件的佇列。</translation>
     </message>
+    <message>
+        <source>The print queue "%1" is stopped: settings saved now are stored only once it runs again.</source>
+        <translation>列印佇列「%1」已停止：現在儲存的設定要等佇列恢復執行後才會儲存。</translation>
+    </message>
+    <message>
+        <source>No printer address is stored for the queue "%1". It prints to %2.</source>
+        <translation>佇列「%1」未儲存印表機位址。它列印到 %2。</translation>
+    </message>
+    <message>
+        <source>Use</source>
+        <translation>使用</translation>
+    </message>
 </context>
 </TS>
