@@ -1,5 +1,6 @@
 #include "DemoScreenshots.h"
 
+#include "OVAlert.h"
 #include "OVPrinterUtilityWindowController.h"
 #include "OVQueueChooser.h"
 #include "ui_MainUtilityWindiw.h"
@@ -42,6 +43,7 @@ bool DemoScreenshots::takeAll() const {
         {"window-200-percent", 2, windowOnTab(0)},
         {"window-not-set-up", 1, &DemoScreenshots::notSetUpWindow},
         {"window-saving", 1, &DemoScreenshots::savingWindow},
+        {"fetch-failure", 1, &DemoScreenshots::fetchFailure},
     };
     const double scale = qEnvironmentVariable("QT_SCALE_FACTOR", "1").toDouble();
     QDir().mkpath(m_directory);
@@ -105,6 +107,26 @@ bool DemoScreenshots::savingWindow(const QString &file) const {
     controller.controls().okButton->click();
     return save(controller.mainWindowObject(), file) &&
            waitFor(&controller, &OVPrinterUtilityWindowController::applicationShouldTerminate);
+}
+
+// The alert of Get Printer Info without an address, which says why it failed.
+bool DemoScreenshots::fetchFailure(const QString &file) const {
+    OVPrinterUtilityWindowController controller;
+    controller.applicationDidFinishLaunching({"--printer", demoQueue});
+    controller.mainWindowObject()->show();
+    if (!waitFor(&controller, &OVPrinterUtilityWindowController::settingsLoaded))
+        return false;
+    bool saved = false;
+    OVAlert::setResponder([&](const OVAlert &alert) {
+        auto &shown = const_cast<OVAlert &>(alert);
+        shown.show();
+        saved = save(&shown, file);
+        return 0;
+    });
+    controller.controls().printerIPAddressText->clear();
+    controller.controls().printerGetPrinterInfoButton->click();
+    OVAlert::setResponder({});
+    return saved;
 }
 
 bool DemoScreenshots::save(QWidget *widget, const QString &file) {

@@ -39,6 +39,7 @@ private:
     bool settingsWindow(const QString &file, int tab) const;
     bool notSetUpWindow(const QString &file) const;
     bool savingWindow(const QString &file) const;
+    bool fetchFailure(const QString &file) const;
     static bool save(QWidget *widget, const QString &file);
 
     QString m_directory;
