@@ -4,17 +4,21 @@
 #include "OVChooserTexts.h"
 #include "OVCupsConnection.h"
 #include "OVLineControls.h"
+#include "OVMnemonics.h"
 
 #include <QDialogButtonBox>
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QInputDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QSettings>
 #include <QSortFilterProxyModel>
 #include <QStandardItemModel>
 #include <QTableView>
 #include <QTimer>
+#include <QUrl>
 #include <QVBoxLayout>
 #include <cups/cups.h>
 
@@ -32,6 +36,11 @@ constexpr int searchRole = Qt::UserRole + 1;
 // characters that reorder a line by their code.
 constexpr int nameRole = Qt::UserRole + 2;
 constexpr int setUpRole = Qt::UserRole + 3;
+// The server chosen last, in the user's settings of the utility.
+constexpr char serverKey[] = "printServer";
+QSettings userSettings() {
+    return QSettings(QStringLiteral("Orvo"), QStringLiteral("orvo-printer-utility"));
+}
 
 QList<QStandardItem *> queueRow(const OVQueueSetup::Queue &queue) {
     QList<QStandardItem *> row;
@@ -109,6 +118,10 @@ void OVQueueChooser::buildControls() {
     layout->addLayout(statusRow);
 
     auto *buttons = new QDialogButtonBox(this);
+    QPushButton *server =
+        buttons->addButton(T::localized(T::otherServer), QDialogButtonBox::ActionRole);
+    server->setAutoDefault(false);
+    connect(server, &QPushButton::clicked, this, &OVQueueChooser::askForServer);
     m_open = buttons->addButton(T::localized(T::open), QDialogButtonBox::AcceptRole);
     buttons->addButton(T::localized(T::cancel), QDialogButtonBox::RejectRole);
     m_open->setDefault(true);
@@ -126,9 +139,12 @@ void OVQueueChooser::buildControls() {
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     resize(760, 420);
+    OVMnemonics::assign(this);
 }
 
 void OVQueueChooser::start() {
+    if (const QString server = rememberedServer(); !server.isEmpty())
+        useServer(server);
     load();
     QTimer::singleShot(showDelayMs, this, [this] {
         if (!m_answered)
@@ -148,6 +164,37 @@ void OVQueueChooser::load() {
             return Listing{OVQueueSetup::queues(), OVCupsConnection::serverName(), defaultQueue()};
         },
         [this](const Listing &listing) { showListing(listing); });
+}
+
+QString OVQueueChooser::rememberedServer() {
+    return userSettings().value(serverKey).toString();
+}
+
+void OVQueueChooser::askForServer() {
+    bool given = false;
+    const QString server =
+        QInputDialog::getText(this, T::localized(T::otherServerTitle), T::localized(T::serverLabel),
+                              QLineEdit::Normal, rememberedServer(), &given);
+    if (given && !connectToServer(server))
+        setStatus(T::localized(T::serverInvalid).arg(server), false);
+}
+
+// A host name or address, with a port or without, and nothing else.
+bool OVQueueChooser::connectToServer(const QString &server) {
+    const QUrl url(QStringLiteral("ipp://") + server.trimmed());
+    if (server.trimmed().isEmpty() || !url.isValid() || url.host().isEmpty() ||
+        !url.path().isEmpty() || !url.userInfo().isEmpty() || url.hasQuery() || url.hasFragment())
+        return false;
+    userSettings().setValue(serverKey, server.trimmed());
+    useServer(server.trimmed());
+    load();
+    return true;
+}
+
+// Every call to the print server runs on the background worker, whose
+// client settings name the server.
+void OVQueueChooser::useServer(const QString &server) {
+    OVBackgroundTask::wait([name = server.toUtf8()] { cupsSetServer(name.constData()); });
 }
 
 QString OVQueueChooser::defaultQueue() {

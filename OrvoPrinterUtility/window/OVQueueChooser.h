@@ -43,6 +43,12 @@ public:
     QLineEdit *filterField() const { return m_filter; }
     QPushButton *openButton() const { return m_open; }
     QPushButton *retryButton() const { return m_retry; }
+    // Lists the queues of another print server, "host" or "host:port", and
+    // remembers it for the user's next start; false (and nothing changed)
+    // for text that names no server.
+    bool connectToServer(const QString &server);
+    // The server the user chose last; empty for the client's default.
+    static QString rememberedServer();
 
 signals:
     // The server's answer, or its failure, is on show (or a queue was chosen).
@@ -68,6 +74,8 @@ private:
     void selectPreferredRow();
     void showFilterResult();
     void updateOpenButton();
+    void askForServer();
+    static void useServer(const QString &server);
 
     QStandardItemModel *m_model;
     QSortFilterProxyModel *m_visible;

@@ -19,9 +19,11 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QScreen>
+#include <QSettings>
 #include <QSignalSpy>
 #include <QTabWidget>
 #include <QTableView>
+#include <QTemporaryDir>
 #include <QTest>
 
 #include <gtest/gtest.h>
@@ -340,6 +342,40 @@ TEST_F(DialogTest, ChooserPreselectsAndSaysWhenNothingMatches) {
     OVQueueChooser chooser;
     openChooser(chooser);
     EXPECT_EQ(chooser.chosenQueue(), "Plain");
+}
+
+// The chooser lists the queues of another server the user names, and lists
+// that server again on the next start; text that names no server changes
+// nothing.
+TEST_F(DialogTest, ChooserConnectsToAnotherServerAndRemembersIt) {
+    QTemporaryDir home;
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, home.path());
+    CupsServer::Options options;
+    options.clientsUseIt = false;
+    CupsServer other(QStringLiteral(ORVO_PPD_UPDATE_FILTER), options);
+    ASSERT_TRUE(other.isRunning() && other.addQueue("Remote") && other.addQueue("Annex"));
+    const auto listedQueues = [](OVQueueChooser &chooser, const std::function<void()> &action) {
+        QSignalSpy listed(&chooser, &OVQueueChooser::listed);
+        action();
+        EXPECT_TRUE(listed.wait(30000));
+        QStringList names;
+        for (int row = 0; row < chooser.queueTable()->model()->rowCount(); ++row)
+            names << chooser.queueTable()->model()->index(row, 0).data().toString();
+        names.sort();
+        return names;
+    };
+    {
+        OVQueueChooser chooser;
+        EXPECT_TRUE(listedQueues(chooser, [&] { chooser.start(); }).contains("Office"));
+        for (const char *invalid : {"", "printer/queue", "user@host", "host:port"})
+            EXPECT_FALSE(chooser.connectToServer(invalid)) << invalid;
+        EXPECT_EQ(listedQueues(chooser, [&] { chooser.connectToServer(other.address()); }),
+                  (QStringList{"Annex", "Remote"}));
+    }
+    OVQueueChooser again;
+    EXPECT_EQ(listedQueues(again, [&] { again.start(); }), (QStringList{"Annex", "Remote"}));
+    EXPECT_EQ(OVQueueChooser::rememberedServer(), other.address());
+    EXPECT_TRUE(again.connectToServer(CupsServerEnvironment::server().address()));
 }
 
 // A queue without a printer address offers the host of its device URI, which

@@ -819,5 +819,21 @@
         <source>Use</source>
         <translation>Übernehmen</translation>
     </message>
+    <message>
+        <source>Other Server…</source>
+        <translation>Anderer Server…</translation>
+    </message>
+    <message>
+        <source>Connect to a Print Server</source>
+        <translation>Mit einem Druckserver verbinden</translation>
+    </message>
+    <message>
+        <source>Print server (host or host:port):</source>
+        <translation>Druckserver (Host oder Host:Port):</translation>
+    </message>
+    <message>
+        <source>"%1" names no print server. Enter a host name or address, with a port if it is not 631.</source>
+        <translation>„%1“ bezeichnet keinen Druckserver. Geben Sie einen Hostnamen oder eine Adresse ein, mit Port, wenn er nicht 631 ist.</translation>
+    </message>
 </context>
 </TS>

@@ -819,5 +819,21 @@
         <source>Use</source>
         <translation>Use</translation>
     </message>
+    <message>
+        <source>Other Server…</source>
+        <translation>Other Server…</translation>
+    </message>
+    <message>
+        <source>Connect to a Print Server</source>
+        <translation>Connect to a Print Server</translation>
+    </message>
+    <message>
+        <source>Print server (host or host:port):</source>
+        <translation>Print server (host or host:port):</translation>
+    </message>
+    <message>
+        <source>"%1" names no print server. Enter a host name or address, with a port if it is not 631.</source>
+        <translation>"%1" names no print server. Enter a host name or address, with a port if it is not 631.</translation>
+    </message>
 </context>
 </TS>

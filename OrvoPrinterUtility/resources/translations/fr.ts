@@ -819,5 +819,21 @@
         <source>Use</source>
         <translation>Utiliser</translation>
     </message>
+    <message>
+        <source>Other Server…</source>
+        <translation>Autre serveur…</translation>
+    </message>
+    <message>
+        <source>Connect to a Print Server</source>
+        <translation>Se connecter à un serveur d’impression</translation>
+    </message>
+    <message>
+        <source>Print server (host or host:port):</source>
+        <translation>Serveur d’impression (hôte ou hôte:port) :</translation>
+    </message>
+    <message>
+        <source>"%1" names no print server. Enter a host name or address, with a port if it is not 631.</source>
+        <translation>« %1 » ne désigne aucun serveur d’impression. Saisissez un nom d’hôte ou une adresse, avec le port s’il n’est pas 631.</translation>
+    </message>
 </context>
 </TS>

@@ -819,5 +819,21 @@
         <source>Use</source>
         <translation>使用</translation>
     </message>
+    <message>
+        <source>Other Server…</source>
+        <translation>他のサーバー…</translation>
+    </message>
+    <message>
+        <source>Connect to a Print Server</source>
+        <translation>プリントサーバーに接続</translation>
+    </message>
+    <message>
+        <source>Print server (host or host:port):</source>
+        <translation>プリントサーバー (ホストまたはホスト:ポート):</translation>
+    </message>
+    <message>
+        <source>"%1" names no print server. Enter a host name or address, with a port if it is not 631.</source>
+        <translation>「%1」はプリントサーバーを示していません。ホスト名またはアドレスを入力してください。ポートが 631 でない場合はポートも指定します。</translation>
+    </message>
 </context>
 </TS>

@@ -819,5 +819,21 @@
         <source>Use</source>
         <translation>使用</translation>
     </message>
+    <message>
+        <source>Other Server…</source>
+        <translation>其他服务器…</translation>
+    </message>
+    <message>
+        <source>Connect to a Print Server</source>
+        <translation>连接到打印服务器</translation>
+    </message>
+    <message>
+        <source>Print server (host or host:port):</source>
+        <translation>打印服务器（主机或 主机:端口）：</translation>
+    </message>
+    <message>
+        <source>"%1" names no print server. Enter a host name or address, with a port if it is not 631.</source>
+        <translation>“%1”不是打印服务器。请输入主机名或地址；端口不是 631 时请一并输入。</translation>
+    </message>
 </context>
 </TS>

@@ -819,5 +819,21 @@
         <source>Use</source>
         <translation>使用</translation>
     </message>
+    <message>
+        <source>Other Server…</source>
+        <translation>其他伺服器…</translation>
+    </message>
+    <message>
+        <source>Connect to a Print Server</source>
+        <translation>連線到列印伺服器</translation>
+    </message>
+    <message>
+        <source>Print server (host or host:port):</source>
+        <translation>列印伺服器（主機或 主機:連接埠）：</translation>
+    </message>
+    <message>
+        <source>"%1" names no print server. Enter a host name or address, with a port if it is not 631.</source>
+        <translation>「%1」不是列印伺服器。請輸入主機名稱或位址；連接埠不是 631 時請一併輸入。</translation>
+    </message>
 </context>
 </TS>
