@@ -219,7 +219,8 @@ void OVPrinterUtilityWindowController::enter(State state) {
     for (QWidget *control : settingsControls())
         control->setEnabled(idle);
     m_messageBar->actionButton()->setEnabled(idle);
-    const bool cancellable = state == State::Fetching || state == State::Saving;
+    const bool cancellable =
+        state == State::Fetching || state == State::Saving || state == State::SettingUp;
     m_ui->cancelButton->setVisible(cancellable);
     m_ui->cancelButton->setEnabled(cancellable);
     m_ui->closeButton->setEnabled(state != State::Closing);
@@ -247,9 +248,10 @@ void OVPrinterUtilityWindowController::cancelButtonClicked(QObject *) {
     if (!m_task)
         return;
     m_task->cancel();
-    // A fetch waits for its steps to return, at once now; a save's result
-    // is dropped when it comes.
-    if (m_state == State::Saving)
+    // A fetch waits for its steps to return, at once now; a save's or a
+    // set-up's result is dropped when it comes, and the bar still offers the
+    // set-up, which does again only what is not done yet.
+    if (m_state == State::Saving || m_state == State::SettingUp)
         enter(State::Idle);
 }
 

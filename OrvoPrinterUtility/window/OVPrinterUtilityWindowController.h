@@ -38,7 +38,7 @@ class MainUtilityWindiw;
 // The window is in one state at a time, and the state alone decides which
 // controls are on and what the progress indicator says: the settings only
 // when idle (where the controls' own rules narrow them further), Cancel only
-// while a fetch or a save runs, Close until the window closes.
+// while a fetch, a save or a set-up runs, Close until the window closes.
 class OVPrinterUtilityWindowController : public QObject {
     Q_OBJECT
 
@@ -100,7 +100,7 @@ public:
     // Saving.
     void okButtonClicked(QObject *sender);
     void closeButtonClicked(QObject *sender);
-    // Ends the fetch or the save under way; what it found is not shown.
+    // Ends the fetch, save or set-up under way; what it found is not shown.
     void cancelButtonClicked(QObject *sender);
     void saveOptionsToPPD();
     OVSettingsSnapshot settingsSnapshot() const;

@@ -16,6 +16,7 @@
 #include <QAbstractItemModel>
 #include <QApplication>
 #include <QClipboard>
+#include <QElapsedTimer>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QScreen>
@@ -29,6 +30,8 @@
 #include <gtest/gtest.h>
 
 #include <cups/cups.h>
+
+#include <csignal>
 
 [[maybe_unused]] const auto cupsd = ::testing::AddGlobalTestEnvironment(new CupsServerEnvironment);
 
@@ -67,12 +70,12 @@ bool pause(const char *queue, bool paused) {
 
 class DialogTest : public ::testing::Test {
 protected:
-    // "Plain" and "Bare" are not set up: their bar offers Set Up….
+    // "Plain", "Bare" and "Spare" are not set up: their bar offers Set Up….
     static void SetUpTestSuite() {
         CupsServer &cups = CupsServerEnvironment::server();
         ASSERT_TRUE(cups.addQueue("Office") && cups.addQueue("Lab") && cups.addQueue("Plain") &&
-                    cups.addQueue("Bare"));
-        for (const char *queue : {"Plain", "Bare"})
+                    cups.addQueue("Bare") && cups.addQueue("Spare"));
+        for (const char *queue : {"Plain", "Bare", "Spare"})
             ASSERT_EQ(OVQueueSetup::remove(queue).outcome, OVQueueSetup::Outcome::Changed);
     }
     void TearDown() override {
@@ -312,6 +315,23 @@ TEST_F(DialogTest, OkOffersSetUp) {
     EXPECT_TRUE(alerts.m_texts[0].startsWith("The print queue \"Bare\" is not set up"));
     EXPECT_TRUE(QTest::qWaitFor([&] { return m_window->messageBar()->isHidden(); }, 60000));
     EXPECT_EQ(OVQueueSetup::state("Bare"), OVQueueSetup::State::SetUp);
+}
+
+// Cancel ends a set-up that waits on a server that stopped answering.
+TEST_F(DialogTest, CancelEndsASetUp) {
+    open("Spare");
+    const auto cupsd = pid_t(CupsServerEnvironment::server().pid());
+    ::kill(cupsd, SIGSTOP);
+    m_window->messageBar()->actionButton()->click();
+    EXPECT_EQ(m_window->state(), Controller::State::SettingUp);
+    EXPECT_TRUE(m_c->cancelButton->isVisible());
+    QElapsedTimer sinceCancel;
+    sinceCancel.start();
+    m_c->cancelButton->click();
+    ::kill(cupsd, SIGCONT);
+    EXPECT_EQ(m_window->state(), Controller::State::Idle);
+    EXPECT_LT(sinceCancel.elapsed(), 1000);
+    EXPECT_TRUE(m_window->messageBar()->actionButton()->isEnabled());
 }
 
 // The chooser preselects the server's default queue, else the first set-up
