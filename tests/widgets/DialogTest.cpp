@@ -352,6 +352,10 @@ TEST_F(DialogTest, ChooserPreselectsAndSaysWhenNothingMatches) {
                 firstSetUp = rows->index(row, 0).data().toString();
         EXPECT_FALSE(firstSetUp.isEmpty());
         EXPECT_EQ(chooser.chosenQueue(), firstSetUp);
+        for (const QAbstractButton *button : chooser.findChildren<QAbstractButton *>())
+            EXPECT_TRUE(button->text().isEmpty() ||
+                        !OVMnemonics::mnemonicOf(button->text()).isNull())
+                << button->text().toStdString();
         chooser.filterField()->setText("no such queue");
         EXPECT_EQ(chooser.statusText(), "No queue matches the filter.");
         EXPECT_FALSE(chooser.openButton()->isEnabled());
