@@ -75,11 +75,9 @@ bool DemoScreenshots::queueChooser(const QString &file) const {
 // Waits for the queue's settings, since Get Printer Info is off until they are in.
 bool DemoScreenshots::settingsWindow(const QString &file, int tab) const {
     OVPrinterUtilityWindowController controller;
-    controller.applicationDidFinishLaunching({"--printer", demoQueue});
-    QWidget *window = controller.mainWindowObject();
-    window->show();
-    if (!waitFor(&controller, &OVPrinterUtilityWindowController::settingsLoaded))
+    if (!showLoaded(controller, demoQueue))
         return false;
+    QWidget *window = controller.mainWindowObject();
     Ui::MainUtilityWindiw &c = controller.controls();
     c.printerGetPrinterInfoButton->click();
     c.meinTabView->setCurrentIndex(tab);
@@ -89,10 +87,7 @@ bool DemoScreenshots::settingsWindow(const QString &file, int tab) const {
 // The bar above the tabs, offering to set up a queue that is not.
 bool DemoScreenshots::notSetUpWindow(const QString &file) const {
     OVPrinterUtilityWindowController controller;
-    controller.applicationDidFinishLaunching({"--printer", plainQueue});
-    controller.mainWindowObject()->show();
-    return waitFor(&controller, &OVPrinterUtilityWindowController::settingsLoaded) &&
-           save(controller.mainWindowObject(), file);
+    return showLoaded(controller, plainQueue) && save(controller.mainWindowObject(), file);
 }
 
 // The window while OK's save waits for the update job; drawn before the save
@@ -100,9 +95,7 @@ bool DemoScreenshots::notSetUpWindow(const QString &file) const {
 // queue's PPD written.
 bool DemoScreenshots::savingWindow(const QString &file) const {
     OVPrinterUtilityWindowController controller;
-    controller.applicationDidFinishLaunching({"--printer", demoQueue});
-    controller.mainWindowObject()->show();
-    if (!waitFor(&controller, &OVPrinterUtilityWindowController::settingsLoaded))
+    if (!showLoaded(controller, demoQueue))
         return false;
     controller.controls().okButton->click();
     return save(controller.mainWindowObject(), file) &&
@@ -112,9 +105,7 @@ bool DemoScreenshots::savingWindow(const QString &file) const {
 // The alert of Get Printer Info without an address, which says why it failed.
 bool DemoScreenshots::fetchFailure(const QString &file) const {
     OVPrinterUtilityWindowController controller;
-    controller.applicationDidFinishLaunching({"--printer", demoQueue});
-    controller.mainWindowObject()->show();
-    if (!waitFor(&controller, &OVPrinterUtilityWindowController::settingsLoaded))
+    if (!showLoaded(controller, demoQueue))
         return false;
     bool saved = false;
     OVAlert::setResponder([&](const OVAlert &alert) {
@@ -127,6 +118,12 @@ bool DemoScreenshots::fetchFailure(const QString &file) const {
     controller.controls().printerGetPrinterInfoButton->click();
     OVAlert::setResponder({});
     return saved;
+}
+
+bool DemoScreenshots::showLoaded(OVPrinterUtilityWindowController &controller, const char *queue) {
+    controller.applicationDidFinishLaunching({"--printer", queue});
+    controller.mainWindowObject()->show();
+    return waitFor(&controller, &OVPrinterUtilityWindowController::settingsLoaded);
 }
 
 bool DemoScreenshots::save(QWidget *widget, const QString &file) {
