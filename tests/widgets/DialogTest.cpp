@@ -1,6 +1,7 @@
-// The settings window behaves as a desktop dialog: its title, its keys, the
-// question before changes are dropped, the titles of its alerts. The window
-// reads a private cupsd; nothing here reaches a printer.
+// The settings window and the queue chooser behave as desktop dialogs: titles,
+// keys, questions before something is dropped, messages that say why, MAC
+// entry, size, mnemonics, the chooser's choice and servers, the bar's notes.
+// They read private cupsd servers; nothing here reaches a printer.
 #include "CupsServerEnvironment.h"
 #include "OVAlert.h"
 #include "OVFetchFailureText.h"
@@ -45,7 +46,6 @@ public:
     explicit Answering(int answer) {
         OVAlert::setResponder([this, answer](const OVAlert &alert) {
             m_texts << alert.text() + '|' + alert.informativeText();
-            m_titles << alert.windowTitle();
             return answer;
         });
     }
@@ -53,7 +53,6 @@ public:
     Answering(const Answering &) = delete;
     Answering &operator=(const Answering &) = delete;
     QStringList m_texts;
-    QStringList m_titles;
 };
 
 bool pause(const char *queue, bool paused) {
@@ -282,15 +281,6 @@ TEST_F(DialogTest, MnemonicsInEveryLanguage) {
             }
         }
     }
-}
-
-TEST_F(DialogTest, ToolTips) {
-    open();
-    const QWidget *const controls[] = {
-        m_c->printerGetPrinterInfoButton, m_c->formGetPrinterInfoButton,  m_c->folderClearButton,
-        m_c->colorProfileClearButton,     m_c->folderPersonalFolderCheck, m_c->overstepTheRouter};
-    for (const QWidget *control : controls)
-        EXPECT_FALSE(control->toolTip().isEmpty()) << control->objectName().toStdString();
 }
 
 // The folder tab's Clear asks before it drops the registered folders; Cancel keeps them.
