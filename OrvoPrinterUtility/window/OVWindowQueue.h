@@ -21,7 +21,8 @@ public:
         Damaged,
         NoPPD,
         UnreadablePPD,
-        NotSetUp
+        NotSetUp,
+        NotASaver, // the queue names who may save, and not this user: shown read-only
     };
 
     struct Loaded {
