@@ -1,6 +1,7 @@
 #include "OVAlert.h"
 
 #include <QDialogButtonBox>
+#include <QGuiApplication>
 #include <QProxyStyle>
 #include <QPushButton>
 
@@ -49,8 +50,10 @@ QString fillFormat(const QString &format, const QStringList &arguments) {
 
 } // namespace
 
+// The application's name as the desktop shows it, not its binary's.
 OVAlert::OVAlert()
     : m_buttonBoxStyle(std::make_unique<FixedButtonOrderStyle>()) {
+    setWindowTitle(QGuiApplication::applicationDisplayName());
     if (auto *box = findChild<QDialogButtonBox *>()) {
         box->setStyle(m_buttonBoxStyle.get());
     }
@@ -113,6 +116,18 @@ int OVAlert::runModal() {
     }
     exec();
     return resultForButtonIndex(m_buttons.indexOf(qobject_cast<QPushButton *>(clickedButton())));
+}
+
+QPointer<OVAlert> OVAlert::showWithoutBlocking(std::unique_ptr<OVAlert> alert) {
+    if (const Responder &responder = installedResponder()) {
+        responder(*alert);
+        return nullptr;
+    }
+    alert->setWindowModality(Qt::NonModal);
+    alert->setAttribute(Qt::WA_ShowWithoutActivating);
+    alert->setAttribute(Qt::WA_DeleteOnClose);
+    alert->show();
+    return alert.release();
 }
 
 int OVAlert::resultForButtonIndex(qsizetype index) const {

@@ -2,6 +2,7 @@
 
 #include <QList>
 #include <QMessageBox>
+#include <QPointer>
 #include <QStringList>
 
 #include <functional>
@@ -41,6 +42,10 @@ public:
     ~OVAlert() override;
 
     int runModal();
+    // Shows the alert without taking the keyboard from the window below, for
+    // a message on what was just typed: the keys after it still reach the
+    // field. It deletes itself once closed.
+    static QPointer<OVAlert> showWithoutBlocking(std::unique_ptr<OVAlert> alert);
 
     // Part of the fixed interface; nothing in the utility calls the getter.
     bool isSecondButtonOther() const { return m_isSecondButtonOther; }

@@ -36,12 +36,22 @@ void OVRestrictedTextField::setInvalidMessageString(const QString &invalidMessag
     m_invalidTitle = titleString;
 }
 
-void OVRestrictedTextField::showMessage() {
-    const auto alert = OVAlert::alertWithMessageText(
-        m_invalidTitle, QString::fromLatin1(OVAlert::defaultButtonTitle), QString(), QString(),
-        QString::fromLatin1(OVAlert::plainMessageFormat), {m_invalidMessage});
+namespace {
+QString naming(const QString &text, QChar refused) {
+    return text.contains(QLatin1String("%1")) ? text.arg(refused) : text;
+}
+} // namespace
+
+// One message at a time: the latest refusal replaces an earlier one.
+void OVRestrictedTextField::showMessage(QChar refused) {
+    auto alert = OVAlert::alertWithMessageText(
+        naming(m_invalidTitle, refused), QString::fromLatin1(OVAlert::defaultButtonTitle),
+        QString(), QString(), QString::fromLatin1(OVAlert::plainMessageFormat),
+        {naming(m_invalidMessage, refused)});
     alert->setIcon(QMessageBox::Critical);
-    alert->runModal();
+    if (m_shownMessage)
+        m_shownMessage->close();
+    m_shownMessage = OVAlert::showWithoutBlocking(std::move(alert));
 }
 
 void OVRestrictedTextField::textDidBeginEditing(const OVNotification &) {
@@ -144,14 +154,17 @@ void OVRestrictedTextField::removeInvalidCharacters() {
         return;
     }
     QString cleaned = text();
+    QChar refused;
     for (const QChar c : std::as_const(m_invalidCharacters)) {
+        if (refused.isNull() && cleaned.contains(c))
+            refused = c;
         cleaned = OrvoHelper::deleteCharFromString(cleaned, c);
     }
     // Without an alert the typed text deliberately stays; the valid set then
     // decides.
     if (cleaned != text() && m_bShowMessage) {
-        showMessage();
         restoreText(cleaned);
+        showMessage(refused);
     }
 }
 

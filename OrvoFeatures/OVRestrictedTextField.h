@@ -9,6 +9,8 @@
 
 #include <memory>
 
+class OVAlert;
+
 // A text field that undoes, on every keystroke or paste, what breaks its
 // rules: characters outside the valid set, characters of the invalid set
 // (optionally with an alert), and text beyond the length limit. As a number it
@@ -40,6 +42,7 @@ public:
     qint32 maxLength() const { return m_maxLength; }
     void setNotifyEditing(bool notify) { m_bNotifyEditing = notify; }
     void showMessageIfInvalid(bool show) { m_bShowMessage = show; }
+    // A "%1" in either text names the refused character.
     void setInvalidMessageString(const QString &invalidMessage, const QString &titleString);
     QString invalidMessage() const { return m_invalidMessage; }
     // Part of the fixed interface; nothing in the utility calls invalidTitle,
@@ -53,7 +56,8 @@ public:
     QString oldString() const { return m_oldString; }
     void setOldString(const QString &oldString) { m_oldString = oldString; }
 
-    void showMessage();
+    // The keys typed while it shows still reach the field.
+    void showMessage(QChar refused = QChar());
 
     bool textShouldBeginEditing(const OVNotification &) { return true; }
     void textDidBeginEditing(const OVNotification &notification);
@@ -90,5 +94,6 @@ private:
     bool m_bShowMessage = false;
     QString m_invalidMessage = QStringLiteral("");
     QString m_invalidTitle;
+    QPointer<OVAlert> m_shownMessage;
     bool m_editing = false;
 };

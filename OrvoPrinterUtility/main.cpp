@@ -1,6 +1,8 @@
 #include "OVPasswordPrompt.h"
+#include "OVPrinterUtilityHelper.h"
 #include "OVPrinterUtilityWindowController.h"
 #include "OVQueueChooser.h"
+#include "OVWindowTexts.h"
 
 #include <QApplication>
 #include <QTextStream>
@@ -45,6 +47,9 @@ int main(int argc, char **argv) {
     QApplication::setApplicationName("orvo-printer-utility");
     QApplication::setApplicationVersion(ORVO_VERSION);
     QApplication::setDesktopFileName("orvo-printer-utility");
+    // Titles the alerts, in the user's language.
+    QApplication::setApplicationDisplayName(
+        OVPrinterUtilityHelper::getLocalizedStringFor(OVWindowTexts::defaultTitle));
     // Qt's own options (-platform, -style) are taken out here.
     const QStringList arguments = app.arguments().mid(1);
 

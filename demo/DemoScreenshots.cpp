@@ -1,5 +1,6 @@
 #include "DemoScreenshots.h"
 
+#include "OVAlert.h"
 #include "OVPrinterUtilityWindowController.h"
 #include "OVQueueChooser.h"
 #include "ui_MainUtilityWindiw.h"
@@ -42,6 +43,7 @@ bool DemoScreenshots::takeAll() const {
         {"window-200-percent", 2, windowOnTab(0)},
         {"window-not-set-up", 1, &DemoScreenshots::notSetUpWindow},
         {"window-saving", 1, &DemoScreenshots::savingWindow},
+        {"fetch-failure", 1, &DemoScreenshots::fetchFailure},
     };
     const double scale = qEnvironmentVariable("QT_SCALE_FACTOR", "1").toDouble();
     QDir().mkpath(m_directory);
@@ -73,11 +75,9 @@ bool DemoScreenshots::queueChooser(const QString &file) const {
 // Waits for the queue's settings, since Get Printer Info is off until they are in.
 bool DemoScreenshots::settingsWindow(const QString &file, int tab) const {
     OVPrinterUtilityWindowController controller;
-    controller.applicationDidFinishLaunching({"--printer", demoQueue});
-    QWidget *window = controller.mainWindowObject();
-    window->show();
-    if (!waitFor(&controller, &OVPrinterUtilityWindowController::settingsLoaded))
+    if (!showLoaded(controller, demoQueue))
         return false;
+    QWidget *window = controller.mainWindowObject();
     Ui::MainUtilityWindiw &c = controller.controls();
     c.printerGetPrinterInfoButton->click();
     c.meinTabView->setCurrentIndex(tab);
@@ -87,10 +87,7 @@ bool DemoScreenshots::settingsWindow(const QString &file, int tab) const {
 // The bar above the tabs, offering to set up a queue that is not.
 bool DemoScreenshots::notSetUpWindow(const QString &file) const {
     OVPrinterUtilityWindowController controller;
-    controller.applicationDidFinishLaunching({"--printer", plainQueue});
-    controller.mainWindowObject()->show();
-    return waitFor(&controller, &OVPrinterUtilityWindowController::settingsLoaded) &&
-           save(controller.mainWindowObject(), file);
+    return showLoaded(controller, plainQueue) && save(controller.mainWindowObject(), file);
 }
 
 // The window while OK's save waits for the update job; drawn before the save
@@ -98,13 +95,35 @@ bool DemoScreenshots::notSetUpWindow(const QString &file) const {
 // queue's PPD written.
 bool DemoScreenshots::savingWindow(const QString &file) const {
     OVPrinterUtilityWindowController controller;
-    controller.applicationDidFinishLaunching({"--printer", demoQueue});
-    controller.mainWindowObject()->show();
-    if (!waitFor(&controller, &OVPrinterUtilityWindowController::settingsLoaded))
+    if (!showLoaded(controller, demoQueue))
         return false;
     controller.controls().okButton->click();
     return save(controller.mainWindowObject(), file) &&
            waitFor(&controller, &OVPrinterUtilityWindowController::applicationShouldTerminate);
+}
+
+// The alert of Get Printer Info without an address, which says why it failed.
+bool DemoScreenshots::fetchFailure(const QString &file) const {
+    OVPrinterUtilityWindowController controller;
+    if (!showLoaded(controller, demoQueue))
+        return false;
+    bool saved = false;
+    OVAlert::setResponder([&](const OVAlert &alert) {
+        auto &shown = const_cast<OVAlert &>(alert);
+        shown.show();
+        saved = save(&shown, file);
+        return 0;
+    });
+    controller.controls().printerIPAddressText->clear();
+    controller.controls().printerGetPrinterInfoButton->click();
+    OVAlert::setResponder({});
+    return saved;
+}
+
+bool DemoScreenshots::showLoaded(OVPrinterUtilityWindowController &controller, const char *queue) {
+    controller.applicationDidFinishLaunching({"--printer", queue});
+    controller.mainWindowObject()->show();
+    return waitFor(&controller, &OVPrinterUtilityWindowController::settingsLoaded);
 }
 
 bool DemoScreenshots::save(QWidget *widget, const QString &file) {

@@ -4,6 +4,7 @@
 
 #include <functional>
 
+class OVPrinterUtilityWindowController;
 class QWidget;
 
 // The pictures of the utility under docs/, drawn on the demo's print server and
@@ -39,6 +40,9 @@ private:
     bool settingsWindow(const QString &file, int tab) const;
     bool notSetUpWindow(const QString &file) const;
     bool savingWindow(const QString &file) const;
+    bool fetchFailure(const QString &file) const;
+    // Opens the window on the queue and waits for its settings.
+    static bool showLoaded(OVPrinterUtilityWindowController &controller, const char *queue);
     static bool save(QWidget *widget, const QString &file);
 
     QString m_directory;

@@ -27,6 +27,12 @@ inline constexpr char unreachable[] =
                                                                                         // server
 inline constexpr char noQueues[] =
     "The print server %1 has no print queues. Add a printer, then try again."; // %1: the server
+inline constexpr char noMatch[] = "No queue matches the filter.";
+inline constexpr char otherServer[] = "Other Server…";
+inline constexpr char otherServerTitle[] = "Connect to a Print Server";
+inline constexpr char serverLabel[] = "Print server (host or host:port):";
+inline constexpr char serverInvalid[] = "\"%1\" names no print server. Enter a host name or "
+                                        "address, with a port if it is not 631.";
 inline constexpr char open[] = "Open";
 inline constexpr char cancel[] = "Cancel";
 inline constexpr char retry[] = "Retry";
@@ -57,6 +63,11 @@ inline constexpr const char *localizedKeys[] = {
     loading,
     unreachable,
     noQueues,
+    noMatch,
+    otherServer,
+    otherServerTitle,
+    serverLabel,
+    serverInvalid,
     open,
     cancel,
     retry,

@@ -2,6 +2,7 @@
 
 #include "OVBackgroundTask.h"
 #include "OVChooserTexts.h"
+#include "OVMnemonics.h"
 #include "OVWindowTexts.h"
 
 #include <QApplication>
@@ -112,6 +113,7 @@ OVPasswordPrompt::Answer OVPasswordPrompt::ask(const QString &server, const QStr
     connect(buttons, &QDialogButtonBox::accepted, &dialog, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
     form->addRow(buttons);
+    OVMnemonics::assign(&dialog);
     emit asking(&dialog);
     if (dialog.exec() != QDialog::Accepted)
         return {};

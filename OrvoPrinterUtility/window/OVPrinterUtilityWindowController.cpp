@@ -2,7 +2,9 @@
 
 #include "OVCustomRestrictedTextField.h"
 #include "OVLaunchEvent.h"
+#include "OVMacAddressEntry.h"
 #include "OVMessageBar.h"
+#include "OVMnemonics.h"
 #include "OVNotificationCenter.h"
 #include "OVPrinterUtilityHelper.h"
 #include "OVStoredSettings.h"
@@ -12,7 +14,9 @@
 #include "OrvoSettingsKeywords.h"
 #include "ui_MainUtilityWindiw.h"
 
-#include <QCloseEvent>
+#include <QApplication>
+#include <QKeyEvent>
+#include <QPushButton>
 
 #include <mutex>
 
@@ -34,9 +38,12 @@ OVPrinterUtilityWindowController::OVPrinterUtilityWindowController(QObject *pare
     , m_messageBar(new OVMessageBar(m_window.get())) {
     m_ui->setupUi(m_window.get());
     m_ui->mainLayout->insertWidget(m_ui->mainLayout->indexOf(m_ui->meinTabView), m_messageBar);
+    OVWindowSetUp::makeScrollable(*m_ui);
     m_window->installEventFilter(this);
     resetLaunchState();
     connectActions();
+    connect(new OVMacAddressEntry(macAddressFields(), this), &OVMacAddressEntry::filled, this,
+            &OVPrinterUtilityWindowController::constraintsWakeOnLanItems);
 }
 
 // Observers registered with this controller as context leave with it, and
@@ -77,6 +84,7 @@ void OVPrinterUtilityWindowController::resetLaunchState() {
     m_printerId = QString("");
     m_bAdminLoginModeEnabled = false;
     m_isPpdOptionsUpdated = false;
+    m_shownSettings.reset();
 }
 
 // ---- start-up and closing ---------------------------------------------------
@@ -93,10 +101,47 @@ void OVPrinterUtilityWindowController::windowWillClose(const QString &identifier
         closeButtonClicked(m_ui->closeButton);
 }
 
+// The window is a dialog: Return presses OK (or the button that has the
+// focus), Escape presses Close, and closing it is Close, which may be refused.
 bool OVPrinterUtilityWindowController::eventFilter(QObject *watched, QEvent *event) {
-    if (watched == m_window.get() && event->type() == QEvent::Close)
+    if (watched != m_window.get())
+        return QObject::eventFilter(watched, event);
+    if (event->type() == QEvent::Close) {
         windowWillClose(m_window->objectName());
+        event->setAccepted(m_state == State::Closing);
+        return !event->isAccepted();
+    }
+    // Once shown, the window's frame is known, and the screen it is on.
+    if (event->type() == QEvent::Show)
+        OVWindowSetUp::fitIntoScreen(m_window.get());
+    if (event->type() == QEvent::KeyPress)
+        return pressDialogKey(static_cast<QKeyEvent *>(event)->key());
     return QObject::eventFilter(watched, event);
+}
+
+bool OVPrinterUtilityWindowController::pressDialogKey(int key) {
+    QAbstractButton *button = nullptr;
+    if (key == Qt::Key_Escape)
+        button = m_ui->closeButton;
+    else if (key == Qt::Key_Return || key == Qt::Key_Enter)
+        button = qobject_cast<QPushButton *>(QApplication::focusWidget());
+    else
+        return false;
+    if (!button)
+        button = m_ui->okButton;
+    if (button->isEnabled() && button->isVisible())
+        button->click();
+    return true;
+}
+
+// What the user changed since the settings were shown: fetched values
+// count too, as they are not stored until OK.
+bool OVPrinterUtilityWindowController::hasUnsavedChanges() const {
+    if (!m_shownSettings)
+        return false;
+    OVSettingsSnapshot now = settingsSnapshot();
+    now.isPPDOptionsUpdated = m_shownSettings->isPPDOptionsUpdated;
+    return now != *m_shownSettings;
 }
 
 QString OVPrinterUtilityWindowController::localized(const char *key) const {
@@ -111,11 +156,12 @@ void OVPrinterUtilityWindowController::loadControls() {
         std::lock_guard lock(dictionaryMutex);
         dictionary = informationDictionary();
     }
-    OVWindowSetUp::setUpWindowTitle(m_window.get(), dictionary);
+    OVWindowSetUp::setUpWindowTitle(m_window.get(), dictionary, m_printerId);
     OVWindowSetUp::setUpTexts(*m_ui);
     OVWindowSetUp::setUpSettingsFields(*m_ui);
     enter(State::Loading);
     OVWindowSetUp::setUpFolderTab(*m_ui);
+    OVMnemonics::assign(m_window.get());
     m_bAdminLoginModeEnabled = false;
     createDataSources();
     OVNotificationCenter::defaultCenter().addObserver(
@@ -177,7 +223,8 @@ void OVPrinterUtilityWindowController::enter(State state) {
     for (int i = 0; i < m_ui->meinTabView->count(); ++i)
         m_ui->meinTabView->widget(i)->setEnabled(editable());
     m_messageBar->actionButton()->setEnabled(idle);
-    const bool cancellable = state == State::Fetching || state == State::Saving;
+    const bool cancellable =
+        state == State::Fetching || state == State::Saving || state == State::SettingUp;
     m_ui->cancelButton->setVisible(cancellable);
     m_ui->cancelButton->setEnabled(cancellable);
     m_ui->closeButton->setEnabled(state != State::Closing);
@@ -205,9 +252,10 @@ void OVPrinterUtilityWindowController::cancelButtonClicked(QObject *) {
     if (!m_task)
         return;
     m_task->cancel();
-    // A fetch waits for its steps to return, at once now; a save's result
-    // is dropped when it comes.
-    if (m_state == State::Saving)
+    // A fetch waits for its steps to return, at once now; a save's or a
+    // set-up's result is dropped when it comes, and the bar still offers the
+    // set-up, which does again only what is not done yet.
+    if (m_state == State::Saving || m_state == State::SettingUp)
         enter(State::Idle);
 }
 

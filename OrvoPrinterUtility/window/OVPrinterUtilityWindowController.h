@@ -3,6 +3,7 @@
 #include "OVBackgroundTask.h"
 #include "OVFolderSelection.h"
 #include "OVPrinterInfoFetch.h"
+#include "OVSettingsSnapshot.h"
 #include "OVWindowQueue.h"
 #include "OVWindowSave.h"
 
@@ -17,7 +18,6 @@
 
 class OVMessageBar;
 class OVTableViewDataSource;
-struct OVSettingsSnapshot;
 class QLineEdit;
 class QTableView;
 class QWidget;
@@ -38,7 +38,7 @@ class MainUtilityWindiw;
 // The window is in one state at a time, and the state alone decides which
 // controls are on and what the progress indicator says: the settings only
 // when idle (where the controls' own rules narrow them further), Cancel only
-// while a fetch or a save runs, Close until the window closes.
+// while a fetch, a save or a set-up runs, Close until the window closes.
 class OVPrinterUtilityWindowController : public QObject {
     Q_OBJECT
 
@@ -100,7 +100,7 @@ public:
     // Saving.
     void okButtonClicked(QObject *sender);
     void closeButtonClicked(QObject *sender);
-    // Ends the fetch or the save under way; what it found is not shown.
+    // Ends the fetch, save or set-up under way; what it found is not shown.
     void cancelButtonClicked(QObject *sender);
     void saveOptionsToPPD();
     OVSettingsSnapshot settingsSnapshot() const;
@@ -127,7 +127,8 @@ public:
     void formClearButtonClicked(QObject *sender);
     void barcodeAreaDefinitionClearButtonClicked(QObject *sender);
     void colorProfileClearButtonClicked(QObject *sender);
-    void showFailedMessage();
+    // reason: the informative text, why the fetch failed.
+    void showFailedMessage(const QString &reason);
     void customSnmpCommunityClicked(QObject *sender);
     void wakeOnLANCheckClicked(QObject *sender);
 
@@ -145,6 +146,12 @@ private:
     using Action = void (OVPrinterUtilityWindowController::*)(QObject *sender);
 
     void resetLaunchState();
+    bool pressDialogKey(int key);
+    bool hasUnsavedChanges() const;
+    // Asks whether to drop changes not saved; yes when there are none.
+    bool mayDiscardChanges();
+    // Ends what runs and hides the window, for good.
+    void closeWindow();
     void createDataSources();
     void connectActions();
     void enter(State state);
@@ -159,11 +166,18 @@ private:
     void finishLoading(const OVWindowQueue::Loaded &loaded);
     void showProblem(OVWindowQueue::Problem problem);
     void messageBarActionTriggered();
+    void showQueueNote(const OVQueueDevice::Info &device);
+    // The bar's button for the problem on show, if it has one.
+    const char *problemAction() const;
+    // Says the problem, offering the bar's way out.
+    void alertProblem();
     // repair: rebuild a damaged PPD instead.
     void setUpQueue(bool repair);
     void setUpEnded(const OVQueueSetup::Result &result);
     // An alert with the one button OK; detail is its informative text.
     void alert(const QString &text, const QString &detail = QString());
+    // Whether the user goes on with what button does; Cancel and Escape say no.
+    bool ask(const char *question, const char *button, const char *detail);
     void applySettings(const OVSettingsSnapshot &settings);
     void applyFolderSettings(const OVSettingsSnapshot &settings);
     void applyListSettings(const OVSettingsSnapshot &settings);
@@ -176,8 +190,8 @@ private:
     void showFetched(const OVPrinterInfoFetch::Result &result);
     void showFetchedList(const std::optional<QStringList> &list, OVTableViewDataSource *dataSource);
     void applyFolderList(const OVPrinterInfoFetch::Result &result);
-    void failFetch();
-    void failFolderFetch();
+    void failFetch(const QString &reason);
+    void failFolderFetch(const QString &reason);
     std::array<QLineEdit *, macFieldCount> macAddressFields() const;
     QString localized(const char *key) const;
 
@@ -196,12 +210,16 @@ private:
     quint64 m_taskGeneration = 0;
     // What keeps the window from saving, as the bar says it.
     OVWindowQueue::Problem m_problem = OVWindowQueue::Problem::None;
+    // The address the bar offers, from the queue's device URI.
+    QString m_offeredAddress;
     QString m_server;
     OVFolderSelection m_folders;
     QString m_printerId;
     bool m_bError = false;
     bool m_bAdminLoginModeEnabled = false;
     bool m_isPpdOptionsUpdated = false;
+    // The settings as the window showed them once loaded, to tell changes by.
+    std::optional<OVSettingsSnapshot> m_shownSettings;
 };
 
 // A cancelled task's result is dropped: the window is already back in the

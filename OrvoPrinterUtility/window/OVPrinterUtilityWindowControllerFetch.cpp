@@ -1,6 +1,7 @@
 // The controller's part in Get Printer Info: it hands the fields to
 // OVPrinterInfoFetch off the GUI thread and shows what came back.
 #include "OVBackgroundTask.h"
+#include "OVFetchFailureText.h"
 #include "OVPrinterUtilityWindowController.h"
 #include "OVTableViewDataSource.h"
 #include "OVWindowLog.h"
@@ -16,9 +17,8 @@ using Fetch = OVPrinterInfoFetch;
 constexpr std::chrono::hours fetchLimit{1};
 } // namespace
 
-void OVPrinterUtilityWindowController::showFailedMessage() {
-    const QString text = localized(OVWindowTexts::failedToObtain);
-    alert(text, text);
+void OVPrinterUtilityWindowController::showFailedMessage(const QString &reason) {
+    alert(localized(OVWindowTexts::failedToObtain), reason);
 }
 
 // The wake flow checks the community as typed (an empty one means the
@@ -47,9 +47,9 @@ void OVPrinterUtilityWindowController::fetch(std::span<const Step> steps) {
     how.limit = fetchLimit;
     how.events = QEventLoop::AllEvents;
     how.running = &m_task;
+    const Fetch::Printer printer = fetchTarget();
     const Fetch::Result result = OVBackgroundTask::wait(
-        [printer = fetchTarget(), steps] { return OVPrinterInfoFetch::fetch(printer, steps); },
-        how);
+        [printer, steps] { return OVPrinterInfoFetch::fetch(printer, steps); }, how);
     const bool cancelled = m_task->cancelled();
     m_task.reset();
     if (m_state == State::Closing)
@@ -63,10 +63,11 @@ void OVPrinterUtilityWindowController::fetch(std::span<const Step> steps) {
     const Fetch::FailedStep &failed = *result.failedStep;
     qCDebug(orvoWindow) << "fetch failed at" << OVPrinterInfoFetch::stepName(failed.step) << "-"
                         << failed.failure.detail;
+    const QString reason = OVFetchFailureText::reason(printer.address, failed);
     if (failed.step == Step::Folders)
-        failFolderFetch();
+        failFolderFetch(reason);
     else
-        failFetch();
+        failFetch(reason);
 }
 
 void OVPrinterUtilityWindowController::showFetched(const Fetch::Result &result) {
@@ -101,13 +102,13 @@ void OVPrinterUtilityWindowController::applyFolderList(const Fetch::Result &resu
     }
 }
 
-void OVPrinterUtilityWindowController::failFetch() {
-    showFailedMessage();
+void OVPrinterUtilityWindowController::failFetch(const QString &reason) {
+    showFailedMessage(reason);
     m_bError = true;
 }
 
-void OVPrinterUtilityWindowController::failFolderFetch() {
-    failFetch();
+void OVPrinterUtilityWindowController::failFolderFetch(const QString &reason) {
+    failFetch(reason);
     loadDefaultFolderValues();
     loadDefaultSelectedFolderValues();
 }

@@ -5,6 +5,7 @@
 #include "OVSettingsSnapshot.h"
 #include "OVStoredSettings.h"
 #include "OVTableViewDataSource.h"
+#include "OVWindowTexts.h"
 #include "ui_MainUtilityWindiw.h"
 
 void OVPrinterUtilityWindowController::loadDefaultFolderValues() {
@@ -74,6 +75,10 @@ void OVPrinterUtilityWindowController::folderDeleteButtonClicked(QObject *) {
 }
 
 void OVPrinterUtilityWindowController::folderClearButtonClicked(QObject *) {
+    using namespace OVWindowTexts;
+    if (!m_folders.selectedSharedBoxNames().isEmpty() &&
+        !ask(clearFoldersQuestion, clear, clearFoldersDetail))
+        return;
     loadDefaultFolderValues();
     loadDefaultSelectedFolderValues();
     m_selectedFolderTableViewDataSource->unselectAllRow();

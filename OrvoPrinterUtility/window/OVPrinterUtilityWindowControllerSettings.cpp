@@ -18,12 +18,14 @@ void OVPrinterUtilityWindowController::finishLoading(const OVWindowQueue::Loaded
     if (loaded.settings)
         applySettings(*loaded.settings);
     showProblem(loaded.problem);
+    showQueueNote(loaded.device);
     initAddDeleteState();
     m_registerFolderTableViewDataSource->selectFirstRow();
     loadFormValues();
     loadBarcodeAreaDefinitionValues();
     loadColorProfileValues();
     setTabOrder();
+    m_shownSettings = settingsSnapshot();
     emit settingsLoaded();
 }
 
@@ -97,9 +99,10 @@ void OVPrinterUtilityWindowController::okButtonClicked(QObject *) {
         return;
     // Settings that did not come from the queue would replace the stored
     // ones with defaults, and a queue that is not set up would print them:
-    // OK says what stands in the way, as the bar does.
+    // OK says what stands in the way, as the bar does, and offers the bar's
+    // way out.
     if (m_problem != OVWindowQueue::Problem::None) {
-        alert(OVWindowQueue::problemText(m_problem, m_printerId, m_server));
+        alertProblem();
         return;
     }
     updateStringArrays();
@@ -112,7 +115,7 @@ void OVPrinterUtilityWindowController::okButtonClicked(QObject *) {
 void OVPrinterUtilityWindowController::saved(const OVWindowSave::Outcome &outcome) {
     enter(State::Idle);
     if (outcome.stored()) {
-        closeButtonClicked(m_ui->closeButton);
+        closeWindow();
         return;
     }
     // A setting that breaks its rule is named, and so are the lists to
@@ -134,11 +137,20 @@ void OVPrinterUtilityWindowController::saved(const OVWindowSave::Outcome &outcom
     alert(OVWindowSave::failureText(outcome, m_printerId, m_server));
 }
 
+void OVPrinterUtilityWindowController::closeButtonClicked(QObject *) {
+    if (m_state != State::Closing && mayDiscardChanges())
+        closeWindow();
+}
+
+bool OVPrinterUtilityWindowController::mayDiscardChanges() {
+    if (!hasUnsavedChanges())
+        return true;
+    return ask(discardQuestion, discardButton, discardDetail);
+}
+
 // A task under way would keep the closing window for up to its limit, a
 // wake flow for minutes: it ends now, and what it finds is not shown.
-void OVPrinterUtilityWindowController::closeButtonClicked(QObject *) {
-    if (m_state == State::Closing)
-        return;
+void OVPrinterUtilityWindowController::closeWindow() {
     if (m_task)
         m_task->cancel();
     enter(State::Closing);

@@ -4,20 +4,26 @@
 #include "OVChooserTexts.h"
 #include "OVCupsConnection.h"
 #include "OVLineControls.h"
+#include "OVMnemonics.h"
 
 #include <QDialogButtonBox>
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QInputDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QSettings>
 #include <QSortFilterProxyModel>
 #include <QStandardItemModel>
 #include <QTableView>
 #include <QTimer>
+#include <QUrl>
 #include <QVBoxLayout>
+#include <cups/cups.h>
 
 #include <algorithm>
+#include <functional>
 
 namespace T = OVChooserTexts;
 
@@ -29,6 +35,12 @@ constexpr int searchRole = Qt::UserRole + 1;
 // The queue's name as the server has it; the cells show names with the
 // characters that reorder a line by their code.
 constexpr int nameRole = Qt::UserRole + 2;
+constexpr int setUpRole = Qt::UserRole + 3;
+// The server chosen last, in the user's settings of the utility.
+constexpr char serverKey[] = "printServer";
+QSettings userSettings() {
+    return QSettings(QStringLiteral("Orvo"), QStringLiteral("orvo-printer-utility"));
+}
 
 QList<QStandardItem *> queueRow(const OVQueueSetup::Queue &queue) {
     QList<QStandardItem *> row;
@@ -43,6 +55,7 @@ QList<QStandardItem *> queueRow(const OVQueueSetup::Queue &queue) {
     row[NameColumn]->setData(
         QStringList{queue.name, queue.description, queue.makeAndModel}.join('\n'), searchRole);
     row[NameColumn]->setData(queue.name, nameRole);
+    row[NameColumn]->setData(queue.setUp, setUpRole);
     return row;
 }
 
@@ -105,6 +118,10 @@ void OVQueueChooser::buildControls() {
     layout->addLayout(statusRow);
 
     auto *buttons = new QDialogButtonBox(this);
+    QPushButton *server =
+        buttons->addButton(T::localized(T::otherServer), QDialogButtonBox::ActionRole);
+    server->setAutoDefault(false);
+    connect(server, &QPushButton::clicked, this, &OVQueueChooser::askForServer);
     m_open = buttons->addButton(T::localized(T::open), QDialogButtonBox::AcceptRole);
     buttons->addButton(T::localized(T::cancel), QDialogButtonBox::RejectRole);
     m_open->setDefault(true);
@@ -113,6 +130,7 @@ void OVQueueChooser::buildControls() {
     connect(m_filter, &QLineEdit::textChanged, this, [this](const QString &filter) {
         m_visible->setFilterFixedString(filter);
         selectFirstVisibleRow();
+        showFilterResult();
     });
     connect(m_table, &QAbstractItemView::doubleClicked, this, &QDialog::accept);
     connect(m_table->selectionModel(), &QItemSelectionModel::selectionChanged, this,
@@ -121,9 +139,12 @@ void OVQueueChooser::buildControls() {
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     resize(760, 420);
+    OVMnemonics::assign(this);
 }
 
 void OVQueueChooser::start() {
+    if (const QString server = rememberedServer(); !server.isEmpty())
+        useServer(server);
     load();
     QTimer::singleShot(showDelayMs, this, [this] {
         if (!m_answered)
@@ -140,13 +161,57 @@ void OVQueueChooser::load() {
     OVBackgroundTask::run(
         this,
         [] {
-            return Listing{OVQueueSetup::queues(), OVCupsConnection::serverName()};
+            return Listing{OVQueueSetup::queues(), OVCupsConnection::serverName(), defaultQueue()};
         },
         [this](const Listing &listing) { showListing(listing); });
 }
 
+QString OVQueueChooser::rememberedServer() {
+    return userSettings().value(serverKey).toString();
+}
+
+void OVQueueChooser::askForServer() {
+    bool given = false;
+    const QString server =
+        QInputDialog::getText(this, T::localized(T::otherServerTitle), T::localized(T::serverLabel),
+                              QLineEdit::Normal, rememberedServer(), &given);
+    if (given && !connectToServer(server))
+        setStatus(T::localized(T::serverInvalid).arg(server), false);
+}
+
+// A host name or address, with a port or without, and nothing else.
+bool OVQueueChooser::connectToServer(const QString &server) {
+    const QUrl url(QStringLiteral("ipp://") + server.trimmed());
+    if (server.trimmed().isEmpty() || !url.isValid() || url.host().isEmpty() ||
+        !url.path().isEmpty() || !url.userInfo().isEmpty() || url.hasQuery() || url.hasFragment())
+        return false;
+    userSettings().setValue(serverKey, server.trimmed());
+    useServer(server.trimmed());
+    load();
+    return true;
+}
+
+// Every call to the print server runs on the background worker, whose
+// client settings name the server.
+void OVQueueChooser::useServer(const QString &server) {
+    OVBackgroundTask::wait([name = server.toUtf8()] { cupsSetServer(name.constData()); });
+}
+
+QString OVQueueChooser::defaultQueue() {
+    const OVCupsConnection connection;
+    if (!connection)
+        return {};
+    ipp_t *response = cupsDoRequest(connection.http(), ippNewRequest(IPP_OP_CUPS_GET_DEFAULT), "/");
+    const char *name =
+        ippGetString(ippFindAttribute(response, "printer-name", IPP_TAG_NAME), 0, nullptr);
+    const QString queue = name ? QString::fromUtf8(name) : QString();
+    ippDelete(response);
+    return queue;
+}
+
 void OVQueueChooser::showListing(const Listing &listing) {
     m_answered = true;
+    m_defaultQueue = listing.defaultQueue;
     const QList<OVQueueSetup::Queue> queues = listing.queues.value_or(QList<OVQueueSetup::Queue>());
     fillTable(queues);
     if (!listing.queues)
@@ -177,7 +242,32 @@ void OVQueueChooser::fillTable(const QList<OVQueueSetup::Queue> &queues) {
     m_filter->setEnabled(!queues.isEmpty());
     m_table->setEnabled(!queues.isEmpty());
     m_table->resizeColumnsToContents();
+    selectPreferredRow();
+}
+
+void OVQueueChooser::selectPreferredRow() {
+    const auto rowWhere = [this](const std::function<bool(int)> &wanted) {
+        for (int row = 0; row < m_visible->rowCount(); ++row)
+            if (wanted(row))
+                return row;
+        return -1;
+    };
+    int row = rowWhere([this](int row) {
+        return m_visible->index(row, NameColumn).data(nameRole).toString() == m_defaultQueue;
+    });
+    if (row < 0)
+        row = rowWhere(
+            [this](int row) { return m_visible->index(row, NameColumn).data(setUpRole).toBool(); });
+    m_table->clearSelection();
+    if (row >= 0)
+        m_table->selectRow(row);
     selectFirstVisibleRow();
+}
+
+// A filter that matches nothing says so where the list was.
+void OVQueueChooser::showFilterResult() {
+    const bool none = m_model->rowCount() > 0 && m_visible->rowCount() == 0;
+    setStatus(none ? T::localized(T::noMatch) : QString(), false);
 }
 
 void OVQueueChooser::setStatus(const QString &status, bool offerRetry) {

@@ -43,6 +43,12 @@ public:
     QLineEdit *filterField() const { return m_filter; }
     QPushButton *openButton() const { return m_open; }
     QPushButton *retryButton() const { return m_retry; }
+    // Lists the queues of another print server, "host" or "host:port", and
+    // remembers it for the user's next start; false (and nothing changed)
+    // for text that names no server.
+    bool connectToServer(const QString &server);
+    // The server the user chose last; empty for the client's default.
+    static QString rememberedServer();
 
 signals:
     // The server's answer, or its failure, is on show (or a queue was chosen).
@@ -52,7 +58,11 @@ private:
     struct Listing {
         std::optional<QList<OVQueueSetup::Queue>> queues;
         QString server;
+        QString defaultQueue; // empty when the server has none
     };
+
+    // The server's default queue, asked in the background.
+    static QString defaultQueue();
 
     void buildControls();
     void load();
@@ -60,7 +70,12 @@ private:
     void fillTable(const QList<OVQueueSetup::Queue> &queues);
     void setStatus(const QString &text, bool offerRetry);
     void selectFirstVisibleRow();
+    // The default queue, else the first set-up one, else the first.
+    void selectPreferredRow();
+    void showFilterResult();
     void updateOpenButton();
+    void askForServer();
+    static void useServer(const QString &server);
 
     QStandardItemModel *m_model;
     QSortFilterProxyModel *m_visible;
@@ -70,4 +85,5 @@ private:
     QTableView *m_table = nullptr;
     QPushButton *m_open = nullptr;
     bool m_answered = false;
+    QString m_defaultQueue;
 };

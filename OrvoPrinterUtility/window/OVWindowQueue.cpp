@@ -47,6 +47,8 @@ OVWindowQueue::Loaded OVWindowQueue::load(const QString &queue) {
     // then the defaults would pass for the settings it lost.
     if (status == Status::Loaded && loaded.problem != Problem::Damaged)
         loaded.settings = settings;
+    if (loaded.problem == Problem::None)
+        loaded.device = OVQueueDevice::ask(queue);
     qCDebug(orvoWindow) << "queue" << queue << "loaded:" << int(status)
                         << "state:" << int(access.state);
     return loaded;

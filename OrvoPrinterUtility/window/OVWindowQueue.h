@@ -1,5 +1,6 @@
 #pragma once
 
+#include "OVQueueDevice.h"
 #include "OVQueueSetup.h"
 #include "OVSettingsSnapshot.h"
 
@@ -28,6 +29,7 @@ public:
         std::optional<OVSettingsSnapshot> settings; // nullopt: the defaults stay
         Problem problem = Problem::None;
         QString server; // as the user knows it
+        OVQueueDevice::Info device;
     };
 
     static Loaded load(const QString &queue);

@@ -10,6 +10,8 @@
 #include "ui_MainUtilityWindiw.h"
 
 #include <QGuiApplication>
+#include <QScreen>
+#include <QScrollArea>
 #include <QStyleHints>
 
 namespace {
@@ -22,6 +24,26 @@ constexpr int ipAddressMaxLength = 39;
 
 QString localized(const char *key) {
     return OVPrinterUtilityHelper::getLocalizedStringFor(QString::fromUtf8(key));
+}
+
+// The characters the community may hold besides letters and digits, as the
+// field's message lists them; the invisible U+200B would only puzzle there.
+QString communitySymbols() {
+    QStringList symbols;
+    for (const QChar c : QString::fromUtf8(OrvoSettingsRules::communityCharacters))
+        if (!c.isLetterOrNumber() && c != QChar(0x200B))
+            symbols << QString(c);
+    return symbols.join(u' ');
+}
+
+void setUpToolTips(Ui::MainUtilityWindiw &c) {
+    c.printerGetPrinterInfoButton->setToolTip(localized(getPrinterInfoTip));
+    for (QPushButton *button :
+         {c.folderGetPrinterInfoButton, c.formGetPrinterInfoButton,
+          c.barcodeAreaDefinitionGetPrinterInfoButton, c.colorProfileGetPrinterInfoButton})
+        button->setToolTip(localized(getListTip));
+    c.overstepTheRouter->setToolTip(localized(overTheRouterTip));
+    c.folderPersonalFolderCheck->setToolTip(localized(personalFolderTip));
 }
 
 // A label's text as the name assistive technology reads for its field.
@@ -80,15 +102,52 @@ QList<QWidget *> tabPageChain(Ui::MainUtilityWindiw &c) {
 }
 } // namespace
 
-void OVWindowSetUp::setUpWindowTitle(QWidget *window,
-                                     const std::optional<QVariantMap> &dictionary) {
+// Several windows may be open at once, one per queue: the queue in the title
+// tells them apart.
+void OVWindowSetUp::setUpWindowTitle(QWidget *window, const std::optional<QVariantMap> &dictionary,
+                                     const QString &queue) {
+    QString title = window->windowTitle();
     if (!dictionary) {
-        window->setWindowTitle(localized(defaultTitle));
-        return;
+        title = localized(defaultTitle);
+    } else if (const auto modelName = dictionary->constFind(modelNameKey);
+               modelName != dictionary->constEnd()) {
+        title = modelName->toString() + localized(utilitySuffix);
     }
-    const auto modelName = dictionary->constFind(modelNameKey);
-    if (modelName != dictionary->constEnd())
-        window->setWindowTitle(modelName->toString() + localized(utilitySuffix));
+    if (!queue.isEmpty())
+        title += QStringLiteral(" — ") + queue;
+    window->setWindowTitle(title);
+}
+
+void OVWindowSetUp::makeScrollable(Ui::MainUtilityWindiw &c) {
+    auto *content = new QWidget;
+    auto *contentLayout = new QVBoxLayout(content);
+    contentLayout->setContentsMargins(0, 0, 0, 0);
+    while (c.mainLayout->count() > 1 && c.mainLayout->itemAt(0)->layout() != c.bottomLayout) {
+        QLayoutItem *item = c.mainLayout->takeAt(0);
+        if (QLayout *layout = item->layout()) {
+            layout->setParent(nullptr);
+            contentLayout->addLayout(layout);
+            continue;
+        }
+        contentLayout->addWidget(item->widget());
+        delete item;
+    }
+    auto *scroll = new QScrollArea;
+    scroll->setObjectName("settingsScrollArea");
+    scroll->setWidgetResizable(true);
+    scroll->setFrameShape(QFrame::NoFrame);
+    // Tab reaches the controls inside; the area itself is no stop.
+    scroll->setFocusPolicy(Qt::NoFocus);
+    scroll->setWidget(content);
+    c.mainLayout->insertWidget(0, scroll, 1);
+}
+
+void OVWindowSetUp::fitIntoScreen(QWidget *window) {
+    const QScreen *screen = window->screen();
+    if (!screen)
+        return;
+    const QSize frame = window->frameGeometry().size() - window->geometry().size();
+    window->resize(window->size().boundedTo(screen->availableGeometry().size() - frame));
 }
 
 void OVWindowSetUp::setUpTexts(Ui::MainUtilityWindiw &c) {
@@ -117,8 +176,11 @@ void OVWindowSetUp::setUpTexts(Ui::MainUtilityWindiw &c) {
           c.barcodeAreaDefinitionGetPrinterInfoButton, c.colorProfileGetPrinterInfoButton})
         button->setText(localized(getPrinterInfo));
     for (QPushButton *button : {c.folderClearButton, c.formClearButton,
-                                c.barcodeAreaDefinitionClearButton, c.colorProfileClearButton})
+                                c.barcodeAreaDefinitionClearButton, c.colorProfileClearButton}) {
         button->setText(localized(clear));
+        button->setToolTip(localized(clearTip));
+    }
+    setUpToolTips(c);
     setUpAccessibleNames(c);
 }
 
@@ -131,7 +193,8 @@ void OVWindowSetUp::setUpSettingsFields(Ui::MainUtilityWindiw &c) {
     c.snmpCommunityText->setInvalidCharacters(communityInvalidCharacters);
     c.snmpCommunityText->setMaxLength(int(OrvoSettingsRules::communityLimit));
     c.snmpCommunityText->showMessageIfInvalid(true);
-    c.snmpCommunityText->setInvalidMessageString(localized(prohibitCharacter), QString(""));
+    c.snmpCommunityText->setInvalidMessageString(
+        localized(communityAllowed).arg(communitySymbols()), localized(communityCharacter));
     c.snmpCommunityText->setText(OrvoSettingsKeywords::defaultCommunity);
     c.snmpCommunityText->setEnabled(false);
     c.wakeOnLANCheck->setChecked(true);

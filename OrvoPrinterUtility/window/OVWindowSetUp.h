@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QList>
+#include <QString>
 #include <QVariantMap>
 
 #include <optional>
@@ -15,8 +16,14 @@ class MainUtilityWindiw;
 class OVWindowSetUp {
 public:
     // The model name of the information dictionary titles the window; none
-    // (an installed build) gives the default title.
-    static void setUpWindowTitle(QWidget *window, const std::optional<QVariantMap> &dictionary);
+    // (an installed build) gives the default title. The queue follows it.
+    static void setUpWindowTitle(QWidget *window, const std::optional<QVariantMap> &dictionary,
+                                 const QString &queue);
+    // Everything above the window's buttons scrolls, so that the window fits
+    // a small or scaled screen with OK and Close in view.
+    static void makeScrollable(Ui::MainUtilityWindiw &c);
+    // No larger than the screen's available area.
+    static void fitIntoScreen(QWidget *window);
     static void setUpTexts(Ui::MainUtilityWindiw &c);
     static void setUpSettingsFields(Ui::MainUtilityWindiw &c);
     static void setUpFolderTab(Ui::MainUtilityWindiw &c);

@@ -10,7 +10,9 @@ inline constexpr char ok[] = "OK";
 inline constexpr char closeButton[] = "Close";
 inline constexpr char introText[] = "IntroText";
 inline constexpr char SnmpCommunityName[] = "SNMP Community Name";
-inline constexpr char prohibitCharacter[] = "IDS_SNMP_PROHIBIT_CHARACTER_ERROR";
+// %1: the characters besides letters and digits
+inline constexpr char communityAllowed[] =
+    "It may hold the letters A-Z and a-z, the digits 0-9 and these characters: %1";
 inline constexpr char wakeOnLan[] = "Wake On LAN";
 inline constexpr char macAddressLabel[] = "MAC Address of the Printer:";
 // What assistive technology calls each of the six MAC fields; %1: 1 to 6.
@@ -105,6 +107,46 @@ inline constexpr char saveReplaced[] =
 inline constexpr char saveDamaged[] =
     "The PPD of the print queue \"%1\" was damaged while the settings were stored. Choose "
     "\"Repair…\" to rebuild it, then save.";
+// Why Get Printer Info failed. %1: the address, %2: what was asked
+inline constexpr char fetchNoAddress[] =
+    "The IP address of the printer is empty. Enter it, then try again.";
+inline constexpr char fetchNoAnswer[] =
+    "The printer at %1 did not answer when asked for %2. The IP "
+    "address or the SNMP community name may be wrong.";
+inline constexpr char fetchRefused[] =
+    "The printer at %1 answered with an error when asked for %2. It may not keep this information.";
+inline constexpr char fetchUnreadable[] =
+    "The printer at %1 sent an answer that cannot be read when asked for %2.";
+inline constexpr char stepMacAddress[] = "its MAC address";
+inline constexpr char stepFolders[] = "its shared folders";
+inline constexpr char stepForms[] = "its forms";
+inline constexpr char stepBarcodeAreas[] = "its barcode area definitions";
+inline constexpr char stepColorProfiles[] = "its color profiles";
+// Tooltips
+inline constexpr char getPrinterInfoTip[] =
+    "Ask the printer at this IP address for its MAC address, shared folders, forms, barcode area "
+    "definitions and color profiles.";
+inline constexpr char getListTip[] = "Ask the printer for this list.";
+inline constexpr char clearTip[] =
+    "Empty this list. The queue keeps its stored list until you choose OK.";
+inline constexpr char personalFolderTip[] =
+    "Also offer each user's personal folder. The printer allows it when its administrator login "
+    "mode is on.";
+inline constexpr char overTheRouterTip[] =
+    "Wake the printer also when it is in another network, behind a router.";
+inline constexpr char clearFoldersQuestion[] = "Drop the registered folders?";
+inline constexpr char clearFoldersDetail[] =
+    "The default folders take their place. The queue keeps its stored folders until you choose "
+    "OK.";
+inline constexpr char queueStopped[] = // %1: the queue
+    "The print queue \"%1\" is stopped: settings saved now are stored only once it runs again.";
+// %1: the queue, %2: the host it prints to
+inline constexpr char addressOffered[] =
+    "No printer address is stored for the queue \"%1\". It prints to %2.";
+inline constexpr char useButton[] = "Use";
+inline constexpr char discardQuestion[] = "Discard the changes to the settings?";
+inline constexpr char discardDetail[] = "They were not saved to the print queue.";
+inline constexpr char discardButton[] = "Discard";
 inline constexpr char saveNotReadBack[] =
     "The settings were sent, but the queue's PPD could not be read back to check them. Open the "
     "window again to see what is stored.";
@@ -118,7 +160,7 @@ inline constexpr const char *localizedKeys[] = {
     closeButton,
     introText,
     SnmpCommunityName,
-    prohibitCharacter,
+    communityAllowed,
     wakeOnLan,
     macAddressLabel,
     macAddressByte,
@@ -170,5 +212,27 @@ inline constexpr const char *localizedKeys[] = {
     saveReplaced,
     saveDamaged,
     saveNotReadBack,
+    fetchNoAddress,
+    fetchNoAnswer,
+    fetchRefused,
+    fetchUnreadable,
+    stepMacAddress,
+    stepFolders,
+    stepForms,
+    stepBarcodeAreas,
+    stepColorProfiles,
+    getPrinterInfoTip,
+    getListTip,
+    clearTip,
+    personalFolderTip,
+    overTheRouterTip,
+    clearFoldersQuestion,
+    clearFoldersDetail,
+    queueStopped,
+    addressOffered,
+    useButton,
+    discardQuestion,
+    discardDetail,
+    discardButton,
 };
 } // namespace OVWindowTexts

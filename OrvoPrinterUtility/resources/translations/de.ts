@@ -28,10 +28,6 @@
         <translation>SNMP-Community-Name</translation>
     </message>
     <message>
-        <source>IDS_SNMP_PROHIBIT_CHARACTER_ERROR</source>
-        <translation>Dieses Zeichen ist im SNMP-Community-Namen nicht zulässig.</translation>
-    </message>
-    <message>
         <source>Wake On LAN</source>
         <translation>Wake on LAN</translation>
     </message>
@@ -730,6 +726,118 @@
     <message>
         <source>Update job %1 ended, then a later save to this print queue (update job %2) replaced its settings. Open the window again to see what is stored.</source>
         <translation>Der Aktualisierungsauftrag %1 wurde beendet, dann hat ein späteres Speichern in dieser Druckwarteschlange (Aktualisierungsauftrag %2) seine Einstellungen ersetzt. Öffnen Sie das Fenster erneut, um zu sehen, was gespeichert ist.</translation>
+    </message>
+    <message>
+        <source>Discard the changes to the settings?</source>
+        <translation>Die Änderungen an den Einstellungen verwerfen?</translation>
+    </message>
+    <message>
+        <source>They were not saved to the print queue.</source>
+        <translation>Sie wurden nicht in der Druckwarteschlange gespeichert.</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Verwerfen</translation>
+    </message>
+    <message>
+        <source>It may hold the letters A-Z and a-z, the digits 0-9 and these characters: %1</source>
+        <translation>Er darf die Buchstaben A-Z und a-z, die Ziffern 0-9 und diese Zeichen enthalten: %1</translation>
+    </message>
+    <message>
+        <source>The IP address of the printer is empty. Enter it, then try again.</source>
+        <translation>Die IP-Adresse des Druckers ist leer. Geben Sie sie ein und versuchen Sie es erneut.</translation>
+    </message>
+    <message>
+        <source>The printer at %1 did not answer when asked for %2. The IP address or the SNMP community name may be wrong.</source>
+        <translation>Der Drucker unter %1 hat auf die Frage nach %2 nicht geantwortet. Die IP-Adresse oder der SNMP-Community-Name ist möglicherweise falsch.</translation>
+    </message>
+    <message>
+        <source>The printer at %1 answered with an error when asked for %2. It may not keep this information.</source>
+        <translation>Der Drucker unter %1 hat auf die Frage nach %2 mit einem Fehler geantwortet. Möglicherweise führt er diese Informationen nicht.</translation>
+    </message>
+    <message>
+        <source>The printer at %1 sent an answer that cannot be read when asked for %2.</source>
+        <translation>Der Drucker unter %1 hat auf die Frage nach %2 eine Antwort gesendet, die nicht gelesen werden kann.</translation>
+    </message>
+    <message>
+        <source>its MAC address</source>
+        <translation>seiner MAC-Adresse</translation>
+    </message>
+    <message>
+        <source>its shared folders</source>
+        <translation>seinen freigegebenen Ordnern</translation>
+    </message>
+    <message>
+        <source>its forms</source>
+        <translation>seinen Formularen</translation>
+    </message>
+    <message>
+        <source>its barcode area definitions</source>
+        <translation>seinen Barcodebereichsdefinitionen</translation>
+    </message>
+    <message>
+        <source>its color profiles</source>
+        <translation>seinen Farbprofilen</translation>
+    </message>
+    <message>
+        <source>Ask the printer at this IP address for its MAC address, shared folders, forms, barcode area definitions and color profiles.</source>
+        <translation>Den Drucker unter dieser IP-Adresse nach MAC-Adresse, freigegebenen Ordnern, Formularen, Barcodebereichsdefinitionen und Farbprofilen fragen.</translation>
+    </message>
+    <message>
+        <source>Ask the printer for this list.</source>
+        <translation>Den Drucker nach dieser Liste fragen.</translation>
+    </message>
+    <message>
+        <source>Empty this list. The queue keeps its stored list until you choose OK.</source>
+        <translation>Diese Liste leeren. Die Warteschlange behält ihre gespeicherte Liste, bis Sie OK wählen.</translation>
+    </message>
+    <message>
+        <source>Also offer each user's personal folder. The printer allows it when its administrator login mode is on.</source>
+        <translation>Auch den persönlichen Ordner jedes Benutzers anbieten. Der Drucker erlaubt dies, wenn sein Administrator-Anmeldemodus eingeschaltet ist.</translation>
+    </message>
+    <message>
+        <source>Wake the printer also when it is in another network, behind a router.</source>
+        <translation>Den Drucker auch wecken, wenn er sich in einem anderen Netzwerk hinter einem Router befindet.</translation>
+    </message>
+    <message>
+        <source>Drop the registered folders?</source>
+        <translation>Die registrierten Ordner entfernen?</translation>
+    </message>
+    <message>
+        <source>The default folders take their place. The queue keeps its stored folders until you choose OK.</source>
+        <translation>An ihre Stelle treten die Standardordner. Die Warteschlange behält ihre gespeicherten Ordner, bis Sie OK wählen.</translation>
+    </message>
+    <message>
+        <source>No queue matches the filter.</source>
+        <translation>Keine Warteschlange passt zum Filter.</translation>
+    </message>
+    <message>
+        <source>The print queue "%1" is stopped: settings saved now are stored only once it runs again.</source>
+        <translation>Die Druckwarteschlange „%1“ ist angehalten: Jetzt gesicherte Einstellungen werden erst gespeichert, wenn sie wieder läuft.</translation>
+    </message>
+    <message>
+        <source>No printer address is stored for the queue "%1". It prints to %2.</source>
+        <translation>Für die Warteschlange „%1“ ist keine Druckeradresse gespeichert. Sie druckt an %2.</translation>
+    </message>
+    <message>
+        <source>Use</source>
+        <translation>Übernehmen</translation>
+    </message>
+    <message>
+        <source>Other Server…</source>
+        <translation>Anderer Server…</translation>
+    </message>
+    <message>
+        <source>Connect to a Print Server</source>
+        <translation>Mit einem Druckserver verbinden</translation>
+    </message>
+    <message>
+        <source>Print server (host or host:port):</source>
+        <translation>Druckserver (Host oder Host:Port):</translation>
+    </message>
+    <message>
+        <source>"%1" names no print server. Enter a host name or address, with a port if it is not 631.</source>
+        <translation>„%1“ bezeichnet keinen Druckserver. Geben Sie einen Hostnamen oder eine Adresse ein, mit Port, wenn er nicht 631 ist.</translation>
     </message>
 </context>
 </TS>

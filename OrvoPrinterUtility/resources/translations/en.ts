@@ -28,10 +28,6 @@
         <translation>SNMP Community Name</translation>
     </message>
     <message>
-        <source>IDS_SNMP_PROHIBIT_CHARACTER_ERROR</source>
-        <translation>The SNMP community name cannot contain this character.</translation>
-    </message>
-    <message>
         <source>Wake On LAN</source>
         <translation>Wake On LAN</translation>
     </message>
@@ -730,6 +726,118 @@
     <message>
         <source>Update job %1 ended, then a later save to this print queue (update job %2) replaced its settings. Open the window again to see what is stored.</source>
         <translation>Update job %1 ended, then a later save to this print queue (update job %2) replaced its settings. Open the window again to see what is stored.</translation>
+    </message>
+    <message>
+        <source>Discard the changes to the settings?</source>
+        <translation>Discard the changes to the settings?</translation>
+    </message>
+    <message>
+        <source>They were not saved to the print queue.</source>
+        <translation>They were not saved to the print queue.</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Discard</translation>
+    </message>
+    <message>
+        <source>It may hold the letters A-Z and a-z, the digits 0-9 and these characters: %1</source>
+        <translation>It may hold the letters A-Z and a-z, the digits 0-9 and these characters: %1</translation>
+    </message>
+    <message>
+        <source>The IP address of the printer is empty. Enter it, then try again.</source>
+        <translation>The IP address of the printer is empty. Enter it, then try again.</translation>
+    </message>
+    <message>
+        <source>The printer at %1 did not answer when asked for %2. The IP address or the SNMP community name may be wrong.</source>
+        <translation>The printer at %1 did not answer when asked for %2. The IP address or the SNMP community name may be wrong.</translation>
+    </message>
+    <message>
+        <source>The printer at %1 answered with an error when asked for %2. It may not keep this information.</source>
+        <translation>The printer at %1 answered with an error when asked for %2. It may not keep this information.</translation>
+    </message>
+    <message>
+        <source>The printer at %1 sent an answer that cannot be read when asked for %2.</source>
+        <translation>The printer at %1 sent an answer that cannot be read when asked for %2.</translation>
+    </message>
+    <message>
+        <source>its MAC address</source>
+        <translation>its MAC address</translation>
+    </message>
+    <message>
+        <source>its shared folders</source>
+        <translation>its shared folders</translation>
+    </message>
+    <message>
+        <source>its forms</source>
+        <translation>its forms</translation>
+    </message>
+    <message>
+        <source>its barcode area definitions</source>
+        <translation>its barcode area definitions</translation>
+    </message>
+    <message>
+        <source>its color profiles</source>
+        <translation>its color profiles</translation>
+    </message>
+    <message>
+        <source>Ask the printer at this IP address for its MAC address, shared folders, forms, barcode area definitions and color profiles.</source>
+        <translation>Ask the printer at this IP address for its MAC address, shared folders, forms, barcode area definitions and color profiles.</translation>
+    </message>
+    <message>
+        <source>Ask the printer for this list.</source>
+        <translation>Ask the printer for this list.</translation>
+    </message>
+    <message>
+        <source>Empty this list. The queue keeps its stored list until you choose OK.</source>
+        <translation>Empty this list. The queue keeps its stored list until you choose OK.</translation>
+    </message>
+    <message>
+        <source>Also offer each user's personal folder. The printer allows it when its administrator login mode is on.</source>
+        <translation>Also offer each user's personal folder. The printer allows it when its administrator login mode is on.</translation>
+    </message>
+    <message>
+        <source>Wake the printer also when it is in another network, behind a router.</source>
+        <translation>Wake the printer also when it is in another network, behind a router.</translation>
+    </message>
+    <message>
+        <source>Drop the registered folders?</source>
+        <translation>Drop the registered folders?</translation>
+    </message>
+    <message>
+        <source>The default folders take their place. The queue keeps its stored folders until you choose OK.</source>
+        <translation>The default folders take their place. The queue keeps its stored folders until you choose OK.</translation>
+    </message>
+    <message>
+        <source>No queue matches the filter.</source>
+        <translation>No queue matches the filter.</translation>
+    </message>
+    <message>
+        <source>The print queue "%1" is stopped: settings saved now are stored only once it runs again.</source>
+        <translation>The print queue "%1" is stopped: settings saved now are stored only once it runs again.</translation>
+    </message>
+    <message>
+        <source>No printer address is stored for the queue "%1". It prints to %2.</source>
+        <translation>No printer address is stored for the queue "%1". It prints to %2.</translation>
+    </message>
+    <message>
+        <source>Use</source>
+        <translation>Use</translation>
+    </message>
+    <message>
+        <source>Other Server…</source>
+        <translation>Other Server…</translation>
+    </message>
+    <message>
+        <source>Connect to a Print Server</source>
+        <translation>Connect to a Print Server</translation>
+    </message>
+    <message>
+        <source>Print server (host or host:port):</source>
+        <translation>Print server (host or host:port):</translation>
+    </message>
+    <message>
+        <source>"%1" names no print server. Enter a host name or address, with a port if it is not 631.</source>
+        <translation>"%1" names no print server. Enter a host name or address, with a port if it is not 631.</translation>
     </message>
 </context>
 </TS>

@@ -28,10 +28,6 @@
         <translation>Nom de communauté SNMP</translation>
     </message>
     <message>
-        <source>IDS_SNMP_PROHIBIT_CHARACTER_ERROR</source>
-        <translation>Ce caractère n'est pas autorisé dans le nom de communauté SNMP.</translation>
-    </message>
-    <message>
         <source>Wake On LAN</source>
         <translation>Wake on LAN</translation>
     </message>
@@ -730,6 +726,118 @@
     <message>
         <source>Update job %1 ended, then a later save to this print queue (update job %2) replaced its settings. Open the window again to see what is stored.</source>
         <translation>La tâche de mise à jour %1 s’est terminée, puis un enregistrement ultérieur dans cette file d’attente (tâche de mise à jour %2) a remplacé ses réglages. Rouvrez la fenêtre pour voir ce qui est enregistré.</translation>
+    </message>
+    <message>
+        <source>Discard the changes to the settings?</source>
+        <translation>Abandonner les modifications des réglages ?</translation>
+    </message>
+    <message>
+        <source>They were not saved to the print queue.</source>
+        <translation>Elles n’ont pas été enregistrées dans la file d’impression.</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Abandonner</translation>
+    </message>
+    <message>
+        <source>It may hold the letters A-Z and a-z, the digits 0-9 and these characters: %1</source>
+        <translation>Il peut contenir les lettres A-Z et a-z, les chiffres 0-9 et ces caractères : %1</translation>
+    </message>
+    <message>
+        <source>The IP address of the printer is empty. Enter it, then try again.</source>
+        <translation>L’adresse IP de l’imprimante est vide. Saisissez-la, puis réessayez.</translation>
+    </message>
+    <message>
+        <source>The printer at %1 did not answer when asked for %2. The IP address or the SNMP community name may be wrong.</source>
+        <translation>L’imprimante à l’adresse %1 n’a pas répondu à la demande de %2. L’adresse IP ou le nom de communauté SNMP est peut-être erroné.</translation>
+    </message>
+    <message>
+        <source>The printer at %1 answered with an error when asked for %2. It may not keep this information.</source>
+        <translation>L’imprimante à l’adresse %1 a répondu par une erreur à la demande de %2. Elle ne conserve peut-être pas ces informations.</translation>
+    </message>
+    <message>
+        <source>The printer at %1 sent an answer that cannot be read when asked for %2.</source>
+        <translation>L’imprimante à l’adresse %1 a envoyé une réponse illisible à la demande de %2.</translation>
+    </message>
+    <message>
+        <source>its MAC address</source>
+        <translation>son adresse MAC</translation>
+    </message>
+    <message>
+        <source>its shared folders</source>
+        <translation>ses dossiers partagés</translation>
+    </message>
+    <message>
+        <source>its forms</source>
+        <translation>ses formulaires</translation>
+    </message>
+    <message>
+        <source>its barcode area definitions</source>
+        <translation>ses définitions de zones de code-barres</translation>
+    </message>
+    <message>
+        <source>its color profiles</source>
+        <translation>ses profils de couleur</translation>
+    </message>
+    <message>
+        <source>Ask the printer at this IP address for its MAC address, shared folders, forms, barcode area definitions and color profiles.</source>
+        <translation>Demander à l’imprimante à cette adresse IP son adresse MAC, ses dossiers partagés, formulaires, définitions de zones de code-barres et profils de couleur.</translation>
+    </message>
+    <message>
+        <source>Ask the printer for this list.</source>
+        <translation>Demander cette liste à l’imprimante.</translation>
+    </message>
+    <message>
+        <source>Empty this list. The queue keeps its stored list until you choose OK.</source>
+        <translation>Vider cette liste. La file conserve sa liste enregistrée jusqu’à ce que vous choisissiez OK.</translation>
+    </message>
+    <message>
+        <source>Also offer each user's personal folder. The printer allows it when its administrator login mode is on.</source>
+        <translation>Proposer aussi le dossier personnel de chaque utilisateur. L’imprimante le permet lorsque son mode de connexion administrateur est activé.</translation>
+    </message>
+    <message>
+        <source>Wake the printer also when it is in another network, behind a router.</source>
+        <translation>Réveiller l’imprimante aussi lorsqu’elle se trouve sur un autre réseau, derrière un routeur.</translation>
+    </message>
+    <message>
+        <source>Drop the registered folders?</source>
+        <translation>Retirer les dossiers enregistrés ?</translation>
+    </message>
+    <message>
+        <source>The default folders take their place. The queue keeps its stored folders until you choose OK.</source>
+        <translation>Les dossiers par défaut les remplacent. La file conserve ses dossiers enregistrés jusqu’à ce que vous choisissiez OK.</translation>
+    </message>
+    <message>
+        <source>No queue matches the filter.</source>
+        <translation>Aucune file ne correspond au filtre.</translation>
+    </message>
+    <message>
+        <source>The print queue "%1" is stopped: settings saved now are stored only once it runs again.</source>
+        <translation>La file d’impression « %1 » est arrêtée : les réglages enregistrés maintenant ne seront stockés qu’à sa reprise.</translation>
+    </message>
+    <message>
+        <source>No printer address is stored for the queue "%1". It prints to %2.</source>
+        <translation>Aucune adresse d’imprimante n’est enregistrée pour la file « %1 ». Elle imprime vers %2.</translation>
+    </message>
+    <message>
+        <source>Use</source>
+        <translation>Utiliser</translation>
+    </message>
+    <message>
+        <source>Other Server…</source>
+        <translation>Autre serveur…</translation>
+    </message>
+    <message>
+        <source>Connect to a Print Server</source>
+        <translation>Se connecter à un serveur d’impression</translation>
+    </message>
+    <message>
+        <source>Print server (host or host:port):</source>
+        <translation>Serveur d’impression (hôte ou hôte:port) :</translation>
+    </message>
+    <message>
+        <source>"%1" names no print server. Enter a host name or address, with a port if it is not 631.</source>
+        <translation>« %1 » ne désigne aucun serveur d’impression. Saisissez un nom d’hôte ou une adresse, avec le port s’il n’est pas 631.</translation>
     </message>
 </context>
 </TS>

@@ -28,10 +28,6 @@
         <translation>SNMP コミュニティー名</translation>
     </message>
     <message>
-        <source>IDS_SNMP_PROHIBIT_CHARACTER_ERROR</source>
-        <translation>SNMP コミュニティー名にこの文字は使用できません。</translation>
-    </message>
-    <message>
         <source>Wake On LAN</source>
         <translation>Wake On LAN</translation>
     </message>
@@ -730,6 +726,118 @@
     <message>
         <source>Update job %1 ended, then a later save to this print queue (update job %2) replaced its settings. Open the window again to see what is stored.</source>
         <translation>更新ジョブ %1 は終了しましたが、その後このプリントキューへの別の保存 (更新ジョブ %2) が設定を置き換えました。保存されている内容を確認するには、ウィンドウをもう一度開いてください。</translation>
+    </message>
+    <message>
+        <source>Discard the changes to the settings?</source>
+        <translation>設定の変更を破棄しますか?</translation>
+    </message>
+    <message>
+        <source>They were not saved to the print queue.</source>
+        <translation>変更はプリントキューに保存されていません。</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>破棄</translation>
+    </message>
+    <message>
+        <source>It may hold the letters A-Z and a-z, the digits 0-9 and these characters: %1</source>
+        <translation>使用できるのは英字 A-Z と a-z、数字 0-9、および次の文字です: %1</translation>
+    </message>
+    <message>
+        <source>The IP address of the printer is empty. Enter it, then try again.</source>
+        <translation>プリンターの IP アドレスが空です。入力してから、もう一度お試しください。</translation>
+    </message>
+    <message>
+        <source>The printer at %1 did not answer when asked for %2. The IP address or the SNMP community name may be wrong.</source>
+        <translation>%1 のプリンターは %2 の問い合わせに応答しませんでした。IP アドレスまたは SNMP コミュニティー名が間違っている可能性があります。</translation>
+    </message>
+    <message>
+        <source>The printer at %1 answered with an error when asked for %2. It may not keep this information.</source>
+        <translation>%1 のプリンターは %2 の問い合わせにエラーで応答しました。この情報を保持していない可能性があります。</translation>
+    </message>
+    <message>
+        <source>The printer at %1 sent an answer that cannot be read when asked for %2.</source>
+        <translation>%1 のプリンターから %2 の問い合わせに対して読み取れない応答が返されました。</translation>
+    </message>
+    <message>
+        <source>its MAC address</source>
+        <translation>MAC アドレス</translation>
+    </message>
+    <message>
+        <source>its shared folders</source>
+        <translation>共有フォルダー</translation>
+    </message>
+    <message>
+        <source>its forms</source>
+        <translation>フォーム</translation>
+    </message>
+    <message>
+        <source>its barcode area definitions</source>
+        <translation>バーコード領域定義</translation>
+    </message>
+    <message>
+        <source>its color profiles</source>
+        <translation>カラープロファイル</translation>
+    </message>
+    <message>
+        <source>Ask the printer at this IP address for its MAC address, shared folders, forms, barcode area definitions and color profiles.</source>
+        <translation>この IP アドレスのプリンターに、MAC アドレス、共有フォルダー、フォーム、バーコード領域定義、カラープロファイルを問い合わせます。</translation>
+    </message>
+    <message>
+        <source>Ask the printer for this list.</source>
+        <translation>このリストをプリンターに問い合わせます。</translation>
+    </message>
+    <message>
+        <source>Empty this list. The queue keeps its stored list until you choose OK.</source>
+        <translation>このリストを空にします。OK を選ぶまで、キューには保存済みのリストが残ります。</translation>
+    </message>
+    <message>
+        <source>Also offer each user's personal folder. The printer allows it when its administrator login mode is on.</source>
+        <translation>各ユーザーの個人フォルダーも使えるようにします。プリンターの管理者ログインモードがオンのときに使用できます。</translation>
+    </message>
+    <message>
+        <source>Wake the printer also when it is in another network, behind a router.</source>
+        <translation>プリンターがルーターの先の別のネットワークにある場合も復帰させます。</translation>
+    </message>
+    <message>
+        <source>Drop the registered folders?</source>
+        <translation>登録済みのフォルダーを削除しますか?</translation>
+    </message>
+    <message>
+        <source>The default folders take their place. The queue keeps its stored folders until you choose OK.</source>
+        <translation>代わりに既定のフォルダーが入ります。OK を選ぶまで、キューには保存済みのフォルダーが残ります。</translation>
+    </message>
+    <message>
+        <source>No queue matches the filter.</source>
+        <translation>フィルターに一致するキューはありません。</translation>
+    </message>
+    <message>
+        <source>The print queue "%1" is stopped: settings saved now are stored only once it runs again.</source>
+        <translation>プリントキュー「%1」は停止しています。今保存した設定は、キューが再開したときに初めて保存されます。</translation>
+    </message>
+    <message>
+        <source>No printer address is stored for the queue "%1". It prints to %2.</source>
+        <translation>キュー「%1」にはプリンターのアドレスが保存されていません。印刷先は %2 です。</translation>
+    </message>
+    <message>
+        <source>Use</source>
+        <translation>使用</translation>
+    </message>
+    <message>
+        <source>Other Server…</source>
+        <translation>他のサーバー…</translation>
+    </message>
+    <message>
+        <source>Connect to a Print Server</source>
+        <translation>プリントサーバーに接続</translation>
+    </message>
+    <message>
+        <source>Print server (host or host:port):</source>
+        <translation>プリントサーバー (ホストまたはホスト:ポート):</translation>
+    </message>
+    <message>
+        <source>"%1" names no print server. Enter a host name or address, with a port if it is not 631.</source>
+        <translation>「%1」はプリントサーバーを示していません。ホスト名またはアドレスを入力してください。ポートが 631 でない場合はポートも指定します。</translation>
     </message>
 </context>
 </TS>

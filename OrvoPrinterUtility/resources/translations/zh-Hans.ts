@@ -28,10 +28,6 @@
         <translation>SNMP 团体名称</translation>
     </message>
     <message>
-        <source>IDS_SNMP_PROHIBIT_CHARACTER_ERROR</source>
-        <translation>SNMP 团体名称中不能使用此字符。</translation>
-    </message>
-    <message>
         <source>Wake On LAN</source>
         <translation>网络唤醒</translation>
     </message>
@@ -730,6 +726,118 @@
     <message>
         <source>Update job %1 ended, then a later save to this print queue (update job %2) replaced its settings. Open the window again to see what is stored.</source>
         <translation>更新作业 %1 已结束，随后对此打印队列的另一次保存（更新作业 %2）替换了它的设置。请重新打开窗口查看当前保存的内容。</translation>
+    </message>
+    <message>
+        <source>Discard the changes to the settings?</source>
+        <translation>放弃对设置的更改吗?</translation>
+    </message>
+    <message>
+        <source>They were not saved to the print queue.</source>
+        <translation>这些更改尚未保存到打印队列。</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>放弃</translation>
+    </message>
+    <message>
+        <source>It may hold the letters A-Z and a-z, the digits 0-9 and these characters: %1</source>
+        <translation>可以包含字母 A-Z 和 a-z、数字 0-9 以及以下字符：%1</translation>
+    </message>
+    <message>
+        <source>The IP address of the printer is empty. Enter it, then try again.</source>
+        <translation>打印机的 IP 地址为空。请输入后重试。</translation>
+    </message>
+    <message>
+        <source>The printer at %1 did not answer when asked for %2. The IP address or the SNMP community name may be wrong.</source>
+        <translation>位于 %1 的打印机在查询%2时没有应答。IP 地址或 SNMP 团体名称可能有误。</translation>
+    </message>
+    <message>
+        <source>The printer at %1 answered with an error when asked for %2. It may not keep this information.</source>
+        <translation>位于 %1 的打印机在查询%2时返回了错误。它可能不保存此信息。</translation>
+    </message>
+    <message>
+        <source>The printer at %1 sent an answer that cannot be read when asked for %2.</source>
+        <translation>位于 %1 的打印机在查询%2时发送了无法读取的应答。</translation>
+    </message>
+    <message>
+        <source>its MAC address</source>
+        <translation>其 MAC 地址</translation>
+    </message>
+    <message>
+        <source>its shared folders</source>
+        <translation>其共享文件夹</translation>
+    </message>
+    <message>
+        <source>its forms</source>
+        <translation>其表单</translation>
+    </message>
+    <message>
+        <source>its barcode area definitions</source>
+        <translation>其条形码区域定义</translation>
+    </message>
+    <message>
+        <source>its color profiles</source>
+        <translation>其颜色配置文件</translation>
+    </message>
+    <message>
+        <source>Ask the printer at this IP address for its MAC address, shared folders, forms, barcode area definitions and color profiles.</source>
+        <translation>向此 IP 地址的打印机查询其 MAC 地址、共享文件夹、表单、条形码区域定义和颜色配置文件。</translation>
+    </message>
+    <message>
+        <source>Ask the printer for this list.</source>
+        <translation>向打印机查询此列表。</translation>
+    </message>
+    <message>
+        <source>Empty this list. The queue keeps its stored list until you choose OK.</source>
+        <translation>清空此列表。在您选择“确定”之前，队列保留其已存储的列表。</translation>
+    </message>
+    <message>
+        <source>Also offer each user's personal folder. The printer allows it when its administrator login mode is on.</source>
+        <translation>同时提供每个用户的个人文件夹。打印机的管理员登录模式开启时可用。</translation>
+    </message>
+    <message>
+        <source>Wake the printer also when it is in another network, behind a router.</source>
+        <translation>打印机位于路由器后的其他网络中时也将其唤醒。</translation>
+    </message>
+    <message>
+        <source>Drop the registered folders?</source>
+        <translation>移除已登记的文件夹吗?</translation>
+    </message>
+    <message>
+        <source>The default folders take their place. The queue keeps its stored folders until you choose OK.</source>
+        <translation>将以默认文件夹代替。在您选择“确定”之前，队列保留其已存储的文件夹。</translation>
+    </message>
+    <message>
+        <source>No queue matches the filter.</source>
+        <translation>没有与筛选条件匹配的队列。</translation>
+    </message>
+    <message>
+        <source>The print queue "%1" is stopped: settings saved now are stored only once it runs again.</source>
+        <translation>打印队列“%1”已停止：现在保存的设置要等队列恢复运行后才会存储。</translation>
+    </message>
+    <message>
+        <source>No printer address is stored for the queue "%1". It prints to %2.</source>
+        <translation>队列“%1”未存储打印机地址。它打印到 %2。</translation>
+    </message>
+    <message>
+        <source>Use</source>
+        <translation>使用</translation>
+    </message>
+    <message>
+        <source>Other Server…</source>
+        <translation>其他服务器…</translation>
+    </message>
+    <message>
+        <source>Connect to a Print Server</source>
+        <translation>连接到打印服务器</translation>
+    </message>
+    <message>
+        <source>Print server (host or host:port):</source>
+        <translation>打印服务器（主机或 主机:端口）：</translation>
+    </message>
+    <message>
+        <source>"%1" names no print server. Enter a host name or address, with a port if it is not 631.</source>
+        <translation>“%1”不是打印服务器。请输入主机名或地址；端口不是 631 时请一并输入。</translation>
     </message>
 </context>
 </TS>

@@ -28,10 +28,6 @@
         <translation>SNMP 社群名稱</translation>
     </message>
     <message>
-        <source>IDS_SNMP_PROHIBIT_CHARACTER_ERROR</source>
-        <translation>SNMP 社群名稱中不能使用此字元。</translation>
-    </message>
-    <message>
         <source>Wake On LAN</source>
         <translation>網路喚醒</translation>
     </message>
@@ -730,6 +726,118 @@
     <message>
         <source>Update job %1 ended, then a later save to this print queue (update job %2) replaced its settings. Open the window again to see what is stored.</source>
         <translation>更新工作 %1 已結束，隨後對此列印佇列的另一次儲存（更新工作 %2）取代了它的設定。請重新開啟視窗查看目前儲存的內容。</translation>
+    </message>
+    <message>
+        <source>Discard the changes to the settings?</source>
+        <translation>放棄對設定的變更嗎?</translation>
+    </message>
+    <message>
+        <source>They were not saved to the print queue.</source>
+        <translation>這些變更尚未儲存到列印佇列。</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>放棄</translation>
+    </message>
+    <message>
+        <source>It may hold the letters A-Z and a-z, the digits 0-9 and these characters: %1</source>
+        <translation>可以包含字母 A-Z 和 a-z、數字 0-9 以及以下字元：%1</translation>
+    </message>
+    <message>
+        <source>The IP address of the printer is empty. Enter it, then try again.</source>
+        <translation>印表機的 IP 位址為空白。請輸入後再試一次。</translation>
+    </message>
+    <message>
+        <source>The printer at %1 did not answer when asked for %2. The IP address or the SNMP community name may be wrong.</source>
+        <translation>位於 %1 的印表機在查詢%2時沒有回應。IP 位址或 SNMP 社群名稱可能有誤。</translation>
+    </message>
+    <message>
+        <source>The printer at %1 answered with an error when asked for %2. It may not keep this information.</source>
+        <translation>位於 %1 的印表機在查詢%2時傳回錯誤。它可能不保存此資訊。</translation>
+    </message>
+    <message>
+        <source>The printer at %1 sent an answer that cannot be read when asked for %2.</source>
+        <translation>位於 %1 的印表機在查詢%2時傳送了無法讀取的回應。</translation>
+    </message>
+    <message>
+        <source>its MAC address</source>
+        <translation>其 MAC 位址</translation>
+    </message>
+    <message>
+        <source>its shared folders</source>
+        <translation>其共用資料夾</translation>
+    </message>
+    <message>
+        <source>its forms</source>
+        <translation>其表單</translation>
+    </message>
+    <message>
+        <source>its barcode area definitions</source>
+        <translation>其條碼區域定義</translation>
+    </message>
+    <message>
+        <source>its color profiles</source>
+        <translation>其色彩描述檔</translation>
+    </message>
+    <message>
+        <source>Ask the printer at this IP address for its MAC address, shared folders, forms, barcode area definitions and color profiles.</source>
+        <translation>向此 IP 位址的印表機查詢其 MAC 位址、共用資料夾、表單、條碼區域定義和色彩描述檔。</translation>
+    </message>
+    <message>
+        <source>Ask the printer for this list.</source>
+        <translation>向印表機查詢此清單。</translation>
+    </message>
+    <message>
+        <source>Empty this list. The queue keeps its stored list until you choose OK.</source>
+        <translation>清空此清單。在您選擇「確定」之前，佇列保留其已儲存的清單。</translation>
+    </message>
+    <message>
+        <source>Also offer each user's personal folder. The printer allows it when its administrator login mode is on.</source>
+        <translation>同時提供每位使用者的個人資料夾。印表機的管理員登入模式開啟時可用。</translation>
+    </message>
+    <message>
+        <source>Wake the printer also when it is in another network, behind a router.</source>
+        <translation>印表機位於路由器後的其他網路中時也將其喚醒。</translation>
+    </message>
+    <message>
+        <source>Drop the registered folders?</source>
+        <translation>移除已登記的資料夾嗎?</translation>
+    </message>
+    <message>
+        <source>The default folders take their place. The queue keeps its stored folders until you choose OK.</source>
+        <translation>將以預設資料夾代替。在您選擇「確定」之前，佇列保留其已儲存的資料夾。</translation>
+    </message>
+    <message>
+        <source>No queue matches the filter.</source>
+        <translation>沒有符合篩選條件的佇列。</translation>
+    </message>
+    <message>
+        <source>The print queue "%1" is stopped: settings saved now are stored only once it runs again.</source>
+        <translation>列印佇列「%1」已停止：現在儲存的設定要等佇列恢復執行後才會儲存。</translation>
+    </message>
+    <message>
+        <source>No printer address is stored for the queue "%1". It prints to %2.</source>
+        <translation>佇列「%1」未儲存印表機位址。它列印到 %2。</translation>
+    </message>
+    <message>
+        <source>Use</source>
+        <translation>使用</translation>
+    </message>
+    <message>
+        <source>Other Server…</source>
+        <translation>其他伺服器…</translation>
+    </message>
+    <message>
+        <source>Connect to a Print Server</source>
+        <translation>連線到列印伺服器</translation>
+    </message>
+    <message>
+        <source>Print server (host or host:port):</source>
+        <translation>列印伺服器（主機或 主機:連接埠）：</translation>
+    </message>
+    <message>
+        <source>"%1" names no print server. Enter a host name or address, with a port if it is not 631.</source>
+        <translation>「%1」不是列印伺服器。請輸入主機名稱或位址；連接埠不是 631 時請一併輸入。</translation>
     </message>
 </context>
 </TS>
