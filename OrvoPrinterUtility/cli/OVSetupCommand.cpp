@@ -7,10 +7,7 @@
 
 #include <cups/cups.h>
 
-#include <cstdio>
-#include <cstring>
-#include <termios.h>
-#include <unistd.h>
+#include <QFileInfo>
 
 namespace {
 
@@ -21,8 +18,6 @@ const QCommandLineOption
 const QCommandLineOption repairOption(
     "repair",
     "Rebuild a damaged PPD from the queue's driver, keeping the settings it still holds.");
-// libcups asks again after a wrong password; three tries, as login programs allow.
-constexpr int passwordTries = 3;
 
 enum class Action { SetUp, Remove, Repair };
 
@@ -45,7 +40,44 @@ QString doneText(const QString &queue, Action action, bool changed) {
 }
 
 QString repairCommand(const QString &queue) {
-    return "orvo-printer-utility-cli setup --repair " + queue;
+    return OVCommandLine::hint("setup", "--repair " + queue);
+}
+
+// Where cupsd reads MIME files and runs filters from: the folders it was
+// built with unless its environment names others.
+QString cupsFolder(const char *variable, const char *builtIn) {
+    return qEnvironmentVariable(variable, QString::fromUtf8(builtIn));
+}
+
+QString mimeFile(const char *suffix) {
+    return cupsFolder("CUPS_DATADIR", ORVO_CUPS_DATADIR) + "/mime/orvo-printer-utility." + suffix;
+}
+
+// The server runs on this machine, where the utility's filter and MIME files
+// are installed: it has not read them since, which a reload mends.
+bool installedHere() {
+    const QString host = QString::fromUtf8(cupsServer());
+    const bool local = host.startsWith('/') || host == "localhost" || host.startsWith("127.") ||
+                       host == "::1" || host == "[::1]";
+    const QString filter =
+        cupsFolder("CUPS_SERVERBIN", ORVO_CUPS_SERVERBIN) + "/filter/orvo-ppd-update";
+    return local && QFileInfo(filter).isExecutable() && QFileInfo::exists(mimeFile("types")) &&
+           QFileInfo::exists(mimeFile("convs"));
+}
+
+int lacksRoute(const QString &unchanged) {
+    if (installedHere())
+        return OVCommandLine::fail(
+            Exit::Failed, "the CUPS server " + OVCommandLine::server() +
+                              " has not read the utility's MIME files installed on this machine: "
+                              "reload CUPS so that it reads " +
+                              mimeFile("types") + " and " + mimeFile("convs") +
+                              " (systemctl try-reload-or-restart cups)" + unchanged);
+    return OVCommandLine::fail(Exit::Failed, "the CUPS server " + OVCommandLine::server() +
+                                                 " cannot route the utility's saves: install the "
+                                                 "Orvo Printer Utility (its filter and MIME files) "
+                                                 "on the print server" +
+                                                 unchanged);
 }
 
 int failure(const OVQueueSetup::Result &result, const QString &queue) {
@@ -54,7 +86,8 @@ int failure(const OVQueueSetup::Result &result, const QString &queue) {
     case Outcome::Unknown:
         return OVCommandLine::fail(
             Exit::ServerUnreachable,
-            "the CUPS server stopped answering after the change was sent, so whether \"" + queue +
+            "the CUPS server " + OVCommandLine::server() +
+                " stopped answering after the change was sent, so whether \"" + queue +
                 "\" took it is unknown; run the same command again once the server answers: it "
                 "changes only what is not done yet");
     case Outcome::Damaged:
@@ -65,14 +98,15 @@ int failure(const OVQueueSetup::Result &result, const QString &queue) {
         return OVCommandLine::fail(Exit::Failed,
                                    "no driver on the server has the queue's make and model \"" +
                                        result.detail + "\"" + unchanged +
-                                       "; give the queue its driver with: lpadmin -p " + queue +
-                                       " -m DRIVER (\"lpinfo -m\" lists them), then run: "
-                                       "orvo-printer-utility-cli setup " +
-                                       queue + " (settings the damaged PPD held are lost then)");
+                                       "; give the queue its driver with: " +
+                                       OVCommandLine::withServer("lpadmin", "-p " + queue) +
+                                       " -m DRIVER (\"lpinfo -m\" lists them), then run: " +
+                                       OVCommandLine::hint("setup", queue) +
+                                       " (settings the damaged PPD held are lost then)");
     case Outcome::ServerUnreachable:
         return OVCommandLine::serverFailure();
     case Outcome::QueueUnknown:
-        return OVCommandLine::fail(Exit::QueueUnknown, "no queue \"" + queue + "\" on the server");
+        return OVCommandLine::queueUnknown(queue);
     case Outcome::NoPPD:
         return OVCommandLine::fail(Exit::Refused, "the queue \"" + queue +
                                                       "\" has no PPD, so it cannot keep settings" +
@@ -80,25 +114,15 @@ int failure(const OVQueueSetup::Result &result, const QString &queue) {
     case Outcome::NotAuthorized:
         return OVCommandLine::fail(
             Exit::NotAuthorized,
-            "the server refused: changing a queue needs a print administrator (" + result.detail +
-                ")" + unchanged);
+            "the CUPS server " + OVCommandLine::server() + " refused " +
+                QString::fromUtf8(cupsUser()) + ": changing a queue needs a print administrator (" +
+                result.detail + ")" + unchanged + "; -U USER names another user");
     case Outcome::ServerLacksRoute:
-        return OVCommandLine::fail(
-            Exit::Failed, "the server cannot route the utility's saves: install the Orvo Printer "
-                          "Utility (its filter and MIME files) on the print server" +
-                              unchanged);
+        return lacksRoute(unchanged);
     default:
         return OVCommandLine::fail(Exit::Failed, "the change to \"" + queue +
                                                      "\" did not succeed: " + result.detail);
     }
-}
-
-void setEcho(bool on) {
-    termios mode{};
-    if (tcgetattr(STDIN_FILENO, &mode) != 0)
-        return;
-    mode.c_lflag = on ? (mode.c_lflag | ECHO) : (mode.c_lflag & ~tcflag_t(ECHO));
-    tcsetattr(STDIN_FILENO, TCSAFLUSH, &mode);
 }
 
 } // namespace
@@ -108,23 +132,6 @@ void OVSetupCommand::addOptions(QCommandLineParser &parser) {
     parser.addOption(repairOption);
 }
 
-// Asked on a terminal only: a script gets the refusal instead of a hang.
-const char *OVSetupCommand::askPassword(const char *prompt, http_t *, const char *, const char *,
-                                        void *tries) {
-    static char password[256];
-    if (!isatty(STDIN_FILENO) || ++*static_cast<int *>(tries) > passwordTries)
-        return nullptr;
-    std::fprintf(stderr, "%s ", prompt);
-    setEcho(false);
-    const bool read = std::fgets(password, sizeof password, stdin) != nullptr;
-    setEcho(true);
-    std::fputc('\n', stderr);
-    if (!read)
-        return nullptr;
-    password[std::strcspn(password, "\r\n")] = '\0';
-    return password;
-}
-
 int OVSetupCommand::run(const QCommandLineParser &parser, bool json) {
     const QString queue = parser.positionalArguments().first();
     if (parser.isSet(removeOption) && parser.isSet(repairOption))
@@ -132,8 +139,6 @@ int OVSetupCommand::run(const QCommandLineParser &parser, bool json) {
     const Action action = parser.isSet(removeOption)   ? Action::Remove
                           : parser.isSet(repairOption) ? Action::Repair
                                                        : Action::SetUp;
-    int tries = 0;
-    cupsSetPasswordCB2(askPassword, &tries);
     const OVQueueSetup::Result result = action == Action::Remove   ? OVQueueSetup::remove(queue)
                                         : action == Action::Repair ? OVQueueSetup::repair(queue)
                                                                    : OVQueueSetup::setUp(queue);

@@ -22,6 +22,8 @@ public:
         // up the update job would be printed, and the settings lost).
         OVQueueSetup::State queue = OVQueueSetup::State::SetUp;
         OVSettingsSave::Outcome save;
+        // The PPD held every value already, so no update job was sent.
+        bool unchanged = false;
 
         bool stored() const {
             return verdict.ok() && queue == OVQueueSetup::State::SetUp &&
@@ -29,5 +31,8 @@ public:
         }
     };
 
-    static Outcome run(const OVSettingsSnapshot &settings, const QString &queue);
+    // Without sendUnchanged, settings the PPD already holds send no job: a
+    // job that changes nothing still makes cupsd rewrite the PPD.
+    static Outcome run(const OVSettingsSnapshot &settings, const QString &queue,
+                       bool sendUnchanged = true);
 };

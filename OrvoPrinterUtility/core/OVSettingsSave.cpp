@@ -43,6 +43,13 @@ OVSettingsSave::Outcome OVSettingsSave::save(const OVSettingsSnapshot &settings,
     return outcome;
 }
 
+bool OVSettingsSave::held(const OVSettingsSnapshot &settings, const QString &queue) {
+    bool held = false;
+    OVStoredSettings::withQueuePPD(
+        queue, [&](ppd_file_t *ppd) { held = missingFrom(ppd, settings).isEmpty(); });
+    return held;
+}
+
 void OVSettingsSave::readBack(Outcome &outcome, const OVSettingsSnapshot &settings,
                               const QString &queue) {
     outcome.readBack = OVStoredSettings::withQueuePPD(

@@ -40,6 +40,10 @@ public:
     // job would be printed.
     static Outcome save(const OVSettingsSnapshot &settings, const QString &queue);
 
+    // Whether the queue's PPD holds every value of the settings already, as
+    // the driver filter compares them.
+    static bool held(const OVSettingsSnapshot &settings, const QString &queue);
+
     // Whether a failed submission means the server stopped answering rather
     // than refused the job: libcups reports a connection lost while sending
     // as one of the last two statuses, and one never made as no error.
