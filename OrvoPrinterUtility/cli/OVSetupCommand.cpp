@@ -65,14 +65,22 @@ bool installedHere() {
            QFileInfo::exists(mimeFile("convs"));
 }
 
+// As the package's maintainer scripts reload it: Debian's cups unit cannot
+// reload, so systemd restarts it; the init script sends cupsd a hangup.
+QString reloadCommand() {
+    return QFileInfo::exists("/run/systemd/system")
+               ? QStringLiteral("systemctl try-reload-or-restart cups")
+               : QStringLiteral("invoke-rc.d cups force-reload");
+}
+
 int lacksRoute(const QString &unchanged) {
     if (installedHere())
         return OVCommandLine::fail(
             Exit::Failed, "the CUPS server " + OVCommandLine::server() +
                               " has not read the utility's MIME files installed on this machine: "
                               "reload CUPS so that it reads " +
-                              mimeFile("types") + " and " + mimeFile("convs") +
-                              " (systemctl try-reload-or-restart cups)" + unchanged);
+                              mimeFile("types") + " and " + mimeFile("convs") + " (" +
+                              reloadCommand() + ")" + unchanged);
     return OVCommandLine::fail(Exit::Failed, "the CUPS server " + OVCommandLine::server() +
                                                  " cannot route the utility's saves: install the "
                                                  "Orvo Printer Utility (its filter and MIME files) "
