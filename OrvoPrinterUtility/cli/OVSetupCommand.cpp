@@ -53,8 +53,9 @@ QString mimeFile(const char *suffix) {
     return cupsFolder("CUPS_DATADIR", ORVO_CUPS_DATADIR) + "/mime/orvo-printer-utility." + suffix;
 }
 
-// The server runs on this machine, where the utility's filter and MIME files
-// are installed: it has not read them since, which a reload mends.
+// Whether the server runs on this machine and the utility's filter and MIME
+// files are installed here: a server that lacks the type then has not read
+// them since they came, which a reload mends.
 bool installedHere() {
     const QString host = QString::fromUtf8(cupsServer());
     const bool local = host.startsWith('/') || host == "localhost" || host.startsWith("127.") ||
