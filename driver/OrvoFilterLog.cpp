@@ -48,7 +48,6 @@ void OrvoFilterLog::summary(std::size_t stored) {
                                   " more refused options are not listed");
 }
 
-// A name may hold line ends or quotes meant to forge log lines.
 std::string OrvoFilterLog::printable(std::string_view name) {
     std::string text;
     for (char c : name.substr(0, nameLimit))

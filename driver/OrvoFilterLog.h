@@ -23,10 +23,11 @@ public:
     static constexpr std::size_t listedLimit = 32;
     // Names are logged at most this long, so a log line stays readable.
     static constexpr std::size_t nameLimit = 64;
-
-private:
+    // A name a job gave, safe in a log line: it may hold line ends or quotes
+    // meant to forge log lines.
     static std::string printable(std::string_view name);
 
+private:
     std::FILE *m_out;
     std::size_t m_refusedCount = 0;
 };

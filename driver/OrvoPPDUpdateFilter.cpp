@@ -16,6 +16,7 @@
 
 namespace {
 
+constexpr int userArgument = 2;
 constexpr int optionsArgument = 5;
 constexpr int argumentsWithoutFile = 6;
 constexpr int argumentsWithFile = 7;
@@ -32,18 +33,18 @@ int OrvoPPDUpdateFilter::run(int argc, char **argv) {
     if (argc == argumentsWithoutFile)
         drainInput();
 
-    handleOptions(argv[optionsArgument], stderr);
+    handleOptions(argv[userArgument], argv[optionsArgument], stderr);
     return 0;
 }
 
-void OrvoPPDUpdateFilter::handleOptions(const char *optionsText, std::FILE *out) {
+void OrvoPPDUpdateFilter::handleOptions(const char *user, const char *optionsText, std::FILE *out) {
     OrvoFilterLog log(out);
     log.write(OrvoFilterLog::Level::Debug,
               "Job options text is " + std::to_string(std::strlen(optionsText)) + " bytes");
     cups_option_t *options = nullptr;
     const int count = cupsParseOptions(optionsText, 0, &options);
     if (isUpdateJob(count, options))
-        store(count, options, log, out);
+        store(user, count, options, log, out);
     else
         log.write(OrvoFilterLog::Level::Debug, "Not a settings update job, nothing stored");
     cupsFreeOptions(count, options);
@@ -88,8 +89,8 @@ bool OrvoPPDUpdateFilter::refused(int count, cups_option_t *options, OrvoFilterL
     return refusal.has_value();
 }
 
-void OrvoPPDUpdateFilter::store(int count, cups_option_t *options, OrvoFilterLog &log,
-                                std::FILE *out) {
+void OrvoPPDUpdateFilter::store(const char *user, int count, cups_option_t *options,
+                                OrvoFilterLog &log, std::FILE *out) {
     if (refused(count, options, log))
         return;
     const OrvoStoredSettings current(std::getenv("PPD"));
@@ -98,6 +99,16 @@ void OrvoPPDUpdateFilter::store(int count, cups_option_t *options, OrvoFilterLog
         log.write(OrvoFilterLog::Level::Warning,
                   "The queue is not set up for settings updates, nothing stored; an administrator "
                   "sets it up with: orvo-printer-utility-cli setup QUEUE");
+        return;
+    }
+    // The server names the job's user: the one it authenticated where the
+    // queue asks for that, else the name the client gave.
+    if (!current.savers().allows(user)) {
+        const std::string savers = current.savers().text();
+        log.write(OrvoFilterLog::Level::Warning,
+                  "User \"" + OrvoFilterLog::printable(user) +
+                      "\" may not save settings on this queue, nothing stored; who may: " +
+                      (savers.empty() ? "no one (the list in the PPD is unreadable)" : savers));
         return;
     }
     OrvoPPDMessageWriter writer(out);

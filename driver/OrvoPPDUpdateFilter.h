@@ -13,15 +13,16 @@ class OrvoPPDUpdateFilter {
 public:
     // argv: job-id user title copies options [file]
     static int run(int argc, char **argv);
-    // Everything the filter does with the job's options text (argv[5]); its
-    // messages for cupsd go to `out`. Reads CONTENT_TYPE and PPD from the
-    // environment, as under cupsd.
-    static void handleOptions(const char *optionsText, std::FILE *out);
+    // Everything the filter does with the job of `user` (argv[2]) and its
+    // options text (argv[5]); its messages for cupsd go to `out`. Reads
+    // CONTENT_TYPE and PPD from the environment, as under cupsd.
+    static void handleOptions(const char *user, const char *optionsText, std::FILE *out);
 
 private:
     static void drainInput();
     static bool isUpdateJob(int count, cups_option_t *options);
     static bool looksLikeJobAttribute(const char *name);
     static bool refused(int count, cups_option_t *options, OrvoFilterLog &log);
-    static void store(int count, cups_option_t *options, OrvoFilterLog &log, std::FILE *out);
+    static void store(const char *user, int count, cups_option_t *options, OrvoFilterLog &log,
+                      std::FILE *out);
 };

@@ -30,6 +30,10 @@ OrvoStoredSettings::OrvoStoredSettings(const char *ppdPath) {
             continue;
         if (OrvoSettingsOption::check(keyword, value).kind == OrvoSettingsOption::Kind::Setting)
             m_values.try_emplace(keyword, value);
+        if (keyword == OrvoSettingsKeywords::saversKeyword && !m_saversRead) {
+            m_savers = OrvoSavers::fromPpdValue(value);
+            m_saversRead = true;
+        }
         m_takesUpdates = m_takesUpdates || (keyword == OrvoSettingsKeywords::setUpKeyword &&
                                             value == OrvoSettingsKeywords::setUpValue);
     }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "OrvoSavers.h"
+
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -19,9 +21,13 @@ public:
     // Whether the queue was set up for the utility: its PPD carries the set-up
     // line. The server routes update jobs to the filter on every queue.
     bool takesUpdates() const { return m_takesUpdates; }
+    // Who may save on the queue, from the line setup wrote; everyone without one.
+    const OrvoSavers &savers() const { return m_savers; }
 
 private:
     bool m_takesUpdates = false;
+    bool m_saversRead = false; // the first line counts, as libcups reads it
+    OrvoSavers m_savers;
     // The first line of a keyword is the one libcups reads.
     std::unordered_map<std::string, std::string> m_values;
 };

@@ -22,9 +22,9 @@ public:
         ServerUnreachable = 3,
         QueueUnknown = 4,
         PrinterSilent = 5,
-        Refused = 6,               // the job could not reach the driver; nothing was sent
-        NotAuthorized = 7,         // the server wants a print administrator
-        Queued = 8,                // the update job was sent but had not run when the time was up
+        Refused = 6,       // the job could not reach the driver; nothing was sent
+        NotAuthorized = 7, // the server wants a print administrator, or the queue another saver
+        Queued = 8,        // the update job was sent but had not run when the time was up
         PrinterAnswerUnusable = 9, // an error status, or data that cannot be read
     };
 

@@ -21,6 +21,9 @@
 namespace {
 
 using Exit = OVCommandLine::Exit;
+// The key under which list and show name who may save. Only setup changes
+// it, so save passes over it in what show --json printed.
+constexpr char saversKey[] = "savers";
 const QCommandLineOption settingsFileOption(
     "settings", "Read settings from a JSON file (\"-\": standard input), keys as \"show --json\".",
     "file");
@@ -100,6 +103,21 @@ int notReadyToSave(OVQueueSetup::State state, const QString &queue) {
     default:
         return OVCommandLine::serverFailure();
     }
+}
+
+// Who may save, as list and show print it: a list that no one is in is one
+// the PPD holds unreadably.
+QString saversText(const OrvoSavers &savers) {
+    const QString text = QString::fromStdString(savers.text());
+    return text.isEmpty() ? QStringLiteral("no one (the list in the PPD is unreadable)") : text;
+}
+
+// The filter would store nothing of the user's job; nothing was sent.
+int notASaver(const QString &queue) {
+    return OVCommandLine::fail(Exit::NotAuthorized,
+                               "you may not change this queue's settings: \"" + queue +
+                                   "\" names who may save, and not the user \"" +
+                                   QString::fromUtf8(cupsUser()) + "\"; nothing was sent");
 }
 
 // A job the server did not take: lost on the way, or refused.
@@ -218,12 +236,16 @@ int OVQueueCommands::list(const QCommandLineParser &, bool json) {
                             {"setUp", queue.setUp},
                             {"damaged", queue.damaged},
                             {"description", queue.description},
-                            {"makeAndModel", queue.makeAndModel}};
-        text += line(isDefault, OVCommandLine::visible(queue.name),
-                     queue.damaged ? "damaged"
-                     : queue.setUp ? "set up"
-                                   : "not set up",
-                     OVCommandLine::visible(queue.makeAndModel));
+                            {"makeAndModel", queue.makeAndModel},
+                            {saversKey, QString::fromStdString(queue.savers.text())}};
+        text +=
+            line(isDefault, OVCommandLine::visible(queue.name),
+                 queue.damaged ? "damaged"
+                 : queue.setUp ? "set up"
+                               : "not set up",
+                 OVCommandLine::visible(queue.makeAndModel) +
+                     (queue.savers.everyone() ? QString()
+                                              : "  (saved by: " + saversText(queue.savers) + ")"));
     }
     OVCommandLine::print(json, rows, text);
     return Exit::Success;
@@ -236,14 +258,18 @@ int OVQueueCommands::show(const QCommandLineParser &parser, bool json) {
     const auto status = OVStoredSettings::load(queue, settings, &ignored);
     if (status != OVStoredSettings::Status::Loaded)
         return loadFailure(status, queue);
-    if (OVQueueSetup::state(queue) == OVQueueSetup::State::Damaged)
+    const OVQueueSetup::Access access = OVQueueSetup::access(queue);
+    if (access.state == OVQueueSetup::State::Damaged)
         return damagedFailure(queue);
     // Lines the utility could not have written (any user who may print can
     // send an update job) show as the setting's default; the line is named.
     for (const QString &line : ignored)
         OVCommandLine::warn("ignored a line of the PPD: *" + line + "; its default is shown");
-    OVCommandLine::print(json, OVSettingsFields::toJson(settings),
-                         OVSettingsFields::toText(settings));
+    QJsonObject shown = OVSettingsFields::toJson(settings);
+    shown.insert(saversKey, QString::fromStdString(access.savers.text()));
+    OVCommandLine::print(json, shown,
+                         OVSettingsFields::toText(settings) + saversKey + ": " +
+                             saversText(access.savers) + "\n");
     return Exit::Success;
 }
 
@@ -259,6 +285,7 @@ int OVQueueCommands::save(const QCommandLineParser &parser, bool json) {
         if (const QString error = readSettingsFile(parser.value(settingsFileOption), given);
             !error.isEmpty())
             return OVCommandLine::fail(Exit::Usage, error);
+        given.remove(saversKey);
     }
     OVSettingsSnapshot settings;
     if (const auto status = OVStoredSettings::load(queue, settings);
@@ -278,6 +305,8 @@ int OVQueueCommands::save(const QCommandLineParser &parser, bool json) {
                                    OVSettingsFields::verdictText(verdict) + "; nothing was sent");
     if (task.queue != OVQueueSetup::State::SetUp)
         return notReadyToSave(task.queue, queue);
+    if (!task.userMaySave)
+        return notASaver(queue);
     if (task.unchanged) {
         OVCommandLine::print(json, QJsonObject{{"queue", queue}, {"changed", false}},
                              "The PPD holds these settings already; no update job was sent.\n");

@@ -2,12 +2,14 @@
 
 #include "OVCommandLine.h"
 #include "OVQueueSetup.h"
+#include "OrvoSavers.h"
 
+#include <QFileInfo>
 #include <QJsonObject>
 
 #include <cups/cups.h>
 
-#include <QFileInfo>
+#include <optional>
 
 namespace {
 
@@ -18,6 +20,11 @@ const QCommandLineOption
 const QCommandLineOption repairOption(
     "repair",
     "Rebuild a damaged PPD from the queue's driver, keeping the settings it still holds.");
+const QCommandLineOption saversOption(
+    "savers",
+    "Who may save settings on the queue: users and @groups separated by commas, or \"all\" "
+    "(the default). Without it the queue keeps whom it names.",
+    "list");
 
 enum class Action { SetUp, Remove, Repair };
 
@@ -139,6 +146,7 @@ int failure(const OVQueueSetup::Result &result, const QString &queue) {
 void OVSetupCommand::addOptions(QCommandLineParser &parser) {
     parser.addOption(removeOption);
     parser.addOption(repairOption);
+    parser.addOption(saversOption);
 }
 
 int OVSetupCommand::run(const QCommandLineParser &parser, bool json) {
@@ -148,15 +156,33 @@ int OVSetupCommand::run(const QCommandLineParser &parser, bool json) {
     const Action action = parser.isSet(removeOption)   ? Action::Remove
                           : parser.isSet(repairOption) ? Action::Repair
                                                        : Action::SetUp;
-    const OVQueueSetup::Result result = action == Action::Remove   ? OVQueueSetup::remove(queue)
-                                        : action == Action::Repair ? OVQueueSetup::repair(queue)
-                                                                   : OVQueueSetup::setUp(queue);
+    std::optional<OrvoSavers> savers;
+    if (parser.isSet(saversOption)) {
+        savers = OrvoSavers::parse(parser.value(saversOption).toStdString());
+        if (action != Action::SetUp)
+            return OVCommandLine::fail(Exit::Usage, "--savers goes with setting a queue up only");
+        if (!savers)
+            return OVCommandLine::fail(
+                Exit::Usage,
+                QStringLiteral("--savers takes \"all\" or user names and @groups separated by "
+                               "commas, each of at most %1 letters, digits, '.', '_' or '-' "
+                               "(not first), %2 characters in all")
+                    .arg(OrvoSavers::nameLimit)
+                    .arg(OrvoSavers::textLimit));
+    }
+    const OVQueueSetup::Result result = action == Action::Remove ? OVQueueSetup::remove(queue)
+                                        : action == Action::Repair
+                                            ? OVQueueSetup::repair(queue)
+                                            : OVQueueSetup::setUp(queue, savers);
     if (result.outcome != Outcome::Changed && result.outcome != Outcome::Unchanged)
         return failure(result, queue);
     const bool changed = result.outcome == Outcome::Changed;
-    OVCommandLine::print(
-        json,
-        QJsonObject{{"queue", queue}, {"setUp", action != Action::Remove}, {"changed", changed}},
-        doneText(OVCommandLine::visible(queue), action, changed));
+    QJsonObject done{{"queue", queue}, {"setUp", action != Action::Remove}, {"changed", changed}};
+    QString text = doneText(OVCommandLine::visible(queue), action, changed);
+    if (savers) {
+        done.insert("savers", QString::fromStdString(savers->text()));
+        text += "Who may save settings: " + QString::fromStdString(savers->text()) + "\n";
+    }
+    OVCommandLine::print(json, done, text);
     return Exit::Success;
 }

@@ -117,6 +117,18 @@ OVQueueSetup::State OVQueueSetup::state(const QString &queue) {
     return connection ? state(connection.http(), queue) : State::ServerUnreachable;
 }
 
+OVQueueSetup::Access OVQueueSetup::access(const QString &queue) {
+    const OVCupsConnection connection;
+    if (!connection)
+        return {};
+    const Found found = find(connection.http(), queue);
+    return {state(found), OVSettingsRoute::savers(found.ppd)};
+}
+
+bool OVQueueSetup::Access::userMaySave() const {
+    return savers.allows(cupsUser());
+}
+
 bool OVQueueSetup::routeLost(const QString &queue) {
     const OVCupsConnection connection;
     Found found;
@@ -234,9 +246,11 @@ std::optional<QList<OVQueueSetup::Queue>> OVQueueSetup::queues() {
     // Listing the format says only that the server routes it; the PPD says
     // whether the queue takes it, and whether it is whole.
     for (Queue &each : found) {
-        const State state = OVQueueSetup::state(connection.http(), each.name);
+        const Found queue = find(connection.http(), each.name);
+        const State state = OVQueueSetup::state(queue);
         if (state == State::ServerUnreachable)
             return std::nullopt;
+        each.savers = OVSettingsRoute::savers(queue.ppd);
         each.setUp = state == State::SetUp;
         each.damaged = state == State::Damaged;
     }
@@ -296,11 +310,13 @@ void OVQueueSetup::removeScratchQueues(http_t *http) {
 
 // A server without the format's files or the filter is refused before the
 // queue is touched: a queue set up there would still not take a save.
-OVQueueSetup::Result OVQueueSetup::setUp(const QString &queue) {
+OVQueueSetup::Result OVQueueSetup::setUp(const QString &queue,
+                                         const std::optional<OrvoSavers> &savers) {
     return changePpd(queue, [&](http_t *http, const Found &found) -> Result {
         if (found.route != State::SetUp)
             return {Outcome::ServerLacksRoute, {}};
-        const QByteArray withSetUp = OVSettingsRoute::added(found.ppd);
+        const QByteArray withSetUp = OVSettingsRoute::withSavers(
+            OVSettingsRoute::added(found.ppd), savers.value_or(OVSettingsRoute::savers(found.ppd)));
         if (withSetUp == found.ppd)
             return {Outcome::Unchanged, {}};
         const Result installed = install(http, queue, withSetUp);
@@ -335,8 +351,10 @@ OVQueueSetup::Result OVQueueSetup::repair(const QString &queue) {
             made.outcome != Outcome::Changed)
             return {made.outcome,
                     made.outcome == Outcome::NoDriver ? found.makeAndModel : made.detail};
-        const QByteArray rebuilt =
-            OVSettingsRoute::added(OVSettingsRoute::withSettingsOf(fresh, found.ppd));
+        // Who may save stays as it was: a repair opens the queue to no one.
+        const QByteArray rebuilt = OVSettingsRoute::withSavers(
+            OVSettingsRoute::added(OVSettingsRoute::withSettingsOf(fresh, found.ppd)),
+            OVSettingsRoute::savers(found.ppd));
         const Result installed = install(http, queue, rebuilt);
         // A driverless queue has its new PPD already; not the settings.
         if (installed.outcome == Outcome::ServerUnreachable && *driver == driverlessName)

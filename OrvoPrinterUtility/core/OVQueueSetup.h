@@ -1,5 +1,7 @@
 #pragma once
 
+#include "OrvoSavers.h"
+
 #include <QByteArray>
 #include <QList>
 #include <QString>
@@ -31,6 +33,18 @@ public:
         QString makeAndModel;
         bool setUp = false;
         bool damaged = false;
+        OrvoSavers savers;
+    };
+
+    // The queue's state and who may save on it, from one look at the server.
+    struct Access {
+        State state = State::ServerUnreachable;
+        OrvoSavers savers;
+
+        // Whether the user this process acts as to the server (cupsUser(),
+        // -U of the command line) is one of them: the one check before any
+        // save, so that a refused user learns so before anything is sent.
+        bool userMaySave() const;
     };
 
     enum class Outcome {
@@ -59,6 +73,7 @@ public:
     static bool isScratchQueue(const QString &name);
 
     static State state(const QString &queue);
+    static Access access(const QString &queue);
     // Whether the PPD as the server stores it lost the set-up line: a PPD cut while
     // cupsd wrote it. Read from the file itself, since the queue's listed
     // formats follow a rewritten PPD only some time later. False when the
@@ -69,9 +84,11 @@ public:
 
     // Adds the set-up line (and the settings' stored defaults) to the queue's
     // PPD and installs it on the server as lpadmin -P does: device, options,
-    // state and every other PPD line stay.
-    static Result setUp(const QString &queue);
-    // Takes the set-up line out again; the saved settings stay in the PPD.
+    // state and every other PPD line stay. With savers, the PPD names them as
+    // who may save; without, the queue keeps whom it named.
+    static Result setUp(const QString &queue, const std::optional<OrvoSavers> &savers = {});
+    // Takes the set-up line out again; the saved settings and who may save
+    // stay in the PPD, so that setting up again opens the queue to no one new.
     static Result remove(const QString &queue);
     // Rebuilds the PPD of a queue that is not set up (a damaged one above all)
     // from the queue's driver on the server, keeps every setting the old PPD

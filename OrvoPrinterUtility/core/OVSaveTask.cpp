@@ -8,14 +8,17 @@ OVSaveTask::Outcome OVSaveTask::run(const OVSettingsSnapshot &settings, const QS
     outcome.verdict = settings.check();
     if (!outcome.verdict.ok())
         return outcome;
-    outcome.queue = OVQueueSetup::state(queue);
-    outcome.unchanged = outcome.queue == OVQueueSetup::State::SetUp && !sendUnchanged &&
-                        OVSettingsSave::held(settings, queue);
+    const OVQueueSetup::Access access = OVQueueSetup::access(queue);
+    outcome.queue = access.state;
+    outcome.userMaySave = access.userMaySave();
+    const bool mayBeSaved = outcome.queue == OVQueueSetup::State::SetUp && outcome.userMaySave;
+    outcome.unchanged = mayBeSaved && !sendUnchanged && OVSettingsSave::held(settings, queue);
     if (outcome.unchanged)
         outcome.save.result = OVSettingsSave::Result::Stored;
-    else if (outcome.queue == OVQueueSetup::State::SetUp)
+    else if (mayBeSaved)
         outcome.save = OVSettingsSave::save(settings, queue);
     qCDebug(orvoCore) << "save to" << queue << "queue state:" << int(outcome.queue)
+                      << "user may save:" << outcome.userMaySave
                       << "result:" << int(outcome.save.result) << "job:" << outcome.save.jobId;
     return outcome;
 }

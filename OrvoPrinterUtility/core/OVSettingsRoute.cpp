@@ -74,6 +74,10 @@ QByteArray setUpLine() {
     return QByteArray("*") + K::setUpKeyword + ": \"" + K::setUpValue + "\"";
 }
 
+QByteArray saversStart() {
+    return QByteArray("*") + K::saversKeyword + ": \"";
+}
+
 bool isOldRouteLine(const QByteArray &text) {
     return (text.startsWith("*cupsFilter:") || text.startsWith("*cupsFilter2:")) &&
            text.contains(K::updateDocumentFormat);
@@ -176,6 +180,34 @@ QByteArray OVSettingsRoute::added(const QByteArray &ppd) {
 
 QByteArray OVSettingsRoute::removed(const QByteArray &ppd) {
     return withoutSetUp(ppd, false).join();
+}
+
+// The first line counts, as libcups reads it.
+OrvoSavers OVSettingsRoute::savers(const QByteArray &ppd) {
+    for (const QByteArray &line : splitLines(ppd)) {
+        const QByteArray text = content(line);
+        if (text.startsWith(saversStart()))
+            return OrvoSavers::fromPpdValue(
+                text.size() > saversStart().size() && text.endsWith('"')
+                    ? text.mid(saversStart().size()).chopped(1).toStdString()
+                    : std::string("\""));
+    }
+    return {};
+}
+
+QByteArray OVSettingsRoute::withSavers(const QByteArray &ppd, const OrvoSavers &savers) {
+    Lines lines = splitLines(ppd);
+    lines.removeIf([](const QByteArray &line) { return content(line).startsWith(saversStart()); });
+    if (savers.everyone())
+        return lines.join();
+    const auto setUp = std::find_if(lines.begin(), lines.end(), [](const QByteArray &line) {
+        return content(line) == setUpLine();
+    });
+    const qsizetype at =
+        setUp != lines.end() ? setUp - lines.begin() + 1 : std::min<qsizetype>(1, lines.size());
+    lines.insert(at,
+                 saversStart() + QByteArray::fromStdString(savers.text()) + "\"" + lineEnd(lines));
+    return lines.join();
 }
 
 bool OVSettingsRoute::looksCut(const QByteArray &ppd) {

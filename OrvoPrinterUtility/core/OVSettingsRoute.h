@@ -1,5 +1,7 @@
 #pragma once
 
+#include "OrvoSavers.h"
+
 #include <QByteArray>
 
 // The line of a queue's PPD that lets the driver filter store settings in it,
@@ -18,6 +20,12 @@ public:
     // The PPD without the set-up line and the lines added with it; the
     // settings stay, saved ones included.
     static QByteArray removed(const QByteArray &ppd);
+
+    // Who may save, from the PPD's list line; everyone without one.
+    static OrvoSavers savers(const QByteArray &ppd);
+    // The PPD with the list's line, right after the set-up line, in place of
+    // any it had; for everyone, without one.
+    static QByteArray withSavers(const QByteArray &ppd, const OrvoSavers &savers);
 
     // Whether a PPD was cut short while it was written: it holds settings
     // but no page sizes (every PPD that prints has them; cupsd writes saved

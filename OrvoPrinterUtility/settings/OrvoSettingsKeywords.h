@@ -59,6 +59,9 @@ inline constexpr char driverFilter[] = "orvo-ppd-update";
 // in a PPD that carries it. Not a settings keyword, so no job can write it.
 inline constexpr char setUpKeyword[] = "OrvoSettingsUpdate";
 inline constexpr char setUpValue[] = "Accepted";
+// The PPD line that names who may save (OrvoSavers), beside the set-up line
+// and, like it, written by setup alone; no line: everyone.
+inline constexpr char saversKeyword[] = "OrvoSettingsSavers";
 
 inline constexpr Keyword all[] = {
     {UpdatePPDOptions, Encoding::JobMarker, 0},

@@ -171,7 +171,11 @@ void OVPrinterUtilityWindowController::enter(State state) {
     m_state = state;
     const bool idle = state == State::Idle;
     for (QWidget *control : settingsControls())
-        control->setEnabled(idle);
+        control->setEnabled(editable());
+    // Settings the user may not change can still be looked through, tab by tab.
+    m_ui->meinTabView->setEnabled(idle);
+    for (int i = 0; i < m_ui->meinTabView->count(); ++i)
+        m_ui->meinTabView->widget(i)->setEnabled(editable());
     m_messageBar->actionButton()->setEnabled(idle);
     const bool cancellable = state == State::Fetching || state == State::Saving;
     m_ui->cancelButton->setVisible(cancellable);
@@ -207,14 +211,18 @@ void OVPrinterUtilityWindowController::cancelButtonClicked(QObject *) {
         enter(State::Idle);
 }
 
+bool OVPrinterUtilityWindowController::editable() const {
+    return m_state == State::Idle && m_problem != OVWindowQueue::Problem::NotASaver;
+}
+
 void OVPrinterUtilityWindowController::constraintsSnmpItems() {
-    if (m_state != State::Idle)
+    if (!editable())
         return;
     m_ui->snmpCommunityText->setEnabled(m_ui->snmpCommunityCheck->isChecked());
 }
 
 void OVPrinterUtilityWindowController::constraintsWakeOnLanItems() {
-    if (m_state != State::Idle)
+    if (!editable())
         return;
     Ui::MainUtilityWindiw &c = *m_ui;
     const bool wake = c.wakeOnLANCheck->isChecked();

@@ -148,6 +148,8 @@ private:
     void createDataSources();
     void connectActions();
     void enter(State state);
+    // Idle, on a queue whose settings the user may change.
+    bool editable() const;
     void showProgress(const char *text);
     // Runs a task on the print server on the worker, within the limit of
     // such a task; done sees its result unless it was cancelled.

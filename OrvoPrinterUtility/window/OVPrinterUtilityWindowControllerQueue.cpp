@@ -11,6 +11,7 @@ using Problem = OVWindowQueue::Problem;
 
 void OVPrinterUtilityWindowController::showProblem(Problem problem) {
     m_problem = problem;
+    enter(m_state); // a read-only queue's settings are off
     if (problem == Problem::None) {
         m_messageBar->clearMessage();
         return;

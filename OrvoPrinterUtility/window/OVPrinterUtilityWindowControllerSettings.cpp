@@ -29,10 +29,14 @@ void OVPrinterUtilityWindowController::finishLoading(const OVWindowQueue::Loaded
 
 QList<QWidget *> OVPrinterUtilityWindowController::settingsControls() const {
     Ui::MainUtilityWindiw &c = *m_ui;
-    QList<QWidget *> controls = {c.snmpCommunityCheck,   c.snmpCommunityText,
-                                 c.wakeOnLANCheck,       c.overstepTheRouter,
-                                 c.printerIPAddressText, c.printerGetPrinterInfoButton,
-                                 c.meinTabView,          c.okButton};
+    // The tabs' pages are switched with the state on their own (enter).
+    QList<QWidget *> controls = {c.snmpCommunityCheck,
+                                 c.snmpCommunityText,
+                                 c.wakeOnLANCheck,
+                                 c.overstepTheRouter,
+                                 c.printerIPAddressText,
+                                 c.printerGetPrinterInfoButton,
+                                 c.okButton};
     for (QLineEdit *field : macAddressFields())
         controls << field;
     return controls;
@@ -125,6 +129,8 @@ void OVPrinterUtilityWindowController::saved(const OVWindowSave::Outcome &outcom
         showProblem(OVWindowQueue::Problem::Damaged);
     else if (outcome.queue == OVQueueSetup::State::NotSetUp)
         showProblem(OVWindowQueue::Problem::NotSetUp);
+    else if (!outcome.userMaySave)
+        showProblem(OVWindowQueue::Problem::NotASaver);
     alert(OVWindowSave::failureText(outcome, m_printerId, m_server));
 }
 

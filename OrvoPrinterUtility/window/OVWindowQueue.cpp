@@ -16,7 +16,8 @@ using OVChooserTexts::localized;
 
 // The one problem the bar names, when the load and the set-up check find
 // several: the first that keeps the others from being mended.
-Problem problemOf(Status loaded, State state) {
+Problem problemOf(Status loaded, const OVQueueSetup::Access &access) {
+    const State state = access.state;
     if (loaded == Status::ServerUnreachable || state == State::ServerUnreachable)
         return Problem::ServerUnreachable;
     if (state == State::QueueUnknown)
@@ -27,7 +28,9 @@ Problem problemOf(Status loaded, State state) {
         return Problem::NoPPD;
     if (loaded == Status::UnreadablePPD)
         return Problem::UnreadablePPD;
-    return state == State::NotSetUp ? Problem::NotSetUp : Problem::None;
+    if (state == State::NotSetUp)
+        return Problem::NotSetUp;
+    return access.userMaySave() ? Problem::None : Problem::NotASaver;
 }
 
 } // namespace
@@ -37,14 +40,15 @@ OVWindowQueue::Loaded OVWindowQueue::load(const QString &queue) {
     loaded.server = OVCupsConnection::serverName();
     OVSettingsSnapshot settings;
     const Status status = OVStoredSettings::load(queue, settings);
-    const State state =
-        status == Status::ServerUnreachable ? State::ServerUnreachable : OVQueueSetup::state(queue);
-    loaded.problem = problemOf(status, state);
+    const OVQueueSetup::Access access =
+        status == Status::ServerUnreachable ? OVQueueSetup::Access() : OVQueueSetup::access(queue);
+    loaded.problem = problemOf(status, access);
     // What a damaged PPD still holds is shown once the repair kept it: until
     // then the defaults would pass for the settings it lost.
     if (status == Status::Loaded && loaded.problem != Problem::Damaged)
         loaded.settings = settings;
-    qCDebug(orvoWindow) << "queue" << queue << "loaded:" << int(status) << "state:" << int(state);
+    qCDebug(orvoWindow) << "queue" << queue << "loaded:" << int(status)
+                        << "state:" << int(access.state);
     return loaded;
 }
 
@@ -75,6 +79,8 @@ QString OVWindowQueue::problemText(Problem problem, const QString &queue, const 
         return localized(unreadablePpd).arg(queue);
     case Problem::NotSetUp:
         return localized(queueNotSetUp).arg(queue);
+    case Problem::NotASaver:
+        return localized(notASaver).arg(queue);
     }
     return {};
 }

@@ -20,7 +20,8 @@ public:
         Damaged,
         NoPPD,
         UnreadablePPD,
-        NotSetUp
+        NotSetUp,
+        NotASaver, // the queue names who may save, and not this user: shown read-only
     };
 
     struct Loaded {

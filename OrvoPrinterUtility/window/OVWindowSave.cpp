@@ -42,6 +42,8 @@ QString OVWindowSave::failureText(const Outcome &outcome, const QString &queue,
         return OVWindowQueue::problemText(OVWindowQueue::Problem::QueueUnknown, queue, server);
     if (outcome.queue == OVQueueSetup::State::ServerUnreachable)
         return OVWindowQueue::problemText(OVWindowQueue::Problem::ServerUnreachable, queue, server);
+    if (!outcome.userMaySave)
+        return localized(notASaver).arg(queue);
     switch (save.result) {
     case Result::Stored:
         return {};

@@ -77,6 +77,9 @@ inline constexpr char repairNoDriver[] =
     "The print server has no driver for \"%2\", the printer of the queue \"%1\", so its PPD "
     "cannot be rebuilt. A print administrator can give the queue its driver (lpadmin -m), then "
     "set it up.";
+inline constexpr char notASaver[] =
+    "You may not change this queue's settings: the print queue \"%1\" names who may save them. "
+    "They are shown read-only.";
 // %2: the server's own words
 inline constexpr char setUpFailed[] = "The print queue \"%1\" could not be set up: %2";
 // %1: the server's own words
@@ -158,6 +161,7 @@ inline constexpr const char *localizedKeys[] = {
     setUpUnknown,
     repairNoDriver,
     setUpFailed,
+    notASaver,
     saveRefused,
     saveServerLost,
     saveJobStopped,

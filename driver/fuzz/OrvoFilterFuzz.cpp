@@ -112,7 +112,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size) {
     char *output = nullptr;
     std::size_t outputSize = 0;
     std::FILE *out = open_memstream(&output, &outputSize);
-    OrvoPPDUpdateFilter::handleOptions(text.c_str(), out);
+    OrvoPPDUpdateFilter::handleOptions("fuzz", text.c_str(), out);
     std::fclose(out);
     const Options job = parse(text.c_str());
     const Options handed = handedAttributes(std::string_view(output, outputSize), job);

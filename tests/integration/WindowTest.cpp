@@ -2,9 +2,11 @@
 #include "AlertRecorder.h"
 #include "CupsServerEnvironment.h"
 #include "OVCustomRestrictedTextField.h"
+#include "OVMessageBar.h"
 #include "OVNotificationCenter.h"
 #include "OVPreferredLanguages.h"
 #include "OVPrinterUtilityWindowController.h"
+#include "OVQueueSetup.h"
 #include "OVTableViewDataSource.h"
 #include "PrivateNetwork.h"
 #include "SimulatedPrinter.h"
@@ -471,6 +473,43 @@ TEST_F(WindowTest, SaveToAStoppedServerEndsWithinItsLimit) {
                 m_alerts.first().contains("cannot be reached"))
         << m_alerts.first().toStdString();
     EXPECT_EQ(m_c->printerIPAddressText->text(), "192.0.2.7");
+}
+
+// On a queue that names who may save, and not this user, the settings show read-only with the
+// reason in the bar, and the tabs still switch. Named, the user saves; taken off the list
+// after the window opened, OK refuses before anything is sent.
+TEST_F(WindowTest, OnlyTheNamedUsersSave) {
+    CupsServer &cups = CupsServerEnvironment::server();
+    ASSERT_TRUE(cups.addQueue("Named"));
+    const auto name = [](const char *savers) {
+        EXPECT_EQ(OVQueueSetup::setUp("Named", OrvoSavers::parse(savers)).outcome,
+                  OVQueueSetup::Outcome::Changed);
+    };
+    name("alice,@orvo-nobody");
+    open("Named");
+    EXPECT_EQ(m_window->messageBar()->text(),
+              "You may not change this queue's settings: the print queue \"Named\" names who may "
+              "save them. They are shown read-only.");
+    EXPECT_EQ(settingsControlsOn(m_window->mainWindowObject(), *m_c), QList<QWidget *>());
+    EXPECT_TRUE(m_c->meinTabView->isEnabled());
+
+    name("alice,root");
+    open("Named");
+    EXPECT_TRUE(m_c->okButton->isEnabled() && m_c->snmpCommunityCheck->isEnabled());
+    name("alice");
+    const int jobsBefore = cups.lastJob();
+    click(m_c->okButton);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !m_alerts.isEmpty(); }, 30000));
+    EXPECT_EQ(m_alerts, QStringList{m_window->messageBar()->text()});
+    EXPECT_FALSE(m_c->okButton->isEnabled());
+    EXPECT_EQ(cups.lastJob(), jobsBefore);
+
+    name("all");
+    open("Named");
+    QSignalSpy terminated(m_window.get(), &Controller::applicationShouldTerminate);
+    click(m_c->okButton);
+    EXPECT_TRUE(terminated.wait(30000)); // saved and closed
+    EXPECT_GT(cups.lastJob(), jobsBefore);
 }
 
 } // namespace

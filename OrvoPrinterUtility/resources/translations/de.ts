@@ -676,6 +676,10 @@
         <translation>Dem Druckserver %1 fehlt der Treiberfilter des Dienstprogramms, daher können seine Warteschlangen nicht eingerichtet werden. Installieren Sie das Dienstprogramm zuerst auf dem Druckserver.</translation>
     </message>
     <message>
+        <source>You may not change this queue's settings: the print queue "%1" names who may save them. They are shown read-only.</source>
+        <translation>Sie dürfen die Einstellungen dieser Warteschlange nicht ändern: Die Druckwarteschlange „%1“ legt fest, wer sie speichern darf. Sie werden schreibgeschützt angezeigt.</translation>
+    </message>
+    <message>
         <source>The print queue "%1" could not be set up: %2</source>
         <translation>Die Druckwarteschlange „%1“ konnte nicht eingerichtet werden: %2</translation>
     </message>

@@ -676,6 +676,10 @@
         <translation>The print server %1 lacks the utility's driver filter, so its queues cannot be set up. Install the utility on the print server first.</translation>
     </message>
     <message>
+        <source>You may not change this queue's settings: the print queue "%1" names who may save them. They are shown read-only.</source>
+        <translation>You may not change this queue's settings: the print queue "%1" names who may save them. They are shown read-only.</translation>
+    </message>
+    <message>
         <source>The print queue "%1" could not be set up: %2</source>
         <translation>The print queue "%1" could not be set up: %2</translation>
     </message>

@@ -676,6 +676,10 @@
         <translation>Le filtre de pilote de l’utilitaire manque sur le serveur d’impression %1 : ses files d’attente ne peuvent pas être configurées. Installez d’abord l’utilitaire sur le serveur d’impression.</translation>
     </message>
     <message>
+        <source>You may not change this queue's settings: the print queue "%1" names who may save them. They are shown read-only.</source>
+        <translation>Vous ne pouvez pas modifier les réglages de cette file : la file d’impression « %1 » désigne qui peut les enregistrer. Ils sont affichés en lecture seule.</translation>
+    </message>
+    <message>
         <source>The print queue "%1" could not be set up: %2</source>
         <translation>La file d’attente « %1 » n’a pas pu être configurée : %2</translation>
     </message>

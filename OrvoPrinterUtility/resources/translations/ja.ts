@@ -676,6 +676,10 @@
         <translation>プリントサーバー %1 にはユーティリティのドライバーフィルターがないため、キューを設定できません。先にプリントサーバーにユーティリティをインストールしてください。</translation>
     </message>
     <message>
+        <source>You may not change this queue's settings: the print queue "%1" names who may save them. They are shown read-only.</source>
+        <translation>このキューの設定は変更できません: プリントキュー「%1」では設定を保存できるユーザーが指定されています。設定は読み取り専用で表示されます。</translation>
+    </message>
+    <message>
         <source>The print queue "%1" could not be set up: %2</source>
         <translation>プリントキュー「%1」を設定できませんでした: %2</translation>
     </message>

@@ -676,6 +676,10 @@
         <translation>打印服务器 %1 缺少本实用程序的驱动程序过滤器，因此无法设置其队列。请先在打印服务器上安装本实用程序。</translation>
     </message>
     <message>
+        <source>You may not change this queue's settings: the print queue "%1" names who may save them. They are shown read-only.</source>
+        <translation>您不能更改此队列的设置：打印队列“%1”指定了可以保存设置的用户。设置以只读方式显示。</translation>
+    </message>
+    <message>
         <source>The print queue "%1" could not be set up: %2</source>
         <translation>无法设置打印队列“%1”：%2</translation>
     </message>

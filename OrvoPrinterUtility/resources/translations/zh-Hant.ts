@@ -676,6 +676,10 @@
         <translation>列印伺服器 %1 缺少本公用程式的驅動程式過濾器，因此無法設定其佇列。請先在列印伺服器上安裝本公用程式。</translation>
     </message>
     <message>
+        <source>You may not change this queue's settings: the print queue "%1" names who may save them. They are shown read-only.</source>
+        <translation>您不能變更此佇列的設定：列印佇列「%1」指定了可以儲存設定的使用者。設定以唯讀方式顯示。</translation>
+    </message>
+    <message>
         <source>The print queue "%1" could not be set up: %2</source>
         <translation>無法設定列印佇列「%1」：%2</translation>
     </message>
