@@ -10,6 +10,16 @@ execute_process(COMMAND gzip -9nf ${PROJECT_BINARY_DIR}/changelog)
 install(FILES ${PROJECT_BINARY_DIR}/changelog.gz
         DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/${ORVO_PACKAGE_NAME})
 
+# The maintainer scripts: CUPS reloads after the install (postinst configure)
+# and after the removal (postrm remove), from one script.
+foreach(script postinst:configure postrm:remove)
+    string(REPLACE ":" ";" script ${script})
+    list(GET script 1 ORVO_RELOAD_WHEN)
+    list(GET script 0 script)
+    configure_file(${ORVO_PACKAGING_DIR}/maintainer-script.in ${PROJECT_BINARY_DIR}/${script}
+                   @ONLY)
+    list(APPEND CPACK_DEBIAN_PACKAGE_CONTROL_EXTRA ${PROJECT_BINARY_DIR}/${script})
+endforeach()
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME ${ORVO_PACKAGE_NAME})
 set(CPACK_PACKAGE_VERSION ${PROJECT_VERSION})

@@ -8,8 +8,11 @@
 #include <functional>
 #include <optional>
 
-// The command line's frame: subcommand dispatch, the options every
-// subcommand has (--help, --json, -h SERVER[:PORT]), exit codes and output.
+#include <cups/http.h>
+
+// The command line's frame: subcommand dispatch, the options a subcommand has
+// by what it reaches (--help and --json always; --timeout for a printer or a
+// server; -h SERVER[:PORT] and -U USER for a server), exit codes and output.
 class OVCommandLine {
 public:
     enum Exit {
@@ -25,8 +28,12 @@ public:
         PrinterAnswerUnusable = 9, // an error status, or data that cannot be read
     };
 
+    // What a subcommand talks to, which decides the frame's options it takes.
+    enum class Reach { File, Printer, Server };
+
     struct Command {
         const char *name;
+        Reach reach;
         const char *arguments; // shown in the usage line
         const char *summary;
         std::function<void(QCommandLineParser &)> addOptions;
@@ -42,6 +49,17 @@ public:
     static void warn(const QString &message);
     // The CUPS server did not answer: not reachable, or not within --timeout.
     static int serverFailure();
+    // The CUPS server in use as messages name it: host, host:port when the
+    // port is not the usual one, or the local socket's path.
+    static QString server();
+    // The server has no such queue.
+    static int queueUnknown(const QString &queue);
+    // A command to run next, with the -h and -U this one was given, so that a
+    // hint reaches the same server as the same user: withServer("lpadmin",
+    // "-p q") gives "lpadmin -h host:port -p q".
+    static QString withServer(const QString &program, const QString &rest);
+    // As withServer, for one of this program's subcommands.
+    static QString hint(const QString &subcommand, const QString &rest);
     // A name or value for text output: control characters (C0, DEL, C1), the
     // characters that reorder or break a line (OVLineControls) and the
     // backslash are shown escaped, so that text any user who may print can
@@ -56,4 +74,13 @@ private:
     static QString overview();
     static QString usage(const Command &command);
     static int runCommand(const Command &command, const QStringList &arguments);
+    static void addFrameOptions(QCommandLineParser &parser, Reach reach);
+    // Applies -h and -U and the password prompt; the arguments that repeat
+    // them in hints are kept.
+    static void useServer(const QCommandLineParser &parser);
+    // Asked on a terminal only: a script gets the refusal instead of a hang.
+    static const char *askPassword(const char *prompt, http_t *, const char *, const char *,
+                                   void *);
+
+    static QStringList s_serverArguments;
 };

@@ -6,6 +6,7 @@
 #include "OVTaskToken.h"
 #include "OVWakeOnLanHelper.h"
 #include "OrvoSettingsKeywords.h"
+#include "OrvoSettingsRules.h"
 
 #include <QJsonArray>
 #include <QJsonObject>
@@ -16,12 +17,17 @@
 namespace {
 
 using Exit = OVCommandLine::Exit;
-const QCommandLineOption addressOption("address", "The printer's IPv4 or IPv6 address.", "addr");
+const QCommandLineOption addressOption("address",
+                                       "The printer's IPv4 or IPv6 address or host name.", "addr");
 const QCommandLineOption communityOption("community", "SNMP community (default \"cobalt\").",
                                          "name", OrvoSettingsKeywords::defaultCommunity);
-const QCommandLineOption wakeOption("wake", "Wake the printer first (needs --mac).");
-const QCommandLineOption macOption("mac", "The printer's MAC address, for --wake.", "mac");
-const QCommandLineOption routerOption("over-router", "Wake the printer across a router.");
+const QCommandLineOption wakeOption("wake", "Wake the printer first (needs --mac-address).");
+// The spellings of save's options for the same settings; the short ones
+// stay for scripts written before.
+const QCommandLineOption macOption({"mac-address", "mac"}, "The printer's MAC address, for --wake.",
+                                   "mac");
+const QCommandLineOption routerOption({"over-router", "overRouter"},
+                                      "Wake the printer across a router.");
 
 // A printer stays silent both when nothing answers at the address and when
 // the community is not the printer's: SNMP v1 does not tell the two apart.
@@ -93,16 +99,18 @@ void print(const QString &address, const OVPrinterInfoFetch::Result &fetched, bo
     const QStringList &barcodes = *fetched.barcodeAreas;
     const QStringList &profiles = *fetched.colorProfiles;
 
-    QJsonArray boxes;
+    // The names take the shape of the stored setting (show --json), so that
+    // they can be saved as they are; each folder's state stands at its index.
+    QStringList states;
     QStringList boxLines;
     for (qsizetype i = 0; i < boxNames.size(); ++i) {
-        const QString state = fetched.folderStates->value(i);
-        boxes.append(QJsonObject{{"name", boxNames.at(i)}, {"state", state}});
-        boxLines << QStringLiteral("%1 [%2]").arg(boxNames.at(i), state);
+        states << fetched.folderStates->value(i);
+        boxLines << QStringLiteral("%1 [%2]").arg(boxNames.at(i), states.last());
     }
     const QJsonObject result{{"address", address},
                              {"macAddress", mac},
-                             {"sharedFolders", boxes},
+                             {"sharedFolders", QJsonArray::fromStringList(boxNames)},
+                             {"sharedFolderStates", QJsonArray::fromStringList(states)},
                              {"adminLoginMode", adminLogin},
                              {"forms", QJsonArray::fromStringList(forms)},
                              {"barcodeAreas", QJsonArray::fromStringList(barcodes)},
@@ -126,11 +134,15 @@ int OVFetchCommand::run(const QCommandLineParser &parser, bool json) {
     if (address.isEmpty())
         return OVCommandLine::fail(Exit::Usage, "--address is required");
     if (parser.isSet(wakeOption) && !parser.isSet(macOption))
-        return OVCommandLine::fail(Exit::Usage, "--wake needs --mac");
+        return OVCommandLine::fail(Exit::Usage, "--wake needs --mac-address");
+    if (!OrvoSettingsRules::printerAddress(address.toStdString()).ok())
+        return OVCommandLine::fail(Exit::Usage, "--address takes an IPv4 or IPv6 address or a "
+                                                "host name, not \"" +
+                                                    address + "\"");
     if (parser.isSet(macOption) && !isMacAddress(parser.value(macOption)))
-        return OVCommandLine::fail(Exit::Usage,
-                                   "--mac takes six hexadecimal octets separated by \":\" or "
-                                   "\"-\", such as 00:11:22:aa:bb:cc");
+        return OVCommandLine::fail(
+            Exit::Usage, "--mac-address takes six hexadecimal octets separated by \":\" or "
+                         "\"-\", such as 00:11:22:aa:bb:cc");
     if (parser.isSet(wakeOption) && !wake(address, community, parser))
         return silent(address, "it did not wake up");
     const OVPrinterInfoFetch::Result fetched =

@@ -1,6 +1,7 @@
 #include "OVQueueCommands.h"
 
 #include "OVCommandLine.h"
+#include "OVCupsConnection.h"
 #include "OVQueueSetup.h"
 #include "OVSaveTask.h"
 #include "OVSettingsFields.h"
@@ -30,10 +31,9 @@ const QCommandLineOption settingsFileOption(
 // A damaged PPD says nothing true about the settings, so nothing is shown
 // from it: the way back is named instead.
 int damagedFailure(const QString &queue, const QString &when = {}) {
-    return OVCommandLine::fail(Exit::Failed, "the PPD of \"" + queue + "\" is damaged" + when +
-                                                 ": repair it with: orvo-printer-utility-cli "
-                                                 "setup --repair " +
-                                                 queue);
+    return OVCommandLine::fail(
+        Exit::Failed, "the PPD of \"" + queue + "\" is damaged" + when +
+                          ": repair it with: " + OVCommandLine::hint("setup", "--repair " + queue));
 }
 
 int loadFailure(OVStoredSettings::Status status, const QString &queue) {
@@ -43,7 +43,7 @@ int loadFailure(OVStoredSettings::Status status, const QString &queue) {
     case OVQueueSetup::State::ServerUnreachable:
         return OVCommandLine::serverFailure();
     case OVQueueSetup::State::QueueUnknown:
-        return OVCommandLine::fail(Exit::QueueUnknown, "no queue \"" + queue + "\" on the server");
+        return OVCommandLine::queueUnknown(queue);
     case OVQueueSetup::State::Damaged:
         return damagedFailure(queue);
     default:
@@ -61,14 +61,17 @@ int jobFailure(const OVUpdateJob::JobOutcome &outcome, int jobId) {
     switch (outcome.end) {
     case End::Vanished:
         return OVCommandLine::fail(
-            Exit::Failed, QStringLiteral("update job %1 is gone from the server before it ended "
-                                         "(cancelled, or the server restarted); nothing was stored")
-                              .arg(jobId));
+            Exit::Failed, QStringLiteral("update job %1 is gone from the CUPS server %2 before it "
+                                         "ended (cancelled, or the server restarted); nothing was "
+                                         "stored")
+                              .arg(jobId)
+                              .arg(OVCommandLine::server()));
     case End::ServerLost:
         return OVCommandLine::fail(
             Exit::ServerUnreachable,
-            QStringLiteral("the CUPS server stopped answering while update job %1 ran; whether it "
-                           "was applied shows once the server is back (\"show\")")
+            QStringLiteral("the CUPS server %1 stopped answering while update job %2 ran; whether "
+                           "it was applied shows once the server is back (\"show\")")
+                .arg(OVCommandLine::server())
                 .arg(jobId));
     case End::Pending:
         return OVCommandLine::fail(
@@ -91,11 +94,10 @@ int notReadyToSave(OVQueueSetup::State state, const QString &queue) {
     case OVQueueSetup::State::NotSetUp:
         return OVCommandLine::fail(Exit::Refused, "the queue \"" + queue +
                                                       "\" is not set up for the utility; nothing "
-                                                      "was sent. Set it up with: "
-                                                      "orvo-printer-utility-cli setup " +
-                                                      queue);
+                                                      "was sent. Set it up with: " +
+                                                      OVCommandLine::hint("setup", queue));
     case OVQueueSetup::State::QueueUnknown:
-        return OVCommandLine::fail(Exit::QueueUnknown, "no queue \"" + queue + "\" on the server");
+        return OVCommandLine::queueUnknown(queue);
     case OVQueueSetup::State::Damaged:
         return damagedFailure(queue, "; nothing was sent");
     default:
@@ -122,13 +124,16 @@ int notASaver(const QString &queue) {
 int submissionFailure(const OVSettingsSave::Outcome &outcome) {
     if (OVSettingsSave::serverLost(outcome.refusal))
         return OVCommandLine::fail(Exit::ServerUnreachable,
-                                   "the CUPS server stopped answering while the update job was "
-                                   "sent; whether it arrived shows once the server is back "
-                                   "(\"show\")");
-    return OVCommandLine::fail(
-        Exit::Failed,
-        QStringLiteral("the server refused the update job: %1 (%2)")
-            .arg(QString::fromUtf8(ippErrorString(outcome.refusal)), outcome.refusalText));
+                                   "the CUPS server " + OVCommandLine::server() +
+                                       " stopped answering while the update job was sent; "
+                                       "whether it arrived shows once the server is back "
+                                       "(\"show\")");
+    return OVCommandLine::fail(Exit::Failed,
+                               QStringLiteral("the CUPS server %1 refused the update "
+                                              "job: %2 (%3)")
+                                   .arg(OVCommandLine::server(),
+                                        QString::fromUtf8(ippErrorString(outcome.refusal)),
+                                        outcome.refusalText));
 }
 
 // What became of a sent update job.
@@ -149,6 +154,7 @@ int saved(const OVSettingsSave::Outcome &outcome, const QString &queue, bool jso
     const int jobId = outcome.jobId;
     const QStringList &differing = outcome.differing;
     QJsonObject result{{"queue", queue},
+                       {"changed", true},
                        {"job", jobId},
                        {"stored", differing.isEmpty()},
                        {"differing", QJsonArray::fromStringList(differing)}};
@@ -172,6 +178,22 @@ int saved(const OVSettingsSave::Outcome &outcome, const QString &queue, bool jso
     return Exit::Success;
 }
 
+// The server's default queue; empty when it has none.
+QString defaultQueue() {
+    const OVCupsConnection connection;
+    if (!connection)
+        return {};
+    static const char *const wanted[] = {"printer-name"};
+    ipp_t *request = ippNewRequest(IPP_OP_CUPS_GET_DEFAULT);
+    ippAddStrings(request, IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes",
+                  std::size(wanted), nullptr, wanted);
+    ipp_t *response = cupsDoRequest(connection.http(), request, "/");
+    const QString name = QString::fromUtf8(
+        ippGetString(ippFindAttribute(response, "printer-name", IPP_TAG_NAME), 0, nullptr));
+    ippDelete(response);
+    return name;
+}
+
 QString readSettingsFile(const QString &path, QJsonObject &json) {
     QFile file(path);
     const bool opened =
@@ -193,27 +215,37 @@ int OVQueueCommands::list(const QCommandLineParser &, bool json) {
     const auto queues = OVQueueSetup::queues();
     if (!queues)
         return OVCommandLine::serverFailure();
-    QJsonArray rows;
-    QString text;
-    qsizetype width = 0;
+    const QString byDefault = defaultQueue();
+    const QString queueTitle = QStringLiteral("QUEUE");
+    qsizetype width = queueTitle.size();
     for (const OVQueueSetup::Queue &queue : *queues)
         width = std::max(width, OVCommandLine::visible(queue.name).size());
+    // "*" marks the default queue, as lpstat -d would name it.
+    const auto line = [width](bool isDefault, const QString &name, const QString &state,
+                              const QString &makeAndModel) {
+        return QStringLiteral("%1 %2  %3  %4\n")
+            .arg(isDefault ? "*" : " ", name.leftJustified(width), state.leftJustified(10),
+                 makeAndModel);
+    };
+    QJsonArray rows;
+    QString text = line(false, queueTitle, "STATE", "MAKE AND MODEL");
     for (const OVQueueSetup::Queue &queue : *queues) {
+        const bool isDefault = queue.name == byDefault;
         rows << QJsonObject{{"queue", queue.name},
+                            {"default", isDefault},
                             {"setUp", queue.setUp},
                             {"damaged", queue.damaged},
                             {"description", queue.description},
                             {"makeAndModel", queue.makeAndModel},
                             {saversKey, QString::fromStdString(queue.savers.text())}};
         text +=
-            QStringLiteral("%1  %2  %3%4\n")
-                .arg(OVCommandLine::visible(queue.name).leftJustified(width),
-                     queue.damaged ? "damaged   "
-                     : queue.setUp ? "set up    "
-                                   : "not set up",
-                     OVCommandLine::visible(queue.makeAndModel),
-                     queue.savers.everyone() ? QString()
-                                             : "  (saved by: " + saversText(queue.savers) + ")");
+            line(isDefault, OVCommandLine::visible(queue.name),
+                 queue.damaged ? "damaged"
+                 : queue.setUp ? "set up"
+                               : "not set up",
+                 OVCommandLine::visible(queue.makeAndModel) +
+                     (queue.savers.everyone() ? QString()
+                                              : "  (saved by: " + saversText(queue.savers) + ")"));
     }
     OVCommandLine::print(json, rows, text);
     return Exit::Success;
@@ -265,7 +297,7 @@ int OVQueueCommands::save(const QCommandLineParser &parser, bool json) {
         error = OVSettingsFields::apply(parser, settings);
     if (!error.isEmpty())
         return OVCommandLine::fail(Exit::Usage, error);
-    const OVSaveTask::Outcome task = OVSaveTask::run(settings, queue);
+    const OVSaveTask::Outcome task = OVSaveTask::run(settings, queue, false);
     // A value the settings' rules refuse is a usage error; settings each
     // well formed that the PPD or one update job cannot carry are refused.
     if (const OrvoSettingsVerdict &verdict = task.verdict; !verdict.ok())
@@ -275,5 +307,10 @@ int OVQueueCommands::save(const QCommandLineParser &parser, bool json) {
         return notReadyToSave(task.queue, queue);
     if (!task.userMaySave)
         return notASaver(queue);
+    if (task.unchanged) {
+        OVCommandLine::print(json, QJsonObject{{"queue", queue}, {"changed", false}},
+                             "The PPD holds these settings already; no update job was sent.\n");
+        return Exit::Success;
+    }
     return saved(task, queue, json);
 }

@@ -18,6 +18,8 @@ struct Field {
     Member member;
     const char *description;
     const char *keyword; // the settings keyword the field is stored under
+    // Kept by the utility itself: in JSON, which round-trips, but no option.
+    bool internal = false;
 };
 
 namespace K = OrvoSettingsKeywords;
@@ -25,7 +27,7 @@ namespace K = OrvoSettingsKeywords;
 using S = OVSettingsSnapshot;
 const Field fields[] = {
     {"optionsUpdated", &S::isPPDOptionsUpdated, "Settings were saved by the utility (true/false).",
-     K::PPDOptionsUpdated},
+     K::PPDOptionsUpdated, true},
     {"customCommunity", &S::snmpCommunityCheck, "Use the community below (true/false).",
      K::IsCustomSnmpCommunity},
     {"community", &S::snmpCommunityText, "SNMP community name.", K::SnmpCommunityName},
@@ -43,7 +45,7 @@ const Field fields[] = {
     {"chosenFolders", &S::selectedSharedBoxNames, "Shared folders chosen for this queue.",
      K::SelSharedBoxName},
     {"chosenFolderIndexes", &S::selectedSharedBoxIndex, "Shared-folder row of each chosen folder.",
-     K::SelSharedBoxIndex},
+     K::SelSharedBoxIndex, true},
     {"personalFolder", &S::folderPersonalFolderCheck, "Use the personal folder (true/false).",
      K::UsePersonalFolder},
     {"adminLoginMode", &S::bAdminLoginModeEnabled, "Printer has admin login mode (true/false).",
@@ -146,6 +148,15 @@ std::optional<QJsonValue> jsonOfOptionTexts(const Member &member, const QStringL
                       member);
 }
 
+// The documented spelling of a field's option is kebab-case, as CUPS's and
+// most tools' options are; the JSON key is accepted as well.
+QStringList optionNames(const char *key) {
+    QString kebab;
+    for (const QChar c : QString::fromLatin1(key))
+        kebab += c.isUpper() ? QStringLiteral("-") + c.toLower() : QString(c);
+    return kebab == key ? QStringList{kebab} : QStringList{kebab, key};
+}
+
 QString invalidValue(const char *key) {
     return QStringLiteral("invalid value for \"%1\"").arg(key);
 }
@@ -179,8 +190,10 @@ QString OVSettingsFields::toText(const OVSettingsSnapshot &settings) {
 
 QList<QCommandLineOption> OVSettingsFields::options() {
     QList<QCommandLineOption> options;
-    for (const Field &field : fields)
-        options.append({field.key, field.description, "value"});
+    for (const Field &field : fields) {
+        if (!field.internal)
+            options.append({optionNames(field.key), field.description, "value"});
+    }
     return options;
 }
 
@@ -199,7 +212,7 @@ QString OVSettingsFields::apply(const QJsonObject &json, OVSettingsSnapshot &set
 QString OVSettingsFields::apply(const QCommandLineParser &parser, OVSettingsSnapshot &settings) {
     QJsonObject json;
     for (const Field &field : fields) {
-        if (!parser.isSet(field.key))
+        if (field.internal || !parser.isSet(field.key))
             continue;
         const auto value = jsonOfOptionTexts(field.member, parser.values(field.key));
         if (!value)

@@ -17,7 +17,9 @@ public:
     static QJsonObject toJson(const OVSettingsSnapshot &settings);
     static QString toText(const OVSettingsSnapshot &settings);
 
-    // Every field as a `save` option (--KEY VALUE; list fields repeat).
+    // Every field an administrator sets as a `save` option: --kebab-key VALUE
+    // (--camelKey too); list fields repeat. The utility's own bookkeeping
+    // (whether it saved, the chosen folders' rows) is JSON only.
     static QList<QCommandLineOption> options();
     // Applies the JSON object's keys, then the options given; an empty result
     // on success, else what was wrong.

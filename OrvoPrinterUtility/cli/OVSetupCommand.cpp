@@ -4,14 +4,12 @@
 #include "OVQueueSetup.h"
 #include "OrvoSavers.h"
 
+#include <QFileInfo>
 #include <QJsonObject>
 
 #include <cups/cups.h>
 
-#include <cstdio>
-#include <cstring>
-#include <termios.h>
-#include <unistd.h>
+#include <optional>
 
 namespace {
 
@@ -27,8 +25,6 @@ const QCommandLineOption saversOption(
     "Who may save settings on the queue: users and @groups separated by commas, or \"all\" "
     "(the default). Without it the queue keeps whom it names.",
     "list");
-// libcups asks again after a wrong password; three tries, as login programs allow.
-constexpr int passwordTries = 3;
 
 enum class Action { SetUp, Remove, Repair };
 
@@ -51,7 +47,53 @@ QString doneText(const QString &queue, Action action, bool changed) {
 }
 
 QString repairCommand(const QString &queue) {
-    return "orvo-printer-utility-cli setup --repair " + queue;
+    return OVCommandLine::hint("setup", "--repair " + queue);
+}
+
+// Where cupsd reads MIME files and runs filters from: the folders it was
+// built with unless its environment names others.
+QString cupsFolder(const char *variable, const char *builtIn) {
+    return qEnvironmentVariable(variable, QString::fromUtf8(builtIn));
+}
+
+QString mimeFile(const char *suffix) {
+    return cupsFolder("CUPS_DATADIR", ORVO_CUPS_DATADIR) + "/mime/orvo-printer-utility." + suffix;
+}
+
+// Whether the server runs on this machine and the utility's filter and MIME
+// files are installed here: a server that lacks the type then has not read
+// them since they came, which a reload mends.
+bool installedHere() {
+    const QString host = QString::fromUtf8(cupsServer());
+    const bool local = host.startsWith('/') || host == "localhost" || host.startsWith("127.") ||
+                       host == "::1" || host == "[::1]";
+    const QString filter =
+        cupsFolder("CUPS_SERVERBIN", ORVO_CUPS_SERVERBIN) + "/filter/orvo-ppd-update";
+    return local && QFileInfo(filter).isExecutable() && QFileInfo::exists(mimeFile("types")) &&
+           QFileInfo::exists(mimeFile("convs"));
+}
+
+// As the package's maintainer scripts reload it: Debian's cups unit cannot
+// reload, so systemd restarts it; the init script sends cupsd a hangup.
+QString reloadCommand() {
+    return QFileInfo::exists("/run/systemd/system")
+               ? QStringLiteral("systemctl try-reload-or-restart cups")
+               : QStringLiteral("invoke-rc.d cups force-reload");
+}
+
+int lacksRoute(const QString &unchanged) {
+    if (installedHere())
+        return OVCommandLine::fail(
+            Exit::Failed, "the CUPS server " + OVCommandLine::server() +
+                              " has not read the utility's MIME files installed on this machine: "
+                              "reload CUPS so that it reads " +
+                              mimeFile("types") + " and " + mimeFile("convs") + " (" +
+                              reloadCommand() + ")" + unchanged);
+    return OVCommandLine::fail(Exit::Failed, "the CUPS server " + OVCommandLine::server() +
+                                                 " cannot route the utility's saves: install the "
+                                                 "Orvo Printer Utility (its filter and MIME files) "
+                                                 "on the print server" +
+                                                 unchanged);
 }
 
 int failure(const OVQueueSetup::Result &result, const QString &queue) {
@@ -60,7 +102,8 @@ int failure(const OVQueueSetup::Result &result, const QString &queue) {
     case Outcome::Unknown:
         return OVCommandLine::fail(
             Exit::ServerUnreachable,
-            "the CUPS server stopped answering after the change was sent, so whether \"" + queue +
+            "the CUPS server " + OVCommandLine::server() +
+                " stopped answering after the change was sent, so whether \"" + queue +
                 "\" took it is unknown; run the same command again once the server answers: it "
                 "changes only what is not done yet");
     case Outcome::Damaged:
@@ -71,14 +114,15 @@ int failure(const OVQueueSetup::Result &result, const QString &queue) {
         return OVCommandLine::fail(Exit::Failed,
                                    "no driver on the server has the queue's make and model \"" +
                                        result.detail + "\"" + unchanged +
-                                       "; give the queue its driver with: lpadmin -p " + queue +
-                                       " -m DRIVER (\"lpinfo -m\" lists them), then run: "
-                                       "orvo-printer-utility-cli setup " +
-                                       queue + " (settings the damaged PPD held are lost then)");
+                                       "; give the queue its driver with: " +
+                                       OVCommandLine::withServer("lpadmin", "-p " + queue) +
+                                       " -m DRIVER (\"lpinfo -m\" lists them), then run: " +
+                                       OVCommandLine::hint("setup", queue) +
+                                       " (settings the damaged PPD held are lost then)");
     case Outcome::ServerUnreachable:
         return OVCommandLine::serverFailure();
     case Outcome::QueueUnknown:
-        return OVCommandLine::fail(Exit::QueueUnknown, "no queue \"" + queue + "\" on the server");
+        return OVCommandLine::queueUnknown(queue);
     case Outcome::NoPPD:
         return OVCommandLine::fail(Exit::Refused, "the queue \"" + queue +
                                                       "\" has no PPD, so it cannot keep settings" +
@@ -86,25 +130,15 @@ int failure(const OVQueueSetup::Result &result, const QString &queue) {
     case Outcome::NotAuthorized:
         return OVCommandLine::fail(
             Exit::NotAuthorized,
-            "the server refused: changing a queue needs a print administrator (" + result.detail +
-                ")" + unchanged);
+            "the CUPS server " + OVCommandLine::server() + " refused " +
+                QString::fromUtf8(cupsUser()) + ": changing a queue needs a print administrator (" +
+                result.detail + ")" + unchanged + "; -U USER names another user");
     case Outcome::ServerLacksRoute:
-        return OVCommandLine::fail(
-            Exit::Failed, "the server cannot route the utility's saves: install the Orvo Printer "
-                          "Utility (its filter and MIME files) on the print server" +
-                              unchanged);
+        return lacksRoute(unchanged);
     default:
         return OVCommandLine::fail(Exit::Failed, "the change to \"" + queue +
                                                      "\" did not succeed: " + result.detail);
     }
-}
-
-void setEcho(bool on) {
-    termios mode{};
-    if (tcgetattr(STDIN_FILENO, &mode) != 0)
-        return;
-    mode.c_lflag = on ? (mode.c_lflag | ECHO) : (mode.c_lflag & ~tcflag_t(ECHO));
-    tcsetattr(STDIN_FILENO, TCSAFLUSH, &mode);
 }
 
 } // namespace
@@ -113,23 +147,6 @@ void OVSetupCommand::addOptions(QCommandLineParser &parser) {
     parser.addOption(removeOption);
     parser.addOption(repairOption);
     parser.addOption(saversOption);
-}
-
-// Asked on a terminal only: a script gets the refusal instead of a hang.
-const char *OVSetupCommand::askPassword(const char *prompt, http_t *, const char *, const char *,
-                                        void *tries) {
-    static char password[256];
-    if (!isatty(STDIN_FILENO) || ++*static_cast<int *>(tries) > passwordTries)
-        return nullptr;
-    std::fprintf(stderr, "%s ", prompt);
-    setEcho(false);
-    const bool read = std::fgets(password, sizeof password, stdin) != nullptr;
-    setEcho(true);
-    std::fputc('\n', stderr);
-    if (!read)
-        return nullptr;
-    password[std::strcspn(password, "\r\n")] = '\0';
-    return password;
 }
 
 int OVSetupCommand::run(const QCommandLineParser &parser, bool json) {
@@ -153,8 +170,6 @@ int OVSetupCommand::run(const QCommandLineParser &parser, bool json) {
                     .arg(OrvoSavers::nameLimit)
                     .arg(OrvoSavers::textLimit));
     }
-    int tries = 0;
-    cupsSetPasswordCB2(askPassword, &tries);
     const OVQueueSetup::Result result = action == Action::Remove ? OVQueueSetup::remove(queue)
                                         : action == Action::Repair
                                             ? OVQueueSetup::repair(queue)

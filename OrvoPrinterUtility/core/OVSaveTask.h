@@ -12,5 +12,8 @@ class OVSaveTask {
 public:
     using Outcome = OVSettingsSave::Outcome;
 
-    static Outcome run(const OVSettingsSnapshot &settings, const QString &queue);
+    // Without sendUnchanged, settings the PPD already holds send no job: a
+    // job that changes nothing still makes cupsd rewrite the PPD.
+    static Outcome run(const OVSettingsSnapshot &settings, const QString &queue,
+                       bool sendUnchanged = true);
 };

@@ -25,7 +25,7 @@ QStringList missingFrom(ppd_file_t *ppd, const OVSettingsSnapshot &sent) {
 } // namespace
 
 OVSettingsSave::Outcome OVSettingsSave::save(const OVSettingsSnapshot &settings,
-                                             const QString &queue) {
+                                             const QString &queue, bool sendUnchanged) {
     Outcome outcome;
     outcome.verdict = settings.check();
     if (!outcome.verdict.ok())
@@ -35,6 +35,11 @@ OVSettingsSave::Outcome OVSettingsSave::save(const OVSettingsSnapshot &settings,
     outcome.userMaySave = access.userMaySave();
     if (outcome.queue != OVQueueSetup::State::SetUp || !outcome.userMaySave)
         return outcome;
+    outcome.unchanged = !sendUnchanged && held(settings, queue);
+    if (outcome.unchanged) {
+        outcome.result = Result::Stored;
+        return outcome;
+    }
     outcome.jobId = OVUpdateJob::saveOptionsToPPD(settings, queue);
     if (outcome.jobId == 0) {
         outcome.refusal = cupsLastError();
@@ -48,6 +53,13 @@ OVSettingsSave::Outcome OVSettingsSave::save(const OVSettingsSnapshot &settings,
     }
     readBack(outcome, settings, queue);
     return outcome;
+}
+
+bool OVSettingsSave::held(const OVSettingsSnapshot &settings, const QString &queue) {
+    bool held = false;
+    OVStoredSettings::withQueuePPD(
+        queue, [&](ppd_file_t *ppd) { held = missingFrom(ppd, settings).isEmpty(); });
+    return held;
 }
 
 void OVSettingsSave::readBack(Outcome &outcome, const OVSettingsSnapshot &settings,

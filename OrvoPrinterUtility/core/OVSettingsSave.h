@@ -47,11 +47,20 @@ public:
         OVStoredSettings::Status readBack = OVStoredSettings::Status::Loaded;
         QStringList differing; // option names, with NotHeld and Replaced
         int replacedBy = 0;
+        // The PPD held every value already, so no update job was sent.
+        bool unchanged = false;
 
         bool stored() const { return result == Result::Stored; }
     };
 
-    static Outcome save(const OVSettingsSnapshot &settings, const QString &queue);
+    // Without sendUnchanged, settings the PPD already holds send no job: a
+    // job that changes nothing still makes cupsd rewrite the PPD.
+    static Outcome save(const OVSettingsSnapshot &settings, const QString &queue,
+                        bool sendUnchanged = true);
+
+    // Whether the queue's PPD holds every value of the settings already, as
+    // the driver filter compares them.
+    static bool held(const OVSettingsSnapshot &settings, const QString &queue);
 
     // Whether a failed submission means the server stopped answering rather
     // than refused the job: libcups reports a connection lost while sending

@@ -6,8 +6,10 @@
 #include "SimulatedPrinter.h"
 #include "SpawnedProcess.h"
 
+#include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -73,8 +75,10 @@ TEST(CommandLine, QueueAndPpdCommands) {
     }
     const QByteArray tooLarge =
         QJsonDocument(QJsonObject{{"sharedFolders", names}, {"forms", names}}).toJson();
-    EXPECT_EQ(cli({"list"}).shown,
-              "orvo   set up      Orvo Printer\nplain  not set up  Orvo Printer\n");
+    ASSERT_TRUE(server.lpadmin({"-d", "orvo"}));
+    EXPECT_EQ(cli({"list"}).shown, "  QUEUE  STATE       MAKE AND MODEL\n"
+                                   "* orvo   set up      Orvo Printer\n"
+                                   "  plain  not set up  Orvo Printer\n");
     const QString german = variant("de.ppd", ppd + "*de.Translation Duplex/Beidseitig: \"\"\n");
     const QString longNames =
         variant("long.ppd", QByteArray(ppd).replace("Long Edge", QByteArray(90, 'L')));
@@ -82,22 +86,30 @@ TEST(CommandLine, QueueAndPpdCommands) {
     // cupsd logs each job request it is sent, taken or not.
     const auto jobRequests = [&] { return server.errorLog().count("] Create-Job "); };
     const qsizetype jobsBefore = jobRequests();
-    check({"list", "-h", "127.0.0.1:1"}, 3, "cannot reach the CUPS server");
-    check({"show", "nosuch"}, 4, "no queue \"nosuch\"");
+    // Messages about the server name it; hints repeat the -h given.
+    const QByteArray here = server.address().toUtf8();
+    check({"list", "-h", "127.0.0.1:1"}, 3, "cannot reach the CUPS server 127.0.0.1:1\n");
+    check({"show", "nosuch"}, 4, "no queue \"nosuch\" on the CUPS server " + here + "\n");
     check({"save", "--help"}, 0, "--colorProfiles <value>");
     check({"save", "orvo", "--settings", "-"}, 2, "bad JSON in -", "{");
     check(tooManyProfiles, 6, "\"colorProfiles\" holds at most 30 entries");
-    check({"save", "orvo", "--settings", "-"}, 6, "too large", tooLarge);
-    check({"save", "plain", "--forms", "A"}, 6,
-          "Set it up with: orvo-printer-utility-cli setup plain");
+    check({"save", "orvo", "--settings", "-"}, 6,
+          "too large for one update job (shorten \"sharedFolders\", \"forms\")", tooLarge);
+    check({"save", "-h", server.address(), "plain", "--forms", "A"}, 6,
+          "Set it up with: orvo-printer-utility-cli setup -h " + here + " plain\n");
     // None of the refusals above sent a job.
     EXPECT_EQ(jobRequests(), jobsBefore);
     check({"show", "--json", "orvo"}, 0, "\"optionsUpdated\": false");
     check({"save", "-h", failing.address(), "orvo", "--forms", "A"}, 1, "did not complete (state");
     check({"save", "-h", forgetful.address(), "orvo", "--forms", "A"}, 1,
           "the PPD does not hold: PPDOptionsUpdated");
-    check({"save", "orvo", "--customCommunity", "yes", "--community", "blue", "--forms", "A"}, 0,
-          "the PPD holds the settings");
+    const QStringList blue{"save",        "orvo", "--customCommunity", "yes",
+                           "--community", "blue", "--forms",           "A"};
+    check(blue, 0, "the PPD holds the settings");
+    // The same save again changes nothing, so it sends nothing.
+    const qsizetype jobsSaved = jobRequests();
+    check(blue, 0, "The PPD holds these settings already; no update job was sent.\n");
+    EXPECT_EQ(jobRequests(), jobsSaved);
     check({"show", "orvo"}, 0, "customCommunity: yes\ncommunity: blue\n");
     check({"show", "orvo"}, 0, "forms: (1)\n  A\n");
     check({"ppd", CupsServer::samplePpdPath()}, 0, "Duplex \"Two-Sided\" (default None)\n");
@@ -130,7 +142,7 @@ TEST(CommandLine, QueueAndPpdCommands) {
                                 .replace("*LanguageEncoding: ISOLatin1", "*LanguageEncoding: UTF-8")
                                 .replace("*NickName: \"Orvo Printer\"",
                                          "*NickName: \"" + makeAndModel.toUtf8() + "\""))));
-    check({"list"}, 0, "\nq\\u202eabc\\u2066  set up      Orvo \\u2067Printer\\u2069\\u2028\n");
+    check({"list"}, 0, "\n  q\\u202eabc\\u2066  set up      Orvo \\u2067Printer\\u2069\\u2028\n");
     const QJsonArray queues = QJsonDocument::fromJson(cli({"list", "--json"}).shown).array();
     const auto listed = std::find_if(queues.begin(), queues.end(),
                                      [&](const QJsonValue &row) { return row["queue"] == queue; });
@@ -138,6 +150,51 @@ TEST(CommandLine, QueueAndPpdCommands) {
     EXPECT_EQ(QJsonValue(*listed)["makeAndModel"], makeAndModel);
     check({"show", queue + "x"}, 4, "no queue \"q\\u202eabc\\u2066x\"");
     check({"setup", queue}, 0, "\"q\\u202eabc\\u2066\" was already set up");
+}
+
+// What each command takes: the version, options only where they act, one documented spelling
+// with the older one as an alias, and arguments checked before anything is sent.
+TEST(CommandLine, OptionsActWhereTheyAreListed) {
+    const struct {
+        QStringList arguments;
+        int exit;
+        QByteArray shown;
+    } runs[] = {
+        {{"--version"}, 0, "orvo-printer-utility-cli " ORVO_VERSION "\n"},
+        {{"ppd", "-h", "127.0.0.1", CupsServer::samplePpdPath()}, 2, "Unknown option 'h'"},
+        {{"ppd", "--timeout", "5", CupsServer::samplePpdPath()}, 2, "Unknown option 'timeout'"},
+        {{"fetch", "-h", "127.0.0.1", "--address", "127.0.0.1"}, 2, "Unknown option 'h'"},
+        {{"save", "q", "--optionsUpdated", "no"}, 2, "Unknown option 'optionsUpdated'"},
+        {{"save", "q", "--chosenFolderIndexes", "1"}, 2, "Unknown option 'chosenFolderIndexes'"},
+        {{"save", "--help"}, 0, "--mac-address, --macAddress <value>"},
+        {{"fetch", "--help"}, 0, "--mac-address, --mac <mac>"},
+        {{"fetch", "--address", "192.168.0.300"}, 2, "--address takes an IPv4 or IPv6 address"},
+        {{"fetch", "--address", "not an address"}, 2, "a host name, not \"not an address\"\n"},
+    };
+    for (const auto &[arguments, exit, shown] : runs)
+        check(arguments, exit, shown);
+    // Both spellings of an option set the same thing.
+    ASSERT_TRUE(CupsServerEnvironment::server().addQueue("spelled"));
+    const struct {
+        QString mac, router, address;
+        bool overRouter;
+    } spellings[] = {
+        {"--mac-address", "--over-router", "00:11:22:33:44:01", true},
+        {"--macAddress", "--overRouter", "00:11:22:33:44:02", false},
+    };
+    for (const auto &[mac, router, address, overRouter] : spellings) {
+        ASSERT_EQ(cli({"save", "spelled", "--wake-on-lan", "yes", mac, address, router,
+                       overRouter ? "yes" : "no"})
+                      .exit,
+                  0);
+        const QJsonObject shown =
+            QJsonDocument::fromJson(cli({"show", "--json", "spelled"}).shown).object();
+        EXPECT_EQ(shown["macAddress"], address);
+        EXPECT_EQ(shown["overRouter"], overRouter);
+    }
+    for (const char *mac : {"--mac-address", "--mac"})
+        check({"fetch", "--address", "127.0.0.1", "--wake", mac, "00:11"}, 2,
+              "--mac-address takes six hexadecimal octets");
 }
 
 // save refuses what the settings' rules refuse, naming the field, before anything is sent: a
@@ -198,18 +255,39 @@ TEST(CommandLine, ShowNamesTheLinesItIgnored) {
 TEST(CommandLine, SetupRefusalsLeaveTheQueueAsItWas) {
     struct Refusal {
         const char *what;
-        bool typesFile, password;
+        bool typesFile, password, installedHere;
+        QStringList user;
         int exit;
         const char *message;
     };
     const Refusal refusals[] = {
-        {"NoTypesFile", false, false, 1, "install the Orvo Printer Utility"},
-        {"NoPassword", true, true, 7, "needs a print administrator"},
+        {"NoTypesFile", false, false, false, {}, 1, "install the Orvo Printer Utility"},
+        {"InstalledButNotRead",
+         false,
+         false,
+         true,
+         {},
+         1,
+         "has not read the utility's MIME files installed on this machine: reload CUPS"},
+        {"NoPassword",
+         true,
+         true,
+         false,
+         {"-U", "alice"},
+         7,
+         "refused alice: changing a queue needs a print administrator"},
     };
     QTemporaryDir dir;
     const QString plain = dir.filePath("plain.ppd");
     CupsServer::writeFile(plain, notSetUp(CupsServer::readFile(CupsServer::samplePpdPath())));
-    for (const auto &[what, typesFile, password, exit, message] : refusals) {
+    // The utility's filter and MIME files installed where this machine's CUPS reads them.
+    QDir(dir.path()).mkpath("data/mime");
+    QDir(dir.path()).mkpath("bin/filter");
+    const QDir mime = QFileInfo(ORVO_TYPES_FILE).dir();
+    for (const QString &file : mime.entryList({"orvo-printer-utility.*"}))
+        QFile::copy(mime.filePath(file), dir.filePath("data/mime/" + file));
+    QFile::copy(ORVO_PPD_UPDATE_FILTER, dir.filePath("bin/filter/orvo-ppd-update"));
+    for (const auto &[what, typesFile, password, installedHere, user, exit, message] : refusals) {
         SCOPED_TRACE(what);
         CupsServer::Options options;
         options.clientsUseIt = false;
@@ -218,9 +296,14 @@ TEST(CommandLine, SetupRefusalsLeaveTheQueueAsItWas) {
         CupsServer server(QStringLiteral(ORVO_PPD_UPDATE_FILTER), options);
         ASSERT_TRUE(server.isRunning() && server.addQueue("plain", plain));
         const QByteArray before = server.queuePpd("plain");
-        check({"setup", "-h", server.address(), "plain"}, exit, message);
+        qputenv("CUPS_DATADIR", dir.filePath(installedHere ? "data" : "none").toUtf8());
+        qputenv("CUPS_SERVERBIN", dir.filePath("bin").toUtf8());
+        check(QStringList{"setup", "-h", server.address()} + user + QStringList{"plain"}, exit,
+              message);
+        qunsetenv("CUPS_DATADIR");
+        qunsetenv("CUPS_SERVERBIN");
         EXPECT_EQ(server.queuePpd("plain"), before);
-        check({"list", "-h", server.address()}, 0, "plain  not set up");
+        check({"list", "-h", server.address()}, 0, "  plain  not set up");
     }
 }
 
@@ -238,6 +321,16 @@ TEST(CommandLine, FetchesFromTheSimulatedPrinter) {
     check({"fetch", "--address", address}, 0, "\nforms: (50)\n  " + escaped + "\n");
     const CommandLineRun json = cli({"fetch", "--json", "--address", address});
     EXPECT_EQ(QJsonDocument::fromJson(json.shown)["forms"][0], name);
+    // The folder names take the shape of the stored setting, so that save takes them as they are;
+    // each folder's state stands at its index.
+    const QJsonObject fetched = QJsonDocument::fromJson(json.shown).object();
+    EXPECT_EQ(fetched["sharedFolderStates"].toArray().size(),
+              fetched["sharedFolders"].toArray().size());
+    ASSERT_TRUE(CupsServerEnvironment::server().addQueue("fetched"));
+    const QJsonObject folders{{"sharedFolders", fetched["sharedFolders"]}};
+    ASSERT_EQ(cli({"save", "fetched", "--settings", "-"}, QJsonDocument(folders).toJson()).exit, 0);
+    EXPECT_EQ(QJsonDocument::fromJson(cli({"show", "--json", "fetched"}).shown)["sharedFolders"],
+              fetched["sharedFolders"]);
     // Each failure names the step and its reason, and prints nothing fetched.
     const struct {
         QByteArray oid;

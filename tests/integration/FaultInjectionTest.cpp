@@ -53,7 +53,7 @@ bool damaged(const CupsServer &server, const QString &queue) {
 bool saidWhatHappened(const CommandLineRun &run) {
     static const std::pair<int, const char *> designed[] = {
         {0, "the PPD holds the settings"},
-        {1, "is gone from the server"},
+        {1, "is gone from the CUPS server"},
         {1, "is damaged after the save"},
         {3, "cannot reach the CUPS server"},
         {3, "stopped answering while update job"},

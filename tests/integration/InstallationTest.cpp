@@ -1,5 +1,6 @@
 // `cmake --install` into a staging folder, then a queue from the installed sample PPD on a
-// private cupsd running the installed filter, saved and shown by the installed command line.
+// private cupsd running the installed filter, saved and shown by the installed command line;
+// and a private cupsd that started before the install, reloaded as the package has it.
 #include "CommandLineRun.h"
 #include "CupsServer.h"
 
@@ -9,6 +10,9 @@
 
 #include <gtest/gtest.h>
 
+#include <QThread>
+
+#include <csignal>
 #include <sys/stat.h>
 
 namespace {
@@ -19,11 +23,20 @@ QByteArray run(const QString &program, const QStringList &arguments) {
     return run.shown;
 }
 
+// This build installed into a staging folder.
+struct Staging {
+    Staging() {
+        qputenv("DESTDIR", folder.path().toUtf8());
+        run("cmake", {"--install", ORVO_BINARY_DIR, "--prefix", "/usr"});
+        qunsetenv("DESTDIR");
+    }
+    QString operator()(const QString &path) const { return folder.path() + path; }
+
+    QTemporaryDir folder;
+};
+
 TEST(Installation, SaveAndShowThroughTheInstalledFiles) {
-    QTemporaryDir staging;
-    qputenv("DESTDIR", staging.path().toUtf8());
-    run("cmake", {"--install", ORVO_BINARY_DIR, "--prefix", "/usr"});
-    const auto installed = [&](const QString &path) { return staging.path() + path; };
+    const Staging installed;
     // cupsd runs only filters that root owns and others cannot change.
     const std::pair<const char *, unsigned> files[] = {
         {"/usr/bin/orvo-printer-utility", 0755},
@@ -46,12 +59,50 @@ TEST(Installation, SaveAndShowThroughTheInstalledFiles) {
     ASSERT_TRUE(server.isRunning());
     ASSERT_TRUE(server.addQueue("orvo", installed("/usr/share/ppd/orvo/orvo-printer.ppd")));
     const QString cli = installed("/usr/bin/orvo-printer-utility-cli");
-    EXPECT_EQ(run(cli, {"list"}), "orvo  set up      Orvo Printer\n");
+    EXPECT_EQ(run(cli, {"list"}), "  QUEUE  STATE       MAKE AND MODEL\n"
+                                  "  orvo   set up      Orvo Printer\n");
     run(cli, {"save", "orvo", "--forms", "Invoice", "--wakeOnLan", "no"});
     const auto settings = QJsonDocument::fromJson(run(cli, {"show", "--json", "orvo"})).object();
     EXPECT_EQ(settings["forms"], QJsonArray{"Invoice"});
     EXPECT_EQ(settings["wakeOnLan"], false);
     EXPECT_EQ(settings["optionsUpdated"], true);
+}
+
+// A cupsd that ran before the install lacks the update job's type: setup names the reload,
+// and once cupsd has reloaded (SIGHUP, what the package's scripts have the init system do)
+// setup works with no other step.
+TEST(Installation, ARunningServerTakesTheMimeFilesWhenItReloads) {
+    const Staging installed;
+    CupsServer::Options options;
+    options.typesPath.clear();
+    CupsServer server(installed("/usr/lib/cups/filter/orvo-ppd-update"), options);
+    ASSERT_TRUE(server.isRunning());
+    QTemporaryDir dir;
+    const QString plain = dir.filePath("plain.ppd");
+    CupsServer::writeFile(plain, CupsServer::readFile(CupsServer::samplePpdPath())
+                                     .replace("*OrvoSettingsUpdate: \"Accepted\"\n", ""));
+    ASSERT_TRUE(server.addQueue("plain", plain));
+    qputenv("CUPS_DATADIR", installed("/usr/share/cups").toUtf8());
+    qputenv("CUPS_SERVERBIN", installed("/usr/lib/cups").toUtf8());
+    const QString cli = installed("/usr/bin/orvo-printer-utility-cli");
+    const CommandLineRun refused(cli, {"setup", "plain"});
+    EXPECT_EQ(refused.exit, 1);
+    EXPECT_TRUE(refused.shown.contains("reload CUPS so that it reads " +
+                                       installed("/usr/share/cups/mime/").toUtf8() +
+                                       "orvo-printer-utility.types"))
+        << refused.shown.toStdString();
+    for (const char *file : {"orvo-printer-utility.types", "orvo-printer-utility.convs"})
+        ASSERT_TRUE(QFile::copy(installed("/usr/share/cups/mime/") + file, server.mimePath(file)));
+    ASSERT_EQ(kill(pid_t(server.pid()), SIGHUP), 0);
+    // cupsd takes a moment to read its configuration again.
+    QByteArray shown;
+    for (int tries = 0; tries < 100 && !shown.contains("is set up"); ++tries) {
+        QThread::msleep(100);
+        shown = CommandLineRun(cli, {"setup", "plain"}).shown;
+    }
+    EXPECT_TRUE(shown.contains("\"plain\" is set up")) << shown.toStdString();
+    qunsetenv("CUPS_DATADIR");
+    qunsetenv("CUPS_SERVERBIN");
 }
 
 } // namespace

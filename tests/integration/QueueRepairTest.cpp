@@ -142,7 +142,7 @@ void saidDamaged(const QString &queue) {
     const CommandLineRun list = cli({"list"});
     const QList<QByteArray> listed = list.shown.split('\n');
     EXPECT_TRUE(std::any_of(listed.begin(), listed.end(), [&](const QByteArray &line) {
-        return line.startsWith(queue.toUtf8() + ' ') && line.contains(" damaged ");
+        return line.mid(2).startsWith(queue.toUtf8() + ' ') && line.contains(" damaged ");
     })) << list.shown.toStdString();
 }
 
