@@ -49,6 +49,13 @@ int fetchFailure(const QString &address, const OVPrinterInfoFetch::FailedStep &f
                                    QStringLiteral("the printer at %1 answered the %2 query with "
                                                   "data that cannot be read: %3")
                                        .arg(address, step, detail));
+    case OVSNMPHelper::Reason::UnknownUser:
+    case OVSNMPHelper::Reason::WrongPassphrase:
+    case OVSNMPHelper::Reason::UnsupportedSecurityLevel:
+        return OVCommandLine::fail(
+            Exit::SnmpUserRefused,
+            QStringLiteral("the printer at %1 refused the SNMPv3 user in the %2 query: %3")
+                .arg(address, step, detail));
     }
     return silent(address, step);
 }
