@@ -559,6 +559,11 @@ OVSNMPHelper::Reading<QString> OVSNMPHelper::getMacAddress(const char *address,
     return mac;
 }
 
+void OVSNMPHelper::forgetEngines() {
+    const std::lock_guard lock(OVSNMPSecurity::usersInUse());
+    OVSNMPSecurity::forgetEngines();
+}
+
 // An empty address names no printer (Net-SNMP would take it for localhost),
 // so it is refused like one that does not fit.
 bool OVSNMPHelper::getConvertedAddress(PeerName &peerName, const char *sourceAddr) {

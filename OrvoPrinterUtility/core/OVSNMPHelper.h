@@ -119,6 +119,10 @@ public:
     static Reading<QString> getMacAddress(const char *address,
                                           const OVSnmpCredentials &credentials);
 
+    // Forgets the SNMPv3 engines heard so far: the next request to each
+    // printer discovers its engine again, as a new process does.
+    static void forgetEngines();
+
     // The Net-SNMP peer name for an address: the address itself, or for any
     // address with a colon "udp6:[ADDRESS]:161". The brackets differ on
     // purpose from the plain "udp6:ADDRESS:161": Net-SNMP 5.9 reads the

@@ -10,6 +10,8 @@
 #include <cstring>
 #include <map>
 #include <string>
+#include <tuple>
+#include <utility>
 
 namespace {
 
@@ -68,14 +70,27 @@ const OVSNMPSecurity::Protocol *OVSNMPSecurity::protocolNamed(std::span<const Pr
 }
 
 // The user's key (Ku) from a passphrase, with the authentication hash, as
-// both keys are made; the library localizes it to the engine.
+// both keys are made; the library localizes it to the engine. Making one
+// hashes a megabyte on purpose, which every request of a fetch would repeat:
+// each key is made once per process and kept in memory only.
 bool OVSNMPSecurity::makeKey(const QByteArray &passphrase, Key &key, size_t &length) const {
     if (passphrase.size() < kShortestPassphrase)
         return false;
+    static std::mutex mutex;
+    static std::map<QByteArray, std::pair<Key, size_t>> made;
+    const std::lock_guard lock(mutex);
+    const QByteArray name = QByteArray(m_auth->name) + '\0' + passphrase;
+    if (const auto found = made.find(name); found != made.end()) {
+        std::tie(key, length) = found->second;
+        return true;
+    }
     length = key.size();
-    return generate_Ku(m_auth->identifier, u_int(m_auth->length),
-                       reinterpret_cast<const u_char *>(passphrase.constData()),
-                       size_t(passphrase.size()), key.data(), &length) == SNMPERR_SUCCESS;
+    if (generate_Ku(m_auth->identifier, u_int(m_auth->length),
+                    reinterpret_cast<const u_char *>(passphrase.constData()),
+                    size_t(passphrase.size()), key.data(), &length) != SNMPERR_SUCCESS)
+        return false;
+    made[name] = {key, length};
+    return true;
 }
 
 void OVSNMPSecurity::apply(netsnmp_session &record, const QByteArray &engine) {
@@ -178,6 +193,10 @@ std::mutex &OVSNMPSecurity::usersInUse() {
 QByteArray OVSNMPSecurity::knownEngine(const char *peerName) {
     const auto found = engines().find(peerName);
     return found == engines().end() ? QByteArray() : found->second;
+}
+
+void OVSNMPSecurity::forgetEngines() {
+    engines().clear();
 }
 
 void OVSNMPSecurity::rememberEngine(const char *peerName, const QByteArray &engine) {

@@ -49,6 +49,7 @@ public:
     // usersInUse() held.
     static QByteArray knownEngine(const char *peerName);
     static void rememberEngine(const char *peerName, const QByteArray &engine);
+    static void forgetEngines();
 
 private:
     struct Protocol {
