@@ -281,9 +281,9 @@ Answer request(const char *address, netsnmp_session &record, netsnmp_pdu *pdu,
         logSessionError(address, snmp_sess_session(session));
     logResponseError(address, response);
     logUnreadable(address, answer.values);
-    answer.answered = answer.status == STAT_SUCCESS && response &&
-                      response->errstat == SNMP_ERR_NOERROR &&
-                      !(!answer.values.value && answer.values.failure.reason == Reason::Refused);
+    // An error status, or SNMPv3's exception value for a missing object.
+    const bool refused = !answer.values.value && answer.values.failure.reason == Reason::Refused;
+    answer.answered = answer.status == STAT_SUCCESS && response && !refused;
     answer.engine = pending.engine;
     answer.report = pending.report;
     if (response)
