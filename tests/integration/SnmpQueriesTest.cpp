@@ -266,6 +266,7 @@ TEST(SnmpVersion3, AnswersAsVersion1DidAndTellsFaultsApart) {
         {"v1Off", kCommunity, "MAC address: no answer"},
         {"authPriv", privUser, overV1},
         {"authNoPriv", v3(P::kAuthUser, "SHA-256", P::kAuthPassphrase), overV1},
+        {"longestKeys", v3(P::kStrongUser, "SHA-512", P::kAuthPassphrase, "AES-256"), overV1},
         {"unknownUser", v3("orvo_guest", "SHA-256", P::kAuthPassphrase),
          "MAC address: unknown user: the printer has no such SNMPv3 user"},
         {"wrongAuthPassphrase", v3(P::kPrivUser, "SHA-256", "not-the-phrase", "AES-128"),
