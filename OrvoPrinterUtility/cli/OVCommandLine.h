@@ -26,6 +26,7 @@ public:
         NotAuthorized = 7, // the server wants a print administrator, or the queue another saver
         Queued = 8,        // the update job was sent but had not run when the time was up
         PrinterAnswerUnusable = 9, // an error status, or data that cannot be read
+        SnmpUserRefused = 10,      // an unknown SNMPv3 user, passphrase or security level
     };
 
     // What a subcommand talks to, which decides the frame's options it takes.

@@ -3,6 +3,7 @@
 #include "OVCommandLine.h"
 #include "OVPrinterInfoFetch.h"
 #include "OVSleep.h"
+#include "OVSnmpSecrets.h"
 #include "OVTaskToken.h"
 #include "OVWakeOnLanHelper.h"
 #include "OrvoSettingsKeywords.h"
@@ -13,6 +14,7 @@
 #include <QRegularExpression>
 
 #include <optional>
+#include <variant>
 
 namespace {
 
@@ -28,18 +30,36 @@ const QCommandLineOption macOption({"mac-address", "mac"}, "The printer's MAC ad
                                    "mac");
 const QCommandLineOption routerOption({"over-router", "overRouter"},
                                       "Wake the printer across a router.");
+const QCommandLineOption versionOption("snmp-version",
+                                       "SNMP version: 1 (community, the default) or 3 (user).",
+                                       "1|3", "1");
+const QCommandLineOption userOption("snmp-user", "SNMPv3 user name.", "name");
+const QCommandLineOption authOption("snmp-auth",
+                                    "SNMPv3 authentication protocol (default SHA-256).", "proto",
+                                    OrvoSettingsKeywords::snmpAuthProtocols[0]);
+const QCommandLineOption privOption("snmp-priv", "SNMPv3 privacy protocol; without it, no privacy.",
+                                    "proto");
+const QCommandLineOption
+    secretsOption("snmp-secrets", "File with the SNMPv3 passphrases, readable by its owner alone.",
+                  "file");
 
 // A printer stays silent both when nothing answers at the address and when
 // the community is not the printer's: SNMP v1 does not tell the two apart.
-int silent(const QString &address, const QString &what) {
+// An SNMPv3 printer says which part of the user is wrong, except for a
+// privacy passphrase: it cannot read what that encrypted.
+int silent(const QString &address, const QString &what, const OVSnmpCredentials &credentials) {
+    const char *suspect = credentials.version() == OVSnmpCredentials::Version::V3
+                              ? "the SNMPv3 privacy passphrase"
+                              : "the SNMP community";
     return OVCommandLine::fail(Exit::PrinterSilent,
                                QStringLiteral("the printer at %1 did not answer (%2); the address "
-                                              "or the SNMP community may be wrong")
-                                   .arg(address, what));
+                                              "or %3 may be wrong")
+                                   .arg(address, what, suspect));
 }
 
 // Which step failed and why, each reason in words of its own.
-int fetchFailure(const QString &address, const OVPrinterInfoFetch::FailedStep &failed) {
+int fetchFailure(const QString &address, const OVPrinterInfoFetch::FailedStep &failed,
+                 const OVSnmpCredentials &credentials) {
     const QString step = OVPrinterInfoFetch::stepName(failed.step);
     const QString &detail = failed.failure.detail;
     switch (failed.failure.reason) {
@@ -55,8 +75,45 @@ int fetchFailure(const QString &address, const OVPrinterInfoFetch::FailedStep &f
                                    QStringLiteral("the printer at %1 answered the %2 query with "
                                                   "data that cannot be read: %3")
                                        .arg(address, step, detail));
+    case OVSNMPHelper::Reason::UnknownUser:
+    case OVSNMPHelper::Reason::WrongPassphrase:
+    case OVSNMPHelper::Reason::UnsupportedSecurityLevel:
+        return OVCommandLine::fail(
+            Exit::SnmpUserRefused,
+            QStringLiteral("the printer at %1 refused the SNMPv3 user in the %2 query: %3")
+                .arg(address, step, detail));
     }
-    return silent(address, step);
+    return silent(address, step, credentials);
+}
+
+// The SNMPv3 user the options name, checked by the settings' rules, with its
+// passphrases; or the exit code after saying what is wrong.
+std::variant<OVSnmpCredentials, int> v3User(const QCommandLineParser &parser) {
+    const QString user = parser.value(userOption);
+    const QString auth = parser.value(authOption);
+    const QString priv = parser.value(privOption);
+    for (const auto &[option, verdict] :
+         {std::pair{"--snmp-user", OrvoSettingsRules::snmpUser(user.toStdString())},
+          std::pair{"--snmp-auth", OrvoSettingsRules::snmpAuthProtocol(auth.toStdString())},
+          std::pair{"--snmp-priv", OrvoSettingsRules::snmpPrivProtocol(priv.toStdString())}}) {
+        if (!verdict.ok())
+            return OVCommandLine::fail(Exit::Usage,
+                                       QString::fromLatin1(option) + " " +
+                                           QString::fromStdString(verdict.explanation()));
+    }
+    const OVSnmpSecrets secrets(parser.value(secretsOption), !priv.isEmpty());
+    if (secrets.error)
+        return OVCommandLine::fail(Exit::Usage, *secrets.error);
+    return OVSnmpCredentials::v3(user, auth, secrets.auth, priv, secrets.priv);
+}
+
+std::variant<OVSnmpCredentials, int> credentials(const QCommandLineParser &parser) {
+    const QString version = parser.value(versionOption);
+    if (version == "1")
+        return OVSnmpCredentials(parser.value(communityOption));
+    if (version == "3")
+        return v3User(parser);
+    return OVCommandLine::fail(Exit::Usage, "--snmp-version takes 1 or 3");
 }
 
 // Six hexadecimal octets separated by ":" or "-" throughout, the forms
@@ -74,7 +131,8 @@ QString listText(const char *title, const QStringList &items) {
     return text;
 }
 
-bool wake(const QString &address, const QString &community, const QCommandLineParser &parser) {
+bool wake(const QString &address, const OVSnmpCredentials &credentials,
+          const QCommandLineParser &parser) {
     // The wake flow waits whole seconds between its tries; show that on a terminal.
     OVSleep::setSleeper([](unsigned seconds) {
         OVCommandLine::progress(
@@ -84,7 +142,7 @@ bool wake(const QString &address, const QString &community, const QCommandLinePa
     });
     // The wake flow reads the octets between colons.
     const QString mac = parser.value(macOption).replace('-', ':');
-    const bool awake = OVWakeOnLanHelper::SnmpWakeUpOnLan(address, mac, community, true,
+    const bool awake = OVWakeOnLanHelper::SnmpWakeUpOnLan(address, mac, credentials, true,
                                                           parser.isSet(routerOption));
     OVCommandLine::progress(QString());
     OVSleep::setSleeper({});
@@ -125,12 +183,12 @@ void print(const QString &address, const OVPrinterInfoFetch::Result &fetched, bo
 } // namespace
 
 void OVFetchCommand::addOptions(QCommandLineParser &parser) {
-    parser.addOptions({addressOption, communityOption, wakeOption, macOption, routerOption});
+    parser.addOptions({addressOption, communityOption, versionOption, userOption, authOption,
+                       privOption, secretsOption, wakeOption, macOption, routerOption});
 }
 
 int OVFetchCommand::run(const QCommandLineParser &parser, bool json) {
     const QString address = parser.value(addressOption);
-    const QString community = parser.value(communityOption);
     if (address.isEmpty())
         return OVCommandLine::fail(Exit::Usage, "--address is required");
     if (parser.isSet(wakeOption) && !parser.isSet(macOption))
@@ -143,12 +201,16 @@ int OVFetchCommand::run(const QCommandLineParser &parser, bool json) {
         return OVCommandLine::fail(
             Exit::Usage, "--mac-address takes six hexadecimal octets separated by \":\" or "
                          "\"-\", such as 00:11:22:aa:bb:cc");
-    if (parser.isSet(wakeOption) && !wake(address, community, parser))
-        return silent(address, "it did not wake up");
+    const std::variant<OVSnmpCredentials, int> asked = credentials(parser);
+    if (const int *exit = std::get_if<int>(&asked))
+        return *exit;
+    const OVSnmpCredentials &snmp = std::get<OVSnmpCredentials>(asked);
+    if (parser.isSet(wakeOption) && !wake(address, snmp, parser))
+        return silent(address, "it did not wake up", snmp);
     const OVPrinterInfoFetch::Result fetched =
-        OVPrinterInfoFetch::fetch({address, community, std::nullopt}, OVPrinterInfoFetch::allSteps);
+        OVPrinterInfoFetch::fetch({address, snmp, std::nullopt}, OVPrinterInfoFetch::allSteps);
     if (fetched.failedStep)
-        return fetchFailure(address, *fetched.failedStep);
+        return fetchFailure(address, *fetched.failedStep, snmp);
     print(address, fetched, json);
     return Exit::Success;
 }

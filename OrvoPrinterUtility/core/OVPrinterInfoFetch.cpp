@@ -9,7 +9,8 @@ namespace {
 using Fetch = OVPrinterInfoFetch;
 using H = OVSNMPHelper;
 using Reason = H::Reason;
-using ListQuery = H::Reading<QStringList> (*)(const char *address, const QString &community);
+using ListQuery = H::Reading<QStringList> (*)(const char *address,
+                                              const OVSnmpCredentials &credentials);
 // Why a step failed; empty when it succeeded.
 using Outcome = std::optional<H::Failure>;
 

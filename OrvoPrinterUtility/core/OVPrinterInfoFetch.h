@@ -26,13 +26,13 @@ public:
     struct Wake {
         bool enabled = true;
         std::array<QString, 6> macAddressFields;
-        QString community;
+        OVSnmpCredentials community; // a community, or SNMPv3 credentials
         bool overRouter = false;
     };
     struct Printer {
         // An empty address fails every step without asking anything.
         QString address;
-        QString community;
+        OVSnmpCredentials community; // a community, or SNMPv3 credentials
         std::optional<Wake> wake;
     };
 

@@ -15,6 +15,8 @@ constexpr qsizetype kInteger32Octets = 4;
 
 // The answer of the request running on this thread.
 thread_local OVSNMPAnswer *listening = nullptr;
+// The user-based security module's own decoding.
+SecmodInMsg *usmDecode = nullptr;
 
 template <typename T> Reading<T> unreadable(const QString &detail) {
     return {std::nullopt, {Reason::Unreadable, detail}};
@@ -61,7 +63,8 @@ QList<Element> elements(QByteArrayView contents) {
 
 // Whether every integer value of a response fits an SNMP INTEGER as sent:
 // Message { version, community, PDU { request-id, error-status,
-// error-index, { { name, value } ... } } }. BER writes an integer in as few
+// error-index, { { name, value } ... } } }, or for SNMPv3 the scoped PDU
+// { contextEngineID, contextName, PDU }. BER writes an integer in as few
 // octets as it takes, so more than four hold more than 32 bits.
 bool integersFit(QByteArrayView datagram) {
     const std::optional<Element> message = take(datagram);
@@ -84,6 +87,24 @@ QString typeName(u_char type) {
     if (type == ASN_OCTET_STR)
         return QStringLiteral("a text");
     return QStringLiteral("a value of type 0x%1").arg(type, 2, 16, QChar('0'));
+}
+
+// SNMPv3, like v2c, answers a missing object inside a successful response
+// with an exception in place of its value, where v1 sets noSuchName.
+const netsnmp_variable_list *firstException(const netsnmp_pdu *response) {
+    for (const netsnmp_variable_list *var = response->variables; var; var = var->next_variable) {
+        if (var->type == SNMP_NOSUCHOBJECT || var->type == SNMP_NOSUCHINSTANCE ||
+            var->type == SNMP_ENDOFMIBVIEW)
+            return var;
+    }
+    return nullptr;
+}
+
+QString exceptionName(u_char type) {
+    if (type == SNMP_NOSUCHOBJECT)
+        return QStringLiteral("no such object");
+    return type == SNMP_NOSUCHINSTANCE ? QStringLiteral("no such instance")
+                                       : QStringLiteral("end of MIB view");
 }
 
 Reading<QString> readInteger(long value, OVSNMPAnswer::Range range) {
@@ -141,9 +162,28 @@ OVSNMPAnswer::~OVSNMPAnswer() {
 int OVSNMPAnswer::receive(netsnmp_transport *transport, void *buffer, int size, void **opaque,
                           int *opaqueLength) {
     const int received = listening->m_receive(transport, buffer, size, opaque, opaqueLength);
-    if (received > 0)
+    if (received > 0) {
         listening->m_datagram = QByteArray(static_cast<const char *>(buffer), received);
+        listening->m_scopedPdu = QByteArray();
+    }
     return received;
+}
+
+void OVSNMPAnswer::keepScopedPdus() {
+    snmp_secmod_def *usm = find_sec_mod(USM_SEC_MODEL_NUMBER);
+    if (!usm || usmDecode)
+        return;
+    usmDecode = usm->decode;
+    usm->decode = decode;
+}
+
+// The module's own decoding, keeping the scoped PDU it found.
+int OVSNMPAnswer::decode(snmp_secmod_incoming_params *params) {
+    const int result = usmDecode(params);
+    if (listening && result == SNMPERR_SUCCESS && *params->scopedPdu)
+        listening->m_scopedPdu = QByteArray(reinterpret_cast<const char *>(*params->scopedPdu),
+                                            qsizetype(*params->scopedPduLen));
+    return result;
 }
 
 Reading<QStringList> OVSNMPAnswer::read(int status, const netsnmp_pdu *response,
@@ -157,7 +197,9 @@ Reading<QStringList> OVSNMPAnswer::read(int status, const netsnmp_pdu *response,
     if (response->errstat != SNMP_ERR_NOERROR)
         return {std::nullopt,
                 {Reason::Refused, QString::fromUtf8(snmp_errstring(int(response->errstat)))}};
-    if (!integersFit(m_datagram))
+    if (const netsnmp_variable_list *missing = firstException(response))
+        return {std::nullopt, {Reason::Refused, exceptionName(missing->type)}};
+    if (!integersFit(m_scopedPdu.isNull() ? m_datagram : m_scopedPdu))
         return unreadable<QStringList>(QStringLiteral("a number wider than 32 bits"));
     qsizetype count = 0;
     for (const netsnmp_variable_list *var = response->variables; var; var = var->next_variable)

@@ -2,6 +2,7 @@
 
 #include "OVCoreLogging.h"
 #include "OVSNMPAnswer.h"
+#include "OVSNMPSecurity.h"
 #include "OVTaskToken.h"
 #include "OrvoSettingsRules.h"
 
@@ -23,6 +24,7 @@
 namespace {
 
 using Reason = OVSNMPHelper::Reason;
+using Failure = OVSNMPHelper::Failure;
 template <typename T> using Reading = OVSNMPHelper::Reading<T>;
 
 constexpr long kSharedBox100Timeout = 10'000'000;
@@ -56,6 +58,8 @@ struct Answer {
     int status = kNoSession;
     bool answered = false;
     Reading<QStringList> values;
+    QByteArray engine; // the SNMPv3 engine that answered, if it named one
+    int report = 0;    // why that engine reported instead of answering
 };
 
 struct ClassArrays {
@@ -104,6 +108,7 @@ void prepareLibrary() {
         netsnmp_ds_set_boolean(NETSNMP_DS_LIBRARY_ID, NETSNMP_DS_LIB_DISABLE_PERSISTENT_LOAD, 1);
         netsnmp_ds_set_boolean(NETSNMP_DS_LIBRARY_ID, NETSNMP_DS_LIB_DISABLE_PERSISTENT_SAVE, 1);
         netsnmp_init_mib_internals();
+        OVSNMPSecurity::prepareLibrary();
     });
 }
 
@@ -174,6 +179,8 @@ struct Pending {
     bool done = false;
     int status = STAT_ERROR;
     netsnmp_pdu *response = nullptr;
+    int report = 0; // why an SNMPv3 engine reported instead of answering
+    QByteArray engine;
 };
 
 int received(int operation, netsnmp_session *, int, netsnmp_pdu *pdu, void *magic) {
@@ -183,6 +190,12 @@ int received(int operation, netsnmp_session *, int, netsnmp_pdu *pdu, void *magi
     auto *pending = static_cast<Pending *>(magic);
     pending->done = true;
     if (operation == NETSNMP_CALLBACK_OP_RECEIVED_MESSAGE) {
+        pending->engine = QByteArray(reinterpret_cast<const char *>(pdu->securityEngineID),
+                                     qsizetype(pdu->securityEngineIDLen));
+        if (pdu->command == SNMP_MSG_REPORT) {
+            pending->report = snmpv3_get_report_type(pdu);
+            return 1;
+        }
         pending->status = STAT_SUCCESS;
         // The library frees its own copy when this returns.
         pending->response = snmp_clone_pdu(pdu);
@@ -235,48 +248,114 @@ int awaitResponse(void *session, netsnmp_pdu *request, Pending &pending, netsnmp
     return status;
 }
 
-// One synchronous get request in its own session, torn down before
-// returning. The session is Net-SNMP's single-session kind, which shares no
-// state with requests on other threads.
-Answer exchange(const char *address, const QString &community, SessionSettings settings,
-                const Identifiers &names, const OVSNMPAnswer::Expected &expected) {
-    prepareLibrary();
+netsnmp_session sessionRecord(OVSNMPHelper::PeerName &peerName, SessionSettings settings) {
+    netsnmp_session record;
+    snmp_sess_init(&record);
+    record.timeout = settings.timeout;
+    record.retries = settings.retries;
+    record.peername = peerName.data();
+    return record;
+}
+
+// One request in a session of its own, torn down before returning. The
+// session is Net-SNMP's single-session kind, which shares no state with
+// requests on other threads.
+Answer request(const char *address, netsnmp_session &record, netsnmp_pdu *pdu,
+               const OVSNMPAnswer::Expected &expected) {
     Answer answer;
-    OVSNMPHelper::PeerName peerName;
-    if (!OVSNMPHelper::getConvertedAddress(peerName, address))
-        return answer;
-    const QByteArray communityBytes = community.toUtf8();
-    netsnmp_session settingsRecord;
-    snmp_sess_init(&settingsRecord);
-    settingsRecord.version = SNMP_VERSION_1;
-    settingsRecord.community =
-        reinterpret_cast<u_char *>(const_cast<char *>(communityBytes.constData()));
-    settingsRecord.community_len = std::strlen(communityBytes.constData());
-    settingsRecord.timeout = settings.timeout;
-    settingsRecord.retries = settings.retries;
-    settingsRecord.peername = peerName.data();
     Pending pending;
-    void *session = snmp_sess_open(&settingsRecord);
+    void *session = snmp_sess_open(&record);
     if (!session) {
-        logSessionError(address, &settingsRecord);
+        logSessionError(address, &record);
+        snmp_free_pdu(pdu);
         return answer;
     }
     netsnmp_pdu *response = nullptr;
     {
         const OVSNMPAnswer heard(session);
-        answer.status = awaitResponse(session, buildRequest(names), pending, &response);
-        answer.values = heard.read(answer.status, response, expected);
+        answer.status = awaitResponse(session, pdu, pending, &response);
+        answer.values = pending.report ? OVSNMPSecurity::refusal(pending.report)
+                                       : heard.read(answer.status, response, expected);
     }
     if (answer.status != STAT_SUCCESS)
         logSessionError(address, snmp_sess_session(session));
     logResponseError(address, response);
     logUnreadable(address, answer.values);
-    answer.answered =
-        answer.status == STAT_SUCCESS && response && response->errstat == SNMP_ERR_NOERROR;
+    // An error status, or SNMPv3's exception value for a missing object.
+    const bool refused = !answer.values.value && answer.values.failure.reason == Reason::Refused;
+    answer.answered = answer.status == STAT_SUCCESS && response && !refused;
+    answer.engine = pending.engine;
+    answer.report = pending.report;
     if (response)
         snmp_free_pdu(response);
     snmp_sess_close(session);
     return answer;
+}
+
+Answer exchangeV1(const char *address, netsnmp_session &record, const QString &community,
+                  const Identifiers &names, const OVSNMPAnswer::Expected &expected) {
+    const QByteArray communityBytes = community.toUtf8();
+    record.version = SNMP_VERSION_1;
+    record.community = reinterpret_cast<u_char *>(const_cast<char *>(communityBytes.constData()));
+    record.community_len = std::strlen(communityBytes.constData());
+    return request(address, record, buildRequest(names), expected);
+}
+
+// The printer's engine, from the report that a request without a user draws.
+Answer discoverEngine(const char *address, netsnmp_session record) {
+    OVSNMPSecurity::prepareDiscovery(record);
+    return request(address, record, OVSNMPSecurity::discoveryRequest(), {ASN_NULL, 0});
+}
+
+// Whether an engine's report says it is not the one remembered: the
+// printer was replaced or reset.
+bool isStale(const Answer &answer) {
+    return answer.report == SNMPERR_UNKNOWN_ENG_ID || answer.report == SNMPERR_NOT_IN_TIME_WINDOW;
+}
+
+Answer askAs(OVSNMPSecurity &security, const QByteArray &engine, const char *address,
+             netsnmp_session &record, const Identifiers &names,
+             const OVSNMPAnswer::Expected &expected) {
+    security.apply(record, engine);
+    return request(address, record, buildRequest(names), expected);
+}
+
+// The engine remembered for the printer is asked first; discovery comes
+// before the request when there is none, and once more when the printer
+// reports that it is no longer that engine.
+Answer exchangeV3(const char *address, netsnmp_session &record,
+                  const OVSnmpCredentials &credentials, const Identifiers &names,
+                  const OVSNMPAnswer::Expected &expected) {
+    OVSNMPSecurity security(credentials);
+    if (const std::optional<Failure> unusable = security.failure())
+        return {kNoSession, false, {std::nullopt, *unusable}, {}, 0};
+    const std::lock_guard lock(OVSNMPSecurity::usersInUse());
+    QByteArray engine = OVSNMPSecurity::knownEngine(record.peername);
+    Answer answer;
+    if (!engine.isEmpty())
+        answer = askAs(security, engine, address, record, names, expected);
+    if (engine.isEmpty() || isStale(answer)) {
+        const Answer discovery = discoverEngine(address, record);
+        engine = discovery.engine;
+        answer = engine.isEmpty() ? discovery
+                                  : askAs(security, engine, address, record, names, expected);
+    }
+    OVSNMPSecurity::rememberEngine(record.peername,
+                                   answer.status == STAT_SUCCESS ? engine : QByteArray());
+    return answer;
+}
+
+// One get request with the credentials' version.
+Answer exchange(const char *address, const OVSnmpCredentials &credentials, SessionSettings settings,
+                const Identifiers &names, const OVSNMPAnswer::Expected &expected) {
+    prepareLibrary();
+    OVSNMPHelper::PeerName peerName;
+    if (!OVSNMPHelper::getConvertedAddress(peerName, address))
+        return {};
+    netsnmp_session record = sessionRecord(peerName, settings);
+    if (credentials.version() == OVSnmpCredentials::Version::V3)
+        return exchangeV3(address, record, credentials, names, expected);
+    return exchangeV1(address, record, credentials.community(), names, expected);
 }
 
 // A scalar's one value.
@@ -289,11 +368,12 @@ Reading<QString> scalar(const Answer &answer) {
 // Rows 1..count of a column, left in its class-level array as well (all of
 // them, or none when the query fails).
 Reading<QStringList> listQuery(const Column &column, int count, const char *address,
-                               const QString &community, SessionSettings settings = {}) {
+                               const OVSnmpCredentials &credentials,
+                               SessionSettings settings = {}) {
     QStringList &array = classArrays().*column.array;
     array.clear();
-    const Answer answer = exchange(address, community, settings, identifiers(column.prefix, count),
-                                   {column.type, count});
+    const Answer answer = exchange(address, credentials, settings,
+                                   identifiers(column.prefix, count), {column.type, count});
     if (answer.values.value)
         array = *answer.values.value;
     return answer.values;
@@ -309,11 +389,11 @@ SessionSettings sharedBoxSettings(int totalCount) {
 // Both columns hold count values once their queries succeed, so they pair up
 // row by row.
 Reading<QStringList> namesInUse(const Column &stateColumn, const Column &nameColumn, int count,
-                                const char *address, const QString &community) {
-    const Reading<QStringList> states = listQuery(stateColumn, count, address, community);
+                                const char *address, const OVSnmpCredentials &credentials) {
+    const Reading<QStringList> states = listQuery(stateColumn, count, address, credentials);
     if (!states.value)
         return states;
-    const Reading<QStringList> names = listQuery(nameColumn, count, address, community);
+    const Reading<QStringList> names = listQuery(nameColumn, count, address, credentials);
     if (!names.value)
         return names;
     QStringList inUse;
@@ -357,98 +437,109 @@ const QStringList &OVSNMPHelper::colorProfileNameArray() {
     return classArrays().colorProfileName;
 }
 
-int OVSNMPHelper::snmpGetSharedBoxEntryForIPAddress(const char *address, const QString &community) {
+int OVSNMPHelper::snmpGetSharedBoxEntryForIPAddress(const char *address,
+                                                    const OVSnmpCredentials &credentials) {
     const Answer answer =
-        exchange(address, community, {}, identifiers(kSharedBoxProbe), {ASN_INTEGER, 1});
+        exchange(address, credentials, {}, identifiers(kSharedBoxProbe), {ASN_INTEGER, 1});
     return answer.answered ? kLargeSharedBoxCount : kSmallSharedBoxCount;
 }
 
-bool OVSNMPHelper::snmpGetSharedBoxStateForIPAddress(const char *address, const QString &community,
+bool OVSNMPHelper::snmpGetSharedBoxStateForIPAddress(const char *address,
+                                                     const OVSnmpCredentials &credentials,
                                                      int totalCount) {
-    return getValidatedSharedBoxStateArrayForIPAddress(address, community, totalCount)
+    return getValidatedSharedBoxStateArrayForIPAddress(address, credentials, totalCount)
         .value.has_value();
 }
 
-bool OVSNMPHelper::snmpGetSharedBoxNameForIPAddress(const char *address, const QString &community,
+bool OVSNMPHelper::snmpGetSharedBoxNameForIPAddress(const char *address,
+                                                    const OVSnmpCredentials &credentials,
                                                     int totalCount) {
-    return getValidatedSharedBoxNameArrayForIPAddress(address, community, totalCount)
+    return getValidatedSharedBoxNameArrayForIPAddress(address, credentials, totalCount)
         .value.has_value();
 }
 
-bool OVSNMPHelper::snmpGetFormStateForIPAddress(const char *address, const QString &community) {
-    return listQuery(kFormStates, kListCount, address, community).value.has_value();
+bool OVSNMPHelper::snmpGetFormStateForIPAddress(const char *address,
+                                                const OVSnmpCredentials &credentials) {
+    return listQuery(kFormStates, kListCount, address, credentials).value.has_value();
 }
 
-bool OVSNMPHelper::snmpGetFormNameForIPAddress(const char *address, const QString &community) {
-    return listQuery(kFormNames, kListCount, address, community).value.has_value();
+bool OVSNMPHelper::snmpGetFormNameForIPAddress(const char *address,
+                                               const OVSnmpCredentials &credentials) {
+    return listQuery(kFormNames, kListCount, address, credentials).value.has_value();
 }
 
-bool OVSNMPHelper::snmpGetBarcodeAreDefinitionStateForIPAddress(const char *address,
-                                                                const QString &community) {
-    return listQuery(kBarcodeAreaStates, kListCount, address, community).value.has_value();
+bool OVSNMPHelper::snmpGetBarcodeAreDefinitionStateForIPAddress(
+    const char *address, const OVSnmpCredentials &credentials) {
+    return listQuery(kBarcodeAreaStates, kListCount, address, credentials).value.has_value();
 }
 
-bool OVSNMPHelper::snmpGetBarcodeAreDefinitionNameForIPAddress(const char *address,
-                                                               const QString &community) {
-    return listQuery(kBarcodeAreaNames, kListCount, address, community).value.has_value();
+bool OVSNMPHelper::snmpGetBarcodeAreDefinitionNameForIPAddress(
+    const char *address, const OVSnmpCredentials &credentials) {
+    return listQuery(kBarcodeAreaNames, kListCount, address, credentials).value.has_value();
 }
 
 bool OVSNMPHelper::snmpGetColorProfileStateForIPAddress(const char *address,
-                                                        const QString &community) {
-    return listQuery(kColorProfileStates, kColorProfileCount, address, community).value.has_value();
+                                                        const OVSnmpCredentials &credentials) {
+    return listQuery(kColorProfileStates, kColorProfileCount, address, credentials)
+        .value.has_value();
 }
 
 bool OVSNMPHelper::snmpGetColorProfileNameForIPAddress(const char *address,
-                                                       const QString &community) {
-    return listQuery(kColorProfileNames, kColorProfileCount, address, community).value.has_value();
+                                                       const OVSnmpCredentials &credentials) {
+    return listQuery(kColorProfileNames, kColorProfileCount, address, credentials)
+        .value.has_value();
 }
 
-bool OVSNMPHelper::snmpGetAdminLoginModeEnabled(const char *address, const QString &community) {
-    return getAdminLoginModeEnabled(address, community).value.value_or(false);
+bool OVSNMPHelper::snmpGetAdminLoginModeEnabled(const char *address,
+                                                const OVSnmpCredentials &credentials) {
+    return getAdminLoginModeEnabled(address, credentials).value.value_or(false);
 }
 
-OVSNMPHelper::Reading<bool> OVSNMPHelper::getAdminLoginModeEnabled(const char *address,
-                                                                   const QString &community) {
-    const Reading<QString> mode = scalar(exchange(
-        address, community, {}, identifiers(kAdminLoginMode), {ASN_INTEGER, 1, kAdminLoginModes}));
+OVSNMPHelper::Reading<bool>
+OVSNMPHelper::getAdminLoginModeEnabled(const char *address, const OVSnmpCredentials &credentials) {
+    const Reading<QString> mode =
+        scalar(exchange(address, credentials, {}, identifiers(kAdminLoginMode),
+                        {ASN_INTEGER, 1, kAdminLoginModes}));
     if (!mode.value)
         return {std::nullopt, mode.failure};
     return {mode.value == QString(kEnabled), {}};
 }
 
-OVSNMPHelper::Reading<QStringList>
-OVSNMPHelper::getValidatedSharedBoxNameArrayForIPAddress(const char *address,
-                                                         const QString &community, int totalCount) {
-    return listQuery(kSharedBoxNames, totalCount, address, community,
+OVSNMPHelper::Reading<QStringList> OVSNMPHelper::getValidatedSharedBoxNameArrayForIPAddress(
+    const char *address, const OVSnmpCredentials &credentials, int totalCount) {
+    return listQuery(kSharedBoxNames, totalCount, address, credentials,
                      sharedBoxSettings(totalCount));
 }
 
 OVSNMPHelper::Reading<QStringList> OVSNMPHelper::getValidatedSharedBoxStateArrayForIPAddress(
-    const char *address, const QString &community, int totalCount) {
-    return listQuery(kSharedBoxStates, totalCount, address, community,
+    const char *address, const OVSnmpCredentials &credentials, int totalCount) {
+    return listQuery(kSharedBoxStates, totalCount, address, credentials,
                      sharedBoxSettings(totalCount));
 }
 
 OVSNMPHelper::Reading<QStringList>
-OVSNMPHelper::getValidatedFormNameArrayForIPAddress(const char *address, const QString &community) {
-    return namesInUse(kFormStates, kFormNames, kListCount, address, community);
+OVSNMPHelper::getValidatedFormNameArrayForIPAddress(const char *address,
+                                                    const OVSnmpCredentials &credentials) {
+    return namesInUse(kFormStates, kFormNames, kListCount, address, credentials);
 }
 
 OVSNMPHelper::Reading<QStringList>
 OVSNMPHelper::getValidatedBarcodeAreaNameArrayForIPAddress(const char *address,
-                                                           const QString &community) {
-    return namesInUse(kBarcodeAreaStates, kBarcodeAreaNames, kListCount, address, community);
+                                                           const OVSnmpCredentials &credentials) {
+    return namesInUse(kBarcodeAreaStates, kBarcodeAreaNames, kListCount, address, credentials);
 }
 
 OVSNMPHelper::Reading<QStringList>
-OVSNMPHelper::getValidatedColorProfileForIPAddress(const char *address, const QString &community) {
+OVSNMPHelper::getValidatedColorProfileForIPAddress(const char *address,
+                                                   const OVSnmpCredentials &credentials) {
     return namesInUse(kColorProfileStates, kColorProfileNames, kColorProfileCount, address,
-                      community);
+                      credentials);
 }
 
-int OVSNMPHelper::getSleepMode(const char *address, const QString &community, int &sleepMode) {
+int OVSNMPHelper::getSleepMode(const char *address, const OVSnmpCredentials &credentials,
+                               int &sleepMode) {
     sleepMode = -1;
-    const Answer answer = exchange(address, community, {kOneSecond, kSleepModeRetries},
+    const Answer answer = exchange(address, credentials, {kOneSecond, kSleepModeRetries},
                                    identifiers(kSleepMode), {ASN_INTEGER, 1});
     if (const auto mode = scalar(answer).value)
         sleepMode = mode->toInt();
@@ -456,16 +547,21 @@ int OVSNMPHelper::getSleepMode(const char *address, const QString &community, in
 }
 
 OVSNMPHelper::Reading<QString> OVSNMPHelper::getMacAddress(const char *address,
-                                                           const QString &community) {
+                                                           const OVSnmpCredentials &credentials) {
     SessionSettings settings;
     settings.timeout = kOneSecond;
     const Reading<QString> mac = scalar(
-        exchange(address, community, settings, identifiers(kMacAddress), {ASN_OCTET_STR, 1}));
+        exchange(address, credentials, settings, identifiers(kMacAddress), {ASN_OCTET_STR, 1}));
     if (mac.value && !isMacAddress(*mac.value))
         return {std::nullopt,
                 {Reason::Unreadable,
                  QStringLiteral("a MAC address that is not six two-digit hexadecimal octets")}};
     return mac;
+}
+
+void OVSNMPHelper::forgetEngines() {
+    const std::lock_guard lock(OVSNMPSecurity::usersInUse());
+    OVSNMPSecurity::forgetEngines();
 }
 
 // An empty address names no printer (Net-SNMP would take it for localhost),

@@ -1,14 +1,19 @@
 #pragma once
 
+#include "OVSnmpCredentials.h"
+
 #include <QString>
 #include <QStringList>
 
 #include <array>
 #include <optional>
 
-// The printer's vendor MIB (.1.3.6.1.4.1.41871) over SNMP version 1 get
-// requests. Every query opens, uses and closes its own Net-SNMP session and
-// blocks until the answer or the last retry's timeout.
+// The printer's vendor MIB (.1.3.6.1.4.1.41871) over get requests of SNMP
+// version 1 or SNMPv3, as the credentials say. Every query opens, uses and
+// closes its own Net-SNMP session and blocks until the answer or the last
+// retry's timeout. An SNMPv3 printer's engine is discovered once per address
+// and remembered while its answers keep coming, so a whole fetch pays for the
+// discovery with one extra round trip.
 //
 // The list queries leave their result in eight class-level arrays that are
 // not guarded: only one fetch may run at a time (the window runs one fetch at
@@ -31,13 +36,16 @@ public:
 
     // Why a query gave no value. Each asks something else of the user: to
     // check the address and community, to check that the printer is one
-    // that keeps this information, or to report a printer that sends what
-    // its objects cannot hold.
+    // that keeps this information, to report a printer that sends what its
+    // objects cannot hold, or to correct one part of the SNMPv3 settings.
     enum class Reason {
-        NoAnswer,   // nothing came back (SNMP v1 is silent on a wrong community too)
-        Refused,    // the printer answered with an error status, such as noSuchName
-        Unreadable, // an answer of the wrong type, out of range, too long,
-                    // not UTF-8, or a MAC address that is not six octets
+        NoAnswer,                 // nothing came back (SNMP v1 is silent on a wrong community too)
+        Refused,                  // the printer answered with an error status, such as noSuchName
+        Unreadable,               // an answer of the wrong type, out of range, too long,
+                                  // not UTF-8, or a MAC address that is not six octets
+        UnknownUser,              // the printer has no SNMPv3 user of that name
+        WrongPassphrase,          // a digest or a decryption that does not match
+        UnsupportedSecurityLevel, // the user is not set up for privacy on (or off)
     };
     struct Failure {
         Reason reason = Reason::NoAnswer;
@@ -59,46 +67,61 @@ public:
     static const QStringList &colorProfileNameArray();
 
     // 100 when the printer answers shared box 100, else 30.
-    static int snmpGetSharedBoxEntryForIPAddress(const char *address, const QString &community);
-    static bool snmpGetSharedBoxStateForIPAddress(const char *address, const QString &community,
+    static int snmpGetSharedBoxEntryForIPAddress(const char *address,
+                                                 const OVSnmpCredentials &credentials);
+    static bool snmpGetSharedBoxStateForIPAddress(const char *address,
+                                                  const OVSnmpCredentials &credentials,
                                                   int totalCount);
-    static bool snmpGetSharedBoxNameForIPAddress(const char *address, const QString &community,
+    static bool snmpGetSharedBoxNameForIPAddress(const char *address,
+                                                 const OVSnmpCredentials &credentials,
                                                  int totalCount);
-    static bool snmpGetFormStateForIPAddress(const char *address, const QString &community);
-    static bool snmpGetFormNameForIPAddress(const char *address, const QString &community);
+    static bool snmpGetFormStateForIPAddress(const char *address,
+                                             const OVSnmpCredentials &credentials);
+    static bool snmpGetFormNameForIPAddress(const char *address,
+                                            const OVSnmpCredentials &credentials);
     static bool snmpGetBarcodeAreDefinitionStateForIPAddress(const char *address,
-                                                             const QString &community);
+                                                             const OVSnmpCredentials &credentials);
     static bool snmpGetBarcodeAreDefinitionNameForIPAddress(const char *address,
-                                                            const QString &community);
-    static bool snmpGetColorProfileStateForIPAddress(const char *address, const QString &community);
-    static bool snmpGetColorProfileNameForIPAddress(const char *address, const QString &community);
+                                                            const OVSnmpCredentials &credentials);
+    static bool snmpGetColorProfileStateForIPAddress(const char *address,
+                                                     const OVSnmpCredentials &credentials);
+    static bool snmpGetColorProfileNameForIPAddress(const char *address,
+                                                    const OVSnmpCredentials &credentials);
     // False on any failure.
-    static bool snmpGetAdminLoginModeEnabled(const char *address, const QString &community);
-    static Reading<bool> getAdminLoginModeEnabled(const char *address, const QString &community);
+    static bool snmpGetAdminLoginModeEnabled(const char *address,
+                                             const OVSnmpCredentials &credentials);
+    static Reading<bool> getAdminLoginModeEnabled(const char *address,
+                                                  const OVSnmpCredentials &credentials);
 
     // Copies of the whole shared-box arrays; no value on failure or when empty.
-    static Reading<QStringList> getValidatedSharedBoxNameArrayForIPAddress(const char *address,
-                                                                           const QString &community,
-                                                                           int totalCount);
-    static Reading<QStringList>
-    getValidatedSharedBoxStateArrayForIPAddress(const char *address, const QString &community,
-                                                int totalCount);
+    static Reading<QStringList> getValidatedSharedBoxNameArrayForIPAddress(
+        const char *address, const OVSnmpCredentials &credentials, int totalCount);
+    static Reading<QStringList> getValidatedSharedBoxStateArrayForIPAddress(
+        const char *address, const OVSnmpCredentials &credentials, int totalCount);
     // The names of the entries in use (state "1"), in index order; no value
     // on failure, an empty list when none is in use.
-    static Reading<QStringList> getValidatedFormNameArrayForIPAddress(const char *address,
-                                                                      const QString &community);
     static Reading<QStringList>
-    getValidatedBarcodeAreaNameArrayForIPAddress(const char *address, const QString &community);
-    static Reading<QStringList> getValidatedColorProfileForIPAddress(const char *address,
-                                                                     const QString &community);
+    getValidatedFormNameArrayForIPAddress(const char *address,
+                                          const OVSnmpCredentials &credentials);
+    static Reading<QStringList>
+    getValidatedBarcodeAreaNameArrayForIPAddress(const char *address,
+                                                 const OVSnmpCredentials &credentials);
+    static Reading<QStringList>
+    getValidatedColorProfileForIPAddress(const char *address, const OVSnmpCredentials &credentials);
 
     // The request status (0 success, 1 error, 2 timeout; 1 when no session
     // opens). sleepMode is -1 unless the printer answered with an integer
     // that an SNMP INTEGER can hold.
-    static int getSleepMode(const char *address, const QString &community, int &sleepMode);
+    static int getSleepMode(const char *address, const OVSnmpCredentials &credentials,
+                            int &sleepMode);
     // The MAC address as six two-digit hexadecimal octets joined by ":", the
     // form the printer sends it in; any other answer is unreadable.
-    static Reading<QString> getMacAddress(const char *address, const QString &community);
+    static Reading<QString> getMacAddress(const char *address,
+                                          const OVSnmpCredentials &credentials);
+
+    // Forgets the SNMPv3 engines heard so far: the next request to each
+    // printer discovers its engine again, as a new process does.
+    static void forgetEngines();
 
     // The Net-SNMP peer name for an address: the address itself, or for any
     // address with a colon "udp6:[ADDRESS]:161". The brackets differ on

@@ -27,6 +27,11 @@ OrvoSettings OVSettingsSnapshot::settings() const {
     s.optionsUpdated = isPPDOptionsUpdated;
     s.customCommunity = snmpCommunityCheck;
     s.community = snmpCommunityText.toStdString();
+    // Anything but a number reads as 0, which the rules refuse.
+    s.snmpVersion = snmpVersion.toInt();
+    s.snmpUser = snmpUserText.toStdString();
+    s.snmpAuthProtocol = snmpAuthProtocol.toStdString();
+    s.snmpPrivProtocol = snmpPrivProtocol.toStdString();
     s.wakeOnLan = wakeOnLANCheck;
     s.macAddress = wakeOnLANCheck ? macAddress.toStdString() : std::string();
     s.overTheRouter = overstepTheRouter;
@@ -48,6 +53,10 @@ void OVSettingsSnapshot::apply(const OrvoSettings &s) {
     isPPDOptionsUpdated = s.optionsUpdated;
     snmpCommunityCheck = s.customCommunity;
     snmpCommunityText = QString::fromStdString(s.community);
+    snmpVersion = QString::number(s.snmpVersion);
+    snmpUserText = QString::fromStdString(s.snmpUser);
+    snmpAuthProtocol = QString::fromStdString(s.snmpAuthProtocol);
+    snmpPrivProtocol = QString::fromStdString(s.snmpPrivProtocol);
     wakeOnLANCheck = s.wakeOnLan;
     if (!s.macAddress.empty())
         macAddress = QString::fromStdString(s.macAddress);

@@ -15,6 +15,11 @@ struct OVSettingsSnapshot {
     bool isPPDOptionsUpdated = false;
     bool snmpCommunityCheck = false;
     QString snmpCommunityText;
+    // "1" or "3", as typed; see OrvoSettings for the SNMPv3 fields.
+    QString snmpVersion = QStringLiteral("1");
+    QString snmpUserText;
+    QString snmpAuthProtocol = OrvoSettingsKeywords::snmpAuthProtocols[0];
+    QString snmpPrivProtocol = OrvoSettingsKeywords::snmpPrivProtocols[0];
     bool wakeOnLANCheck = true;
     // The six MAC fields joined by ':', as typed.
     QString macAddress = QStringLiteral("00:00:00:00:00:00");

@@ -121,17 +121,17 @@ void sendIPv6(int socketFd, const OVWakeOnLanHelper::MagicPacketBytes &packet,
     sendPacket(socketFd, packet, reinterpret_cast<sockaddr *>(&address), sizeof address);
 }
 
-bool askedReady(const char *address, const QString &community, int &status) {
+bool askedReady(const char *address, const OVSnmpCredentials &credentials, int &status) {
     int mode = -1;
-    status = OVSNMPHelper::getSleepMode(address, community, mode);
+    status = OVSNMPHelper::getSleepMode(address, credentials, mode);
     return status == kStatusSuccess && mode == kModeReady;
 }
 
 // While the printer says it is going to sleep (mode 2), wait for it to settle.
 // True when it reports ready meanwhile.
-bool waitWhileAsleep(const char *address, const QString &community) {
+bool waitWhileAsleep(const char *address, const OVSnmpCredentials &credentials) {
     int mode = -1;
-    if (OVSNMPHelper::getSleepMode(address, community, mode) != kStatusSuccess)
+    if (OVSNMPHelper::getSleepMode(address, credentials, mode) != kStatusSuccess)
         return false;
     if (mode == kModeReady)
         return true;
@@ -140,7 +140,7 @@ bool waitWhileAsleep(const char *address, const QString &community) {
     for (int check = 0; check < kAsleepChecks; ++check) {
         if (!OVSleep::sleepSeconds(kAsleepWait))
             return false;
-        const int status = OVSNMPHelper::getSleepMode(address, community, mode);
+        const int status = OVSNMPHelper::getSleepMode(address, credentials, mode);
         if (status == kStatusSuccess && mode == kModeReady)
             return true;
         if ((status == kStatusSuccess && mode == kModeOff) || status == kStatusTimeout)
@@ -149,10 +149,20 @@ bool waitWhileAsleep(const char *address, const QString &community) {
     return false;
 }
 
-bool pollReady(const char *address, const QString &community) {
+// An empty community, or one too long for its buffer, is the default one;
+// SNMPv3 credentials are used as they are.
+OVSnmpCredentials askedWith(const OVSnmpCredentials &given) {
+    if (given.version() == OVSnmpCredentials::Version::V3)
+        return given;
+    const QByteArray community = fitting(given.community().toUtf8(), kCommunityBuffer);
+    return community.isEmpty() ? OVSnmpCredentials(OrvoSettingsKeywords::defaultCommunity)
+                               : OVSnmpCredentials(QString::fromUtf8(community));
+}
+
+bool pollReady(const char *address, const OVSnmpCredentials &credentials) {
     for (int poll = 0; poll < kReadyPolls; ++poll) {
         int status = kStatusSuccess;
-        if (askedReady(address, community, status))
+        if (askedReady(address, credentials, status))
             return true;
         // A timeout has already taken its own time.
         if (status != kStatusTimeout && !OVSleep::sleepSeconds(kPollWait))
@@ -224,7 +234,7 @@ int OVWakeOnLanHelper::MagicPacket(const char *destination, const char *macAddr,
 }
 
 bool OVWakeOnLanHelper::SnmpWakeUpOnLan(const QString &ipAddress, const QString &macAddress,
-                                        const QString &snmpComm, bool isWakeOnLan,
+                                        const OVSnmpCredentials &snmp, bool isWakeOnLan,
                                         bool isOverRouter) {
     if (!isWakeOnLan)
         return true;
@@ -246,11 +256,9 @@ bool OVWakeOnLanHelper::SnmpWakeUpOnLan(const QString &ipAddress, const QString 
         MagicPacket(kIPv4Broadcast, mac.constData(), AF_INET);
         return false;
     }
-    const QByteArray given = fitting(snmpComm.toUtf8(), kCommunityBuffer);
-    const QString community = given.isEmpty() ? QString(OrvoSettingsKeywords::defaultCommunity)
-                                              : QString::fromUtf8(given);
+    const OVSnmpCredentials credentials = askedWith(snmp);
     const int ipType = spJudgeIPtype(address.constData());
-    if (waitWhileAsleep(address.constData(), community))
+    if (waitWhileAsleep(address.constData(), credentials))
         return true;
     const char *destination = isOverRouter         ? address.constData()
                               : ipType == AF_INET6 ? kIPv6AllRouters
@@ -259,5 +267,5 @@ bool OVWakeOnLanHelper::SnmpWakeUpOnLan(const QString &ipAddress, const QString 
     if (!OVSleep::sleepSeconds(kBetweenPackets))
         return false;
     MagicPacket(destination, mac.constData(), ipType);
-    return OVSleep::sleepSeconds(kAfterPackets) && pollReady(address.constData(), community);
+    return OVSleep::sleepSeconds(kAfterPackets) && pollReady(address.constData(), credentials);
 }

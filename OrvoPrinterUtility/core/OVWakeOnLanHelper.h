@@ -1,5 +1,7 @@
 #pragma once
 
+#include "OVSnmpCredentials.h"
+
 #include <QString>
 
 #include <array>
@@ -29,5 +31,5 @@ public:
     static int MagicPacket(const char *destination, const char *macAddr, int ipType);
     // YES when the printer reports ready, or when there is nothing to wake.
     static bool SnmpWakeUpOnLan(const QString &ipAddress, const QString &macAddress,
-                                const QString &snmpComm, bool isWakeOnLan, bool isOverRouter);
+                                const OVSnmpCredentials &snmp, bool isWakeOnLan, bool isOverRouter);
 };

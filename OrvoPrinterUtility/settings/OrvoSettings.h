@@ -17,6 +17,12 @@ struct OrvoSettings {
     bool optionsUpdated = false;
     bool customCommunity = false;
     std::string community = OrvoSettingsKeywords::defaultCommunity;
+    // 1: SNMP v1 with the community; 3: SNMPv3 as the user below, with
+    // privacy unless the privacy protocol is "". No passphrase is a setting.
+    int snmpVersion = 1;
+    std::string snmpUser;
+    std::string snmpAuthProtocol = OrvoSettingsKeywords::snmpAuthProtocols[0];
+    std::string snmpPrivProtocol = OrvoSettingsKeywords::snmpPrivProtocols[0];
     bool wakeOnLan = true;
     // Six two-digit hexadecimal numbers joined by ':', or "" for none.
     std::string macAddress;

@@ -55,6 +55,12 @@ OrvoSettingsCodec::Options OrvoSettingsCodec::encode(const OrvoSettings &s) {
     options.emplace_back(K::IsCustomSnmpCommunity, flag(s.customCommunity));
     if (s.customCommunity)
         options.emplace_back(K::SnmpCommunityName, encodeBase64(s.community));
+    options.emplace_back(K::SnmpVersion, std::to_string(s.snmpVersion));
+    if (s.snmpVersion == 3) {
+        options.emplace_back(K::SnmpUserName, encodeBase64(s.snmpUser));
+        options.emplace_back(K::SnmpAuthProtocol, encodeBase64(s.snmpAuthProtocol));
+        options.emplace_back(K::SnmpPrivProtocol, encodeBase64(s.snmpPrivProtocol));
+    }
     options.emplace_back(K::IsWakeOnLan, flag(s.wakeOnLan));
     options.emplace_back(K::PrinterMacAddress, s.wakeOnLan ? encodeBase64(s.macAddress) : "");
     options.emplace_back(K::IsOverTheRouter, flag(s.wakeOnLan && s.overTheRouter));
@@ -121,6 +127,7 @@ OrvoSettingsCodec::Decoded OrvoSettingsCodec::decode(const Lookup &stored) {
     s.customCommunity = plain(K::IsCustomSnmpCommunity) == "1";
     s.community = decodeChecked(K::SnmpCommunityName, Rules::community, stored, decoded)
                       .value_or(K::defaultCommunity);
+    decodeSnmp(stored, decoded);
     // Absent or empty reads as on.
     const std::string_view wake = plain(K::IsWakeOnLan);
     s.wakeOnLan = wake.empty() || wake == "1";
@@ -139,6 +146,30 @@ OrvoSettingsCodec::Decoded OrvoSettingsCodec::decode(const Lookup &stored) {
     // On unless exactly "0".
     s.adminLoginMode = plain(K::AdminLoginModeEnabled) != "0";
     return decoded;
+}
+
+// Absent or empty, the version reads as 1.
+void OrvoSettingsCodec::decodeSnmp(const Lookup &stored, Decoded &decoded) {
+    using Rules = OrvoSettingsRules;
+    OrvoSettings &s = decoded.settings;
+    if (const char *version = stored(K::SnmpVersion); version && *version) {
+        const std::optional<long long> number = decodeIndex(version);
+        const OrvoSettingsVerdict verdict =
+            number ? Rules::snmpVersion(*number)
+                   : OrvoSettingsVerdict{K::SnmpVersion, Problem::Malformed, 0,
+                                         "is not a decimal number"};
+        if (verdict.ok())
+            s.snmpVersion = int(*number);
+        else
+            decoded.ignored.push_back({K::SnmpVersion, verdict});
+    }
+    s.snmpUser = decodeChecked(K::SnmpUserName, Rules::snmpUser, stored, decoded).value_or("");
+    s.snmpAuthProtocol =
+        decodeChecked(K::SnmpAuthProtocol, Rules::snmpAuthProtocol, stored, decoded)
+            .value_or(s.snmpAuthProtocol);
+    s.snmpPrivProtocol =
+        decodeChecked(K::SnmpPrivProtocol, Rules::snmpPrivProtocol, stored, decoded)
+            .value_or(s.snmpPrivProtocol);
 }
 
 std::optional<std::string>

@@ -63,6 +63,7 @@ private:
     static std::vector<std::string> decodeNames(const OrvoSettingsNameList &list,
                                                 const Lookup &stored, Decoded &decoded);
     static std::vector<std::int32_t> decodeIndices(const Lookup &stored, Decoded &decoded);
+    static void decodeSnmp(const Lookup &stored, Decoded &decoded);
     static std::optional<std::string> decodeChecked(const char *keyword,
                                                     OrvoSettingsVerdict (*rule)(std::string_view),
                                                     const Lookup &stored, Decoded &decoded);

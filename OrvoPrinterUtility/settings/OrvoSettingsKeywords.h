@@ -25,6 +25,10 @@ inline constexpr char UpdatePPDOptions[] = "UpdatePPDOptions";
 inline constexpr char PPDOptionsUpdated[] = "PPDOptionsUpdated";
 inline constexpr char IsCustomSnmpCommunity[] = "IsCustomSnmpCommunity";
 inline constexpr char SnmpCommunityName[] = "SnmpCommunityName";
+inline constexpr char SnmpVersion[] = "SnmpVersion";
+inline constexpr char SnmpUserName[] = "SnmpUserName";
+inline constexpr char SnmpAuthProtocol[] = "SnmpAuthProtocol";
+inline constexpr char SnmpPrivProtocol[] = "SnmpPrivProtocol";
 inline constexpr char IsWakeOnLan[] = "IsWakeOnLan";
 inline constexpr char PrinterMacAddress[] = "PrinterMacAddress";
 inline constexpr char IsOverTheRouter[] = "IsOverTheRouter";
@@ -49,6 +53,11 @@ inline constexpr char updatePpdOptionsValue[] = "True";
 inline constexpr char updateJobTitle[] = "UpdatePPDOptions";
 inline constexpr char updateFileContent[] = "Update";
 inline constexpr char defaultCommunity[] = "cobalt";
+// The SNMPv3 protocols a queue may name, for authentication and for privacy;
+// the first of each is what a queue starts with.
+inline constexpr const char *snmpAuthProtocols[] = {"SHA-256", "SHA-512", "SHA-384",
+                                                    "SHA-224", "SHA-1",   "MD5"};
+inline constexpr const char *snmpPrivProtocols[] = {"AES-128", "AES-256", "AES-192", "DES"};
 
 // The update job's own document format: the server routes it to the driver
 // filter alone, so the job never reaches the printer's driver and print jobs
@@ -68,6 +77,10 @@ inline constexpr Keyword all[] = {
     {PPDOptionsUpdated, Encoding::Flag, 0},
     {IsCustomSnmpCommunity, Encoding::Flag, 0},
     {SnmpCommunityName, Encoding::Base64, 0},
+    {SnmpVersion, Encoding::Decimal, 0},
+    {SnmpUserName, Encoding::Base64, 0},
+    {SnmpAuthProtocol, Encoding::Base64, 0},
+    {SnmpPrivProtocol, Encoding::Base64, 0},
     {IsWakeOnLan, Encoding::Flag, 0},
     {PrinterMacAddress, Encoding::Base64, 0},
     {IsOverTheRouter, Encoding::Flag, 0},

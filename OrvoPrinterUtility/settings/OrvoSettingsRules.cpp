@@ -38,6 +38,17 @@ bool isZone(std::string_view zone) {
     });
 }
 
+bool isOneOf(std::string_view text, std::span<const char *const> names) {
+    return std::find(names.begin(), names.end(), text) != names.end();
+}
+
+std::string joined(std::span<const char *const> names) {
+    std::string text;
+    for (const char *name : names)
+        text += (text.empty() ? "" : ", ") + std::string(name);
+    return text;
+}
+
 bool isLabel(std::string_view label) {
     return !label.empty() && label.size() <= labelLimit && label.front() != '-' &&
            label.back() != '-' && std::all_of(label.begin(), label.end(), [](char c) {
@@ -48,16 +59,63 @@ bool isLabel(std::string_view label) {
 } // namespace
 
 OrvoSettingsVerdict OrvoSettingsRules::community(std::string_view text) {
+    return restricted(K::SnmpCommunityName, text);
+}
+
+OrvoSettingsVerdict OrvoSettingsRules::snmpVersion(long long version) {
+    if (version == 1 || version == 3)
+        return {};
+    return {K::SnmpVersion, Problem::Malformed, 0, "is neither 1 nor 3"};
+}
+
+// A user name is typed in a field like the community's and travels in the
+// clear in every SNMPv3 message, so it takes the same characters.
+OrvoSettingsVerdict OrvoSettingsRules::snmpUser(std::string_view text) {
+    if (text.empty())
+        return {K::SnmpUserName, Problem::Malformed, 0, "is empty"};
+    return restricted(K::SnmpUserName, text);
+}
+
+OrvoSettingsVerdict OrvoSettingsRules::snmpAuthProtocol(std::string_view text) {
+    if (isOneOf(text, K::snmpAuthProtocols))
+        return {};
+    return {K::SnmpAuthProtocol, Problem::Malformed, 0,
+            "is not one of " + joined(K::snmpAuthProtocols)};
+}
+
+OrvoSettingsVerdict OrvoSettingsRules::snmpPrivProtocol(std::string_view text) {
+    if (text.empty() || isOneOf(text, K::snmpPrivProtocols))
+        return {};
+    return {K::SnmpPrivProtocol, Problem::Malformed, 0,
+            "is neither empty nor one of " + joined(K::snmpPrivProtocols)};
+}
+
+OrvoSettingsVerdict OrvoSettingsRules::restricted(std::string_view field, std::string_view text) {
     static const std::u32string valid = *OrvoUtf8::codePoints(communityCharacters);
     const std::optional<std::u32string> points = OrvoUtf8::codePoints(text);
     if (!points)
-        return {K::SnmpCommunityName, Problem::Malformed, 0, "is not UTF-8 text"};
+        return {field, Problem::Malformed, 0, "is not UTF-8 text"};
     for (char32_t point : *points) {
         if (valid.find(point) == std::u32string::npos)
-            return {K::SnmpCommunityName, Problem::InvalidCharacter, 0, OrvoUtf8::encode(point)};
+            return {field, Problem::InvalidCharacter, 0, OrvoUtf8::encode(point)};
     }
     if (long(points->size()) > communityLimit)
-        return {K::SnmpCommunityName, Problem::TooLong, communityLimit};
+        return {field, Problem::TooLong, communityLimit};
+    return {};
+}
+
+// The SNMPv3 settings count only while version 3 is chosen, as the
+// community counts only while a custom one is.
+OrvoSettingsVerdict OrvoSettingsRules::snmp(const OrvoSettings &s) {
+    if (OrvoSettingsVerdict verdict = snmpVersion(s.snmpVersion);
+        !verdict.ok() || s.snmpVersion != 3)
+        return verdict;
+    for (const OrvoSettingsVerdict &verdict :
+         {snmpUser(s.snmpUser), snmpAuthProtocol(s.snmpAuthProtocol),
+          snmpPrivProtocol(s.snmpPrivProtocol)}) {
+        if (!verdict.ok())
+            return verdict;
+    }
     return {};
 }
 
@@ -89,6 +147,8 @@ OrvoSettingsVerdict OrvoSettingsRules::check(const OrvoSettings &s) {
         if (OrvoSettingsVerdict verdict = community(s.community); !verdict.ok())
             return verdict;
     }
+    if (OrvoSettingsVerdict verdict = snmp(s); !verdict.ok())
+        return verdict;
     if (OrvoSettingsVerdict verdict = wakeOnLan(s); !verdict.ok())
         return verdict;
     if (s.printerAddress) {

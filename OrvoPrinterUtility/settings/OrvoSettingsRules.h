@@ -35,6 +35,14 @@ public:
 
     // Only the community field's characters, at most communityLimit of them.
     static OrvoSettingsVerdict community(std::string_view text);
+    // 1 (the community) or 3 (the SNMPv3 user).
+    static OrvoSettingsVerdict snmpVersion(long long version);
+    // The community's characters and limit; never empty.
+    static OrvoSettingsVerdict snmpUser(std::string_view text);
+    // One of OrvoSettingsKeywords::snmpAuthProtocols.
+    static OrvoSettingsVerdict snmpAuthProtocol(std::string_view text);
+    // One of OrvoSettingsKeywords::snmpPrivProtocols, or "" for none.
+    static OrvoSettingsVerdict snmpPrivProtocol(std::string_view text);
     // Six two-digit hexadecimal numbers joined by ':', or "" for none.
     static OrvoSettingsVerdict macAddress(std::string_view text);
     // "", an IPv4 or IPv6 literal (an IPv6 one in brackets or not, with or
@@ -66,6 +74,8 @@ private:
     static OrvoSettingsVerdict names(const OrvoSettingsNameList &list,
                                      const OrvoSettings &settings);
     static OrvoSettingsVerdict indices(const OrvoSettings &settings);
+    static OrvoSettingsVerdict restricted(std::string_view field, std::string_view text);
+    static OrvoSettingsVerdict snmp(const OrvoSettings &settings);
     static bool isIpLiteral(std::string_view text);
     static bool isHostName(std::string_view text);
 };

@@ -2,6 +2,7 @@
 // simulated printer, with the exit codes and messages its manual documents.
 #include "CommandLineRun.h"
 #include "CupsServerEnvironment.h"
+#include "OVSnmpSecrets.h"
 #include "SettingsInputs.h"
 #include "SimulatedPrinter.h"
 #include "SpawnedProcess.h"
@@ -381,6 +382,85 @@ TEST(CommandLine, FetchEndsAtItsTimeoutWhenThePrinterFallsSilent) {
     EXPECT_LT(elapsed.elapsed(), 12000);
     EXPECT_EQ(run.exit, 5) << run.shown.toStdString();
     EXPECT_TRUE(run.shown.contains("did not answer")) << run.shown.toStdString();
+}
+
+// Whether any process's argument list, which every user can read, holds text.
+bool onAnArgumentList(const QByteArray &text) {
+    for (const QFileInfo &process : QDir("/proc").entryInfoList(QDir::Dirs)) {
+        QFile arguments(process.filePath() + "/cmdline");
+        if (arguments.open(QIODevice::ReadOnly) && arguments.readAll().contains(text))
+            return true;
+    }
+    return false;
+}
+
+// SNMPv3 passphrases reach a printer with v1 switched off from a file only their owner may read
+// or from the environment, and are found nowhere else: on no argument list, in no message or
+// log line, not in the queue's PPD nor in the server's log after a save.
+TEST(CommandLine, SnmpV3PassphrasesStaySecret) {
+    using P = SimulatedPrinter;
+    P::Options options;
+    options.v1Off = true;
+    P printer(options);
+    ASSERT_TRUE(printer.start()) << printer.errorText().toStdString();
+    printer.setDefaults();
+    printer.setResponseDelayMs(20); // long enough a fetch to be watched
+    const QByteArray wrongPassphrase = "not-the-priv-phrase";
+    const auto leaks = [&](const QByteArray &text) {
+        return text.contains(P::kAuthPassphrase) || text.contains(P::kPrivPassphrase) ||
+               text.contains(wrongPassphrase);
+    };
+    bool listed = false, watched = false;
+    const auto watch = [&] {
+        for (int look = 0; look < 20; ++look, QTest::qWait(20)) {
+            watched = watched || onAnArgumentList("--snmp-user");
+            listed = listed || onAnArgumentList(P::kAuthPassphrase) ||
+                     onAnArgumentList(P::kPrivPassphrase) || onAnArgumentList(wrongPassphrase);
+        }
+    };
+    QTemporaryDir dir;
+    const QString secrets = dir.filePath("secrets");
+    CupsServer::writeFile(secrets, QByteArray(OVSnmpSecrets::authName) + "=" + P::kAuthPassphrase +
+                                       "\n" + OVSnmpSecrets::privName + "=" + P::kPrivPassphrase +
+                                       "\n");
+    QFile::setPermissions(secrets, QFile::ReadOwner | QFile::WriteOwner);
+    const QStringList fetch = {"fetch",          "--address",   P::loopbackAddress(),
+                               "--snmp-version", "3",           "--snmp-user",
+                               P::kPrivUser,     "--snmp-priv", "AES-128"};
+    const CommandLineRun fromFile(ORVO_CLI, fetch + QStringList{"--snmp-secrets", secrets}, {},
+                                  watch);
+    EXPECT_EQ(fromFile.exit, 0) << fromFile.shown.toStdString();
+    EXPECT_TRUE(fromFile.shown.contains("macAddress: 00:11:22:aa:bb:cc"));
+    check({"fetch", "--address", P::loopbackAddress()}, 5, "the SNMP community may be wrong");
+    QFile::setPermissions(secrets, QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup);
+    check(fetch + QStringList{"--snmp-secrets", secrets}, 2, "readable by you alone (chmod 600)");
+
+    // From the environment, with the log on: a wrong privacy passphrase leaves the printer
+    // silent, and the message suspects it without showing it.
+    qputenv("QT_LOGGING_RULES", "orvo.*=true");
+    qputenv(OVSnmpSecrets::authName, P::kAuthPassphrase);
+    qputenv(OVSnmpSecrets::privName, wrongPassphrase);
+    const CommandLineRun wrong(ORVO_CLI, fetch, {}, watch);
+    EXPECT_EQ(wrong.exit, 5);
+    EXPECT_TRUE(wrong.shown.contains("the SNMPv3 privacy passphrase may be wrong"));
+    EXPECT_TRUE(wrong.shown.contains("SNMP request to")) << "the log is on";
+    EXPECT_FALSE(leaks(wrong.shown)) << wrong.shown.toStdString();
+    qputenv(OVSnmpSecrets::privName, P::kPrivPassphrase);
+    EXPECT_EQ(cli(fetch).exit, 0);
+
+    // A save of the SNMPv3 settings while the passphrases are in the environment.
+    CupsServer &server = CupsServerEnvironment::server();
+    ASSERT_TRUE(server.addQueue("secured"));
+    const QJsonObject v3{{"snmpVersion", "3"}, {"snmpUser", P::kPrivUser}, {"snmpPriv", "AES-128"}};
+    check({"save", "secured", "--settings", "-"}, 0, "", QJsonDocument(v3).toJson());
+    check({"show", "secured"}, 0, "snmpVersion: 3\nsnmpUser: orvo_admin\n");
+    qunsetenv("QT_LOGGING_RULES");
+    qunsetenv(OVSnmpSecrets::authName);
+    qunsetenv(OVSnmpSecrets::privName);
+    EXPECT_FALSE(leaks(server.queuePpd("secured")));
+    EXPECT_FALSE(leaks(server.errorLog()));
+    EXPECT_TRUE(watched);
+    EXPECT_FALSE(listed);
 }
 
 } // namespace

@@ -25,7 +25,8 @@ constexpr const char *kTooWide = "unreadable: a number wider than 32 bits";
 // has none.
 enum Query { Forms, AdminMode, Mac, SleepMode };
 template <typename T> std::string failure(const H::Reading<T> &reading) {
-    constexpr const char *reasons[] = {"no answer", "refused", "unreadable"};
+    constexpr const char *reasons[] = {"no answer",    "refused",          "unreadable",
+                                       "unknown user", "wrong passphrase", "unsupported level"};
     const std::string detail = reading.failure.detail.toStdString();
     return reasons[int(reading.failure.reason)] + (detail.empty() ? "" : ": " + detail);
 }
@@ -210,6 +211,87 @@ TEST(SnmpQueries, FetchStopsAtTheStepThatFailedWithItsReason) {
         EXPECT_EQ(result.adminLoginModeEnabled.has_value(), c.step > Fetch::Step::Folders);
         EXPECT_FALSE(result.colorProfiles);
     }
+}
+
+OVSnmpCredentials v3(const char *user, const char *auth, const char *authPassphrase,
+                     const char *priv = "", const char *privPassphrase = P::kPrivPassphrase) {
+    return OVSnmpCredentials::v3(user, auth, authPassphrase, priv, privPassphrase);
+}
+
+// What a whole fetch found, as text.
+std::string fetched(const OVSnmpCredentials &credentials) {
+    using Fetch = OVPrinterInfoFetch;
+    const Fetch::Result r =
+        Fetch::fetch({P::loopbackAddress(), credentials, std::nullopt}, Fetch::allSteps);
+    if (r.failedStep)
+        return Fetch::stepName(r.failedStep->step).toStdString() + ": " +
+               failure(H::Reading<bool>{std::nullopt, r.failedStep->failure});
+    return QStringList{r.macAddress,
+                       r.foldersInUse()->join(','),
+                       r.folderStates->join(','),
+                       QString::number(*r.adminLoginModeEnabled),
+                       r.forms->join(','),
+                       r.barcodeAreas->join(','),
+                       r.colorProfiles->join(',')}
+        .join('|')
+        .toStdString();
+}
+
+// A printer with SNMP v1 switched off answers its SNMPv3 users what it
+// answered over v1, and each fault of the v3 settings fails the fetch with a
+// reason of its own.
+TEST(SnmpVersion3, AnswersAsVersion1DidAndTellsFaultsApart) {
+    const OVSnmpCredentials privUser =
+        v3(P::kPrivUser, "SHA-256", P::kAuthPassphrase, "AES-128", P::kPrivPassphrase);
+    std::string overV1;
+    {
+        P printer;
+        ASSERT_TRUE(printer.start()) << printer.errorText().toStdString();
+        printer.setDefaults();
+        overV1 = fetched(kCommunity);
+    }
+    P::Options options;
+    options.v1Off = true;
+    P printer(options);
+    ASSERT_TRUE(printer.start()) << printer.errorText().toStdString();
+    printer.setDefaults();
+    EXPECT_NE(overV1.find("00:11:22:aa:bb:cc|Box1,Box3"), std::string::npos) << overV1;
+    const std::string wrongDigest =
+        "wrong passphrase: the authentication passphrase does not match";
+    const struct {
+        const char *label;
+        OVSnmpCredentials credentials;
+        std::string expected;
+    } cases[] = {
+        {"v1Off", kCommunity, "MAC address: no answer"},
+        {"authPriv", privUser, overV1},
+        {"authNoPriv", v3(P::kAuthUser, "SHA-256", P::kAuthPassphrase), overV1},
+        {"longestKeys", v3(P::kStrongUser, "SHA-512", P::kAuthPassphrase, "AES-256"), overV1},
+        {"unknownUser", v3("orvo_guest", "SHA-256", P::kAuthPassphrase),
+         "MAC address: unknown user: the printer has no such SNMPv3 user"},
+        {"wrongAuthPassphrase", v3(P::kPrivUser, "SHA-256", "not-the-phrase", "AES-128"),
+         "MAC address: " + wrongDigest},
+        {"wrongAuthProtocol", v3(P::kPrivUser, "SHA-512", P::kAuthPassphrase, "AES-128"),
+         "MAC address: " + wrongDigest},
+        // The printer cannot read what it decrypts and stays silent.
+        {"wrongPrivPassphrase",
+         v3(P::kPrivUser, "SHA-256", P::kAuthPassphrase, "AES-128", "not-the-phrase"),
+         "MAC address: no answer"},
+        {"privacyForAuthOnlyUser", v3(P::kAuthUser, "SHA-256", P::kAuthPassphrase, "AES-128"),
+         "MAC address: unsupported level: the user is not set up for this security level"},
+        {"shortPassphrase", v3(P::kPrivUser, "SHA-256", "short", "AES-128"),
+         "MAC address: wrong passphrase: a passphrase of fewer than 8 characters"},
+        // The engine is remembered: the right passphrase after a wrong one works.
+        {"authPrivAgain", privUser, overV1},
+    };
+    for (const auto &c : cases) {
+        SCOPED_TRACE(c.label);
+        EXPECT_EQ(fetched(c.credentials), c.expected);
+    }
+    // Integers are checked as sent inside the encrypted answer too.
+    printer.set(P::kAdminLoginMode, 4294967295L);
+    EXPECT_EQ(failure(H::getAdminLoginModeEnabled(P::loopbackAddress().toLatin1(), privUser)),
+              kTooWide);
 }
 
 // The elements inside a constructed BER element of a request Net-SNMP built

@@ -39,6 +39,11 @@ constexpr const char *kNoAddress = "ERROR: convert ip address text to byte [";
 const QString kAll4 = "255.255.255.255"; // sent only inside this test's network namespaces
 const QString kAll6 = "ff02::2";         // sent only inside this test's network namespaces
 
+OVSnmpCredentials v3User(const char *authPassphrase = SimulatedPrinter::kAuthPassphrase) {
+    return OVSnmpCredentials::v3(SimulatedPrinter::kPrivUser, "SHA-256", authPassphrase, "AES-128",
+                                 SimulatedPrinter::kPrivPassphrase);
+}
+
 QByteArray magicPacket(const char *mac) {
     const QByteArray bytes = QByteArray::fromHex(QByteArray(mac).replace(':', ""));
     return QByteArray(6, char(0xFF)) + bytes.repeated(16) + QByteArray(6, '\0');
@@ -155,6 +160,7 @@ TEST(WakeOnLan, ReachesAndWakesThePrinter) {
         int sleptSeconds = -1;    // -1: not checked
         long laterMode = -1;
         const char *logged = "";
+        OVSnmpCredentials snmp = ""; // the default community
     } cases[] = {
         {"ipv4Broadcast", kV4, kMac, kAsleep, true, false, true, {kAll4, kAll4}},
         {"ipv6Group", kV6, kMac, kAsleep, true, false, true, {kAll6, kAll6}},
@@ -172,6 +178,22 @@ TEST(WakeOnLan, ReachesAndWakesThePrinter) {
         // A link-local address is asked with its zone, but the packet to it
         // cannot be addressed: logged, and the printer sleeps on.
         {"linkLocal", kLinkLocal, kMac, kAsleep, true, true, false, {}, 16, -1, -1, kNoAddress},
+        // The sleep mode asked as an SNMPv3 user; one the printer refuses
+        // learns nothing from it.
+        {"snmpV3", kV4, kMac, kAsleep, true, true, true, {kV4, kV4}, -1, -1, -1, "", v3User()},
+        {"snmpV3Refused",
+         kV4,
+         kMac,
+         kAsleep,
+         true,
+         true,
+         false,
+         {kV4, kV4},
+         0,
+         -1,
+         -1,
+         "",
+         v3User("not-the-passphrase")},
     };
     // The packets that reached the printer while `wake` ran in the client namespace, each
     // checked to be the magic packet for `mac`; their destinations, sorted.
@@ -200,7 +222,7 @@ TEST(WakeOnLan, ReachesAndWakesThePrinter) {
         EXPECT_EQ(sent(c.mac,
                        [&] {
                            EXPECT_EQ(OVWakeOnLanHelper::SnmpWakeUpOnLan(
-                                         c.address, c.mac, "", c.isWakeOnLan, c.isOverRouter),
+                                         c.address, c.mac, c.snmp, c.isWakeOnLan, c.isOverRouter),
                                      c.result);
                        }),
                   c.destinations);

@@ -161,6 +161,13 @@ TEST(OrvoSettingsRules, TheSettingsInputs) {
         // A community that is not custom is not sent: the default reads back.
         OrvoSettings expected = snapshot.settings();
         expected.community = expected.customCommunity ? expected.community : K::defaultCommunity;
+        // Nor are the SNMPv3 settings without version 3.
+        if (expected.snmpVersion != 3) {
+            const OrvoSettings defaults;
+            expected.snmpUser = defaults.snmpUser;
+            expected.snmpAuthProtocol = defaults.snmpAuthProtocol;
+            expected.snmpPrivProtocol = defaults.snmpPrivProtocol;
+        }
         EXPECT_TRUE(read.ignored.empty());
         EXPECT_TRUE(read.settings == expected);
     }
@@ -202,12 +209,14 @@ TEST(OrvoSettingsRules, AJobIsJudgedOverTheStoredSettings) {
 }
 
 // The keyword groups in their order, and every list slot written (so that a shorter list clears
-// the entries of a longer one). The community name goes only with a custom community; the
-// address whenever its field yields a string, even an empty one. The values themselves are
-// checked where a save reads back through the server.
+// the entries of a longer one). The community name goes only with a custom community, the
+// SNMPv3 user and protocols only with version 3, the address whenever its field yields a
+// string, even an empty one. The values themselves are checked where a save reads back
+// through the server.
 TEST(OVUpdateJob, OptionGroupsAndSlots) {
     OVSettingsSnapshot s;
     s.snmpCommunityCheck = true;
+    s.snmpVersion = "3";
     s.printerIPAddressText = "";
     QSet<QByteArray> names;
     QList<QByteArray> groups;
@@ -218,20 +227,22 @@ TEST(OVUpdateJob, OptionGroupsAndSlots) {
         if (groups.isEmpty() || groups.last() != group)
             groups << group;
     }
-    EXPECT_EQ(groups,
-              (QList<QByteArray>{"UpdatePPDOptions", "PPDOptionsUpdated", "IsCustomSnmpCommunity",
-                                 "SnmpCommunityName", "IsWakeOnLan", "PrinterMacAddress",
-                                 "IsOverTheRouter", "PrinterIPAddress", "SharedBoxName",
-                                 "SelSharedBoxName", "SelSharedBoxIndex", "UsePersonalFolder",
-                                 "AdminLoginModeEnabled", "PSFormName", "BarcodeAreaDefName",
-                                 "ColorProfileName"}));
+    EXPECT_EQ(groups, (QList<QByteArray>{
+                          "UpdatePPDOptions",   "PPDOptionsUpdated",     "IsCustomSnmpCommunity",
+                          "SnmpCommunityName",  "SnmpVersion",           "SnmpUserName",
+                          "SnmpAuthProtocol",   "SnmpPrivProtocol",      "IsWakeOnLan",
+                          "PrinterMacAddress",  "IsOverTheRouter",       "PrinterIPAddress",
+                          "SharedBoxName",      "SelSharedBoxName",      "SelSharedBoxIndex",
+                          "UsePersonalFolder",  "AdminLoginModeEnabled", "PSFormName",
+                          "BarcodeAreaDefName", "ColorProfileName"}));
     for (const char *name :
          {"SelSharedBoxIndex99", "PSFormName99_Part6", "ColorProfileName29_Part6"})
         EXPECT_TRUE(names.contains(name)) << name;
-    EXPECT_EQ(names.size(), 2690);
+    EXPECT_EQ(names.size(), 2694);
     s.snmpCommunityCheck = false;
+    s.snmpVersion = "1";
     s.printerIPAddressText = QString();
-    EXPECT_EQ(OVUpdateJob::optionList(s).size(), 2688);
+    EXPECT_EQ(OVUpdateJob::optionList(s).size(), 2689);
 }
 
 } // namespace
