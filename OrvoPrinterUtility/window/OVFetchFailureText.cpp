@@ -7,17 +7,35 @@ using namespace OVWindowTexts;
 using OVChooserTexts::localized;
 
 // An empty address fails before anything is asked; a silent printer and a
-// wrong community look the same under SNMP v1, so both are named.
+// wrong community look the same under SNMP v1, so both are named. SNMPv3
+// names what it refused, except a wrong privacy passphrase: the printer
+// cannot read what that encrypted, and stays silent.
 QString OVFetchFailureText::reason(const QString &address,
-                                   const OVPrinterInfoFetch::FailedStep &failed) {
+                                   const OVPrinterInfoFetch::FailedStep &failed,
+                                   OVSnmpCredentials::Version version) {
     if (address.trimmed().isEmpty())
         return localized(fetchNoAddress);
-    const char *text = fetchNoAnswer;
-    if (failed.failure.reason == OVSNMPHelper::Reason::Refused)
-        text = fetchRefused;
-    else if (failed.failure.reason == OVSNMPHelper::Reason::Unreadable)
-        text = fetchUnreadable;
-    return localized(text).arg(address, asked(failed.step));
+    return localized(text(failed.failure.reason, version)).arg(address, asked(failed.step));
+}
+
+const char *OVFetchFailureText::text(OVSNMPHelper::Reason reason,
+                                     OVSnmpCredentials::Version version) {
+    using Reason = OVSNMPHelper::Reason;
+    switch (reason) {
+    case Reason::NoAnswer:
+        break;
+    case Reason::Refused:
+        return fetchRefused;
+    case Reason::Unreadable:
+        return fetchUnreadable;
+    case Reason::UnknownUser:
+        return fetchUnknownUser;
+    case Reason::WrongPassphrase:
+        return fetchWrongPassphrase;
+    case Reason::UnsupportedSecurityLevel:
+        return fetchWrongLevel;
+    }
+    return version == OVSnmpCredentials::Version::V3 ? fetchNoAnswerV3 : fetchNoAnswer;
 }
 
 QString OVFetchFailureText::asked(OVPrinterInfoFetch::Step step) {

@@ -8,8 +8,10 @@
 // text of its alert: what was asked, and what the user can check.
 class OVFetchFailureText {
 public:
-    static QString reason(const QString &address, const OVPrinterInfoFetch::FailedStep &failed);
+    static QString reason(const QString &address, const OVPrinterInfoFetch::FailedStep &failed,
+                          OVSnmpCredentials::Version version);
 
 private:
+    static const char *text(OVSNMPHelper::Reason reason, OVSnmpCredentials::Version version);
     static QString asked(OVPrinterInfoFetch::Step step);
 };

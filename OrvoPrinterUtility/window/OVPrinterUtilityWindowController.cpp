@@ -201,6 +201,7 @@ void OVPrinterUtilityWindowController::connectActions() {
         {c.barcodeAreaDefinitionClearButton, &C::barcodeAreaDefinitionClearButtonClicked},
         {c.colorProfileClearButton, &C::colorProfileClearButtonClicked},
         {c.snmpCommunityCheck, &C::customSnmpCommunityClicked},
+        {c.snmpSecurityButton, &C::snmpSecurityButtonClicked},
         {c.wakeOnLANCheck, &C::wakeOnLANCheckClicked}};
     for (const auto &[button, action] : actions)
         connect(button, &QAbstractButton::clicked, this,
@@ -266,7 +267,10 @@ bool OVPrinterUtilityWindowController::editable() const {
 void OVPrinterUtilityWindowController::constraintsSnmpItems() {
     if (!editable())
         return;
-    m_ui->snmpCommunityText->setEnabled(m_ui->snmpCommunityCheck->isChecked());
+    // SNMPv3 asks as its user: the community row has no say then.
+    const bool v1 = !m_snmp.v3();
+    m_ui->snmpCommunityCheck->setEnabled(v1);
+    m_ui->snmpCommunityText->setEnabled(v1 && m_ui->snmpCommunityCheck->isChecked());
 }
 
 void OVPrinterUtilityWindowController::constraintsWakeOnLanItems() {

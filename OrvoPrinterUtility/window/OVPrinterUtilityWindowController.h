@@ -6,6 +6,7 @@
 #include "OVSettingsSnapshot.h"
 #include "OVWindowQueue.h"
 #include "OVWindowSave.h"
+#include "OVWindowSnmp.h"
 
 #include <QObject>
 #include <QStringList>
@@ -130,6 +131,8 @@ public:
     // reason: the informative text, why the fetch failed.
     void showFailedMessage(const QString &reason);
     void customSnmpCommunityClicked(QObject *sender);
+    // The SNMP version, and the SNMPv3 user with its passphrases.
+    void snmpSecurityButtonClicked(QObject *sender);
     void wakeOnLANCheckClicked(QObject *sender);
 
 signals:
@@ -186,6 +189,7 @@ private:
     void showSelectedFolders();
     void saved(const OVWindowSave::Outcome &outcome);
     OVPrinterInfoFetch::Printer fetchTarget() const;
+    QString printerAddress() const;
     void fetch(std::span<const OVPrinterInfoFetch::Step> steps);
     void showFetched(const OVPrinterInfoFetch::Result &result);
     void showFetchedList(const std::optional<QStringList> &list, OVTableViewDataSource *dataSource);
@@ -214,6 +218,7 @@ private:
     QString m_offeredAddress;
     QString m_server;
     OVFolderSelection m_folders;
+    OVWindowSnmp m_snmp;
     QString m_printerId;
     bool m_bError = false;
     bool m_bAdminLoginModeEnabled = false;

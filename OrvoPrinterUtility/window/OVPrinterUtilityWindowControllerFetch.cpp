@@ -29,11 +29,17 @@ Fetch::Printer OVPrinterUtilityWindowController::fetchTarget() const {
     wake.enabled = c.wakeOnLANCheck->isChecked();
     for (int i = 0; i < macFieldCount; ++i)
         wake.macAddressFields[i] = macAddressFields()[i]->text();
-    wake.community = c.snmpCommunityCheck->isChecked()
-                         ? c.snmpCommunityText->text()
-                         : QString(OrvoSettingsKeywords::defaultCommunity);
+    wake.community = m_snmp.credentials(c.snmpCommunityCheck->isChecked()
+                                            ? c.snmpCommunityText->text()
+                                            : QString(OrvoSettingsKeywords::defaultCommunity));
     wake.overRouter = c.overstepTheRouter->isChecked();
-    return {c.printerIPAddressText->text(), QString::fromUtf8(getSnmpCommunityFromUI()), wake};
+    return {c.printerIPAddressText->text(),
+            m_snmp.credentials(QString::fromUtf8(getSnmpCommunityFromUI())), wake};
+}
+
+// The address as the secret store keys the passphrases by.
+QString OVPrinterUtilityWindowController::printerAddress() const {
+    return m_ui->printerIPAddressText->text().trimmed();
 }
 
 // The steps run one after another on the worker while the window paints;
@@ -41,7 +47,10 @@ Fetch::Printer OVPrinterUtilityWindowController::fetchTarget() const {
 // starts and every step uses the address and community the fetch began with.
 // The results show together, in the steps' order; a cancelled fetch shows
 // nothing and changes no list.
+// An SNMPv3 user's passphrases are asked for before anything is sent.
 void OVPrinterUtilityWindowController::fetch(std::span<const Step> steps) {
+    if (!printerAddress().isEmpty() && !m_snmp.prepare(m_window.get(), printerAddress()))
+        return;
     enter(State::Fetching);
     OVBackgroundTask::Waiting how;
     how.limit = fetchLimit;
@@ -63,7 +72,9 @@ void OVPrinterUtilityWindowController::fetch(std::span<const Step> steps) {
     const Fetch::FailedStep &failed = *result.failedStep;
     qCDebug(orvoWindow) << "fetch failed at" << OVPrinterInfoFetch::stepName(failed.step) << "-"
                         << failed.failure.detail;
-    const QString reason = OVFetchFailureText::reason(printer.address, failed);
+    m_snmp.refused(failed.failure.reason, printerAddress());
+    const QString reason =
+        OVFetchFailureText::reason(printer.address, failed, printer.community.version());
     if (failed.step == Step::Folders)
         failFolderFetch(reason);
     else
@@ -152,6 +163,11 @@ void OVPrinterUtilityWindowController::colorProfileClearButtonClicked(QObject *)
 
 void OVPrinterUtilityWindowController::customSnmpCommunityClicked(QObject *) {
     constraintsSnmpItems();
+}
+
+void OVPrinterUtilityWindowController::snmpSecurityButtonClicked(QObject *) {
+    if (m_snmp.edit(m_window.get(), printerAddress()))
+        constraintsSnmpItems();
 }
 
 void OVPrinterUtilityWindowController::wakeOnLANCheckClicked(QObject *) {

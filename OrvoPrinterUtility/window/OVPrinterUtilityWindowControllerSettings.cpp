@@ -32,13 +32,10 @@ void OVPrinterUtilityWindowController::finishLoading(const OVWindowQueue::Loaded
 QList<QWidget *> OVPrinterUtilityWindowController::settingsControls() const {
     Ui::MainUtilityWindiw &c = *m_ui;
     // The tabs' pages are switched with the state on their own (enter).
-    QList<QWidget *> controls = {c.snmpCommunityCheck,
-                                 c.snmpCommunityText,
-                                 c.wakeOnLANCheck,
-                                 c.overstepTheRouter,
-                                 c.printerIPAddressText,
-                                 c.printerGetPrinterInfoButton,
-                                 c.okButton};
+    QList<QWidget *> controls = {c.snmpCommunityCheck,          c.snmpCommunityText,
+                                 c.snmpSecurityButton,          c.wakeOnLANCheck,
+                                 c.overstepTheRouter,           c.printerIPAddressText,
+                                 c.printerGetPrinterInfoButton, c.okButton};
     for (QLineEdit *field : macAddressFields())
         controls << field;
     return controls;
@@ -57,6 +54,7 @@ void OVPrinterUtilityWindowController::applySettings(const OVSettingsSnapshot &s
     Ui::MainUtilityWindiw &c = *m_ui;
     c.snmpCommunityCheck->setChecked(s.snmpCommunityCheck);
     c.snmpCommunityText->setText(s.snmpCommunityText);
+    m_snmp.apply(s);
     constraintsSnmpItems();
     c.wakeOnLANCheck->setChecked(s.wakeOnLANCheck);
     setMacAddressStr(s.macAddress);
@@ -174,6 +172,7 @@ OVSettingsSnapshot OVPrinterUtilityWindowController::settingsSnapshot() const {
     s.isPPDOptionsUpdated = m_isPpdOptionsUpdated;
     s.snmpCommunityCheck = c.snmpCommunityCheck->isChecked();
     s.snmpCommunityText = c.snmpCommunityText->text();
+    m_snmp.fill(s);
     s.wakeOnLANCheck = c.wakeOnLANCheck->isChecked();
     QStringList mac;
     for (QLineEdit *field : macAddressFields())

@@ -17,15 +17,11 @@ namespace K = OrvoSettingsKeywords;
 
 // The label under which the window shows each setting a verdict may name.
 constexpr std::pair<const char *, const char *> fieldLabels[] = {
-    {K::SnmpCommunityName, SnmpCommunityName},
-    {K::PrinterMacAddress, macAddressLabel},
-    {K::PrinterIPAddress, ipAddressLabel},
-    {K::SharedBoxName, sharedFolderInPrinter},
-    {K::SelSharedBoxName, registerFolder},
-    {K::SelSharedBoxIndex, registerFolder},
-    {K::PSFormName, formTab},
-    {K::BarcodeAreaDefName, barcodeTab},
-    {K::ColorProfileName, colorProfileTab},
+    {K::SnmpCommunityName, SnmpCommunityName}, {K::SnmpUserName, snmpUserLabel},
+    {K::PrinterMacAddress, macAddressLabel},   {K::PrinterIPAddress, ipAddressLabel},
+    {K::SharedBoxName, sharedFolderInPrinter}, {K::SelSharedBoxName, registerFolder},
+    {K::SelSharedBoxIndex, registerFolder},    {K::PSFormName, formTab},
+    {K::BarcodeAreaDefName, barcodeTab},       {K::ColorProfileName, colorProfileTab},
 };
 
 } // namespace
@@ -83,7 +79,8 @@ QString OVWindowSave::verdictText(const OrvoSettingsVerdict &verdict) {
     case Problem::None:
         return {};
     case Problem::InvalidCharacter:
-        return localized(communityCharacter).arg(QString::fromStdString(verdict.detail));
+        return localized(verdict.field == K::SnmpUserName ? snmpUserCharacter : communityCharacter)
+            .arg(QString::fromStdString(verdict.detail));
     case Problem::TooLong:
         return localized(verdict.field == K::SnmpCommunityName ? communityTooLong : addressInvalid)
             .arg(verdict.limit);

@@ -74,10 +74,19 @@ void setUpAccessibleNames(Ui::MainUtilityWindiw &c) {
 
 // The settings above the tabs.
 QList<QWidget *> settingsChain(Ui::MainUtilityWindiw &c) {
-    return {c.snmpCommunityCheck, c.snmpCommunityText,    c.wakeOnLANCheck,
-            c.macAddressText1,    c.macAddressText2,      c.macAddressText3,
-            c.macAddressText4,    c.macAddressText5,      c.macAddressText6,
-            c.overstepTheRouter,  c.printerIPAddressText, c.printerGetPrinterInfoButton};
+    return {c.snmpCommunityCheck,
+            c.snmpCommunityText,
+            c.snmpSecurityButton,
+            c.wakeOnLANCheck,
+            c.macAddressText1,
+            c.macAddressText2,
+            c.macAddressText3,
+            c.macAddressText4,
+            c.macAddressText5,
+            c.macAddressText6,
+            c.overstepTheRouter,
+            c.printerIPAddressText,
+            c.printerGetPrinterInfoButton};
 }
 
 // Tab visits the controls of the page on show after the tab bar, in reading
@@ -156,6 +165,7 @@ void OVWindowSetUp::setUpTexts(Ui::MainUtilityWindiw &c) {
     c.cancelButton->setText(localized(OVChooserTexts::cancel));
     c.introTextLabel->setText(localized(introText));
     c.snmpCommunityCheck->setText(localized(SnmpCommunityName));
+    c.snmpSecurityButton->setText(localized(snmpSecurityButton));
     c.wakeOnLANCheck->setText(localized(wakeOnLan));
     c.macAddressLabel->setText(localized(macAddressLabel));
     c.overstepTheRouter->setText(localized(overTheRouter));
@@ -186,15 +196,7 @@ void OVWindowSetUp::setUpTexts(Ui::MainUtilityWindiw &c) {
 
 void OVWindowSetUp::setUpSettingsFields(Ui::MainUtilityWindiw &c) {
     c.snmpCommunityCheck->setChecked(false);
-    // The characters and length the settings' rules allow, so the field
-    // refuses as it types what OK would refuse.
-    c.snmpCommunityText->setValidCharacters(
-        QString::fromUtf8(OrvoSettingsRules::communityCharacters));
-    c.snmpCommunityText->setInvalidCharacters(communityInvalidCharacters);
-    c.snmpCommunityText->setMaxLength(int(OrvoSettingsRules::communityLimit));
-    c.snmpCommunityText->showMessageIfInvalid(true);
-    c.snmpCommunityText->setInvalidMessageString(
-        localized(communityAllowed).arg(communitySymbols()), localized(communityCharacter));
+    restrictToCommunityCharacters(c.snmpCommunityText, communityCharacter);
     c.snmpCommunityText->setText(OrvoSettingsKeywords::defaultCommunity);
     c.snmpCommunityText->setEnabled(false);
     c.wakeOnLANCheck->setChecked(true);
@@ -209,6 +211,18 @@ void OVWindowSetUp::setUpSettingsFields(Ui::MainUtilityWindiw &c) {
     c.overstepTheRouter->setChecked(false);
     c.printerIPAddressText->setMaxEditableTextLength(ipAddressMaxLength);
     c.printerIPAddressText->setText(QString(""));
+}
+
+// The characters and length the settings' rules allow, so the field refuses
+// as it types what OK would refuse.
+void OVWindowSetUp::restrictToCommunityCharacters(OVRestrictedTextField *field,
+                                                  const char *refused) {
+    field->setValidCharacters(QString::fromUtf8(OrvoSettingsRules::communityCharacters));
+    field->setInvalidCharacters(communityInvalidCharacters);
+    field->setMaxLength(int(OrvoSettingsRules::communityLimit));
+    field->showMessageIfInvalid(true);
+    field->setInvalidMessageString(localized(communityAllowed).arg(communitySymbols()),
+                                   localized(refused));
 }
 
 void OVWindowSetUp::setUpFolderTab(Ui::MainUtilityWindiw &c) {

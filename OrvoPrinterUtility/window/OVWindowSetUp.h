@@ -6,6 +6,7 @@
 
 #include <optional>
 
+class OVRestrictedTextField;
 class QWidget;
 namespace Ui {
 class MainUtilityWindiw;
@@ -26,6 +27,9 @@ public:
     static void fitIntoScreen(QWidget *window);
     static void setUpTexts(Ui::MainUtilityWindiw &c);
     static void setUpSettingsFields(Ui::MainUtilityWindiw &c);
+    // The community's characters and length; refused: the alert's title,
+    // "%1" naming the refused character.
+    static void restrictToCommunityCharacters(OVRestrictedTextField *field, const char *refused);
     static void setUpFolderTab(Ui::MainUtilityWindiw &c);
     // With "tab focus reaches all controls" every control is in the chain,
     // aboveTabs (controls made in code, such as the message bar's button)

@@ -117,11 +117,41 @@ inline constexpr char fetchRefused[] =
     "The printer at %1 answered with an error when asked for %2. It may not keep this information.";
 inline constexpr char fetchUnreadable[] =
     "The printer at %1 sent an answer that cannot be read when asked for %2.";
+// The SNMPv3 user's refusals, and the silence v3 leaves for a wrong privacy
+// passphrase.
+inline constexpr char fetchNoAnswerV3[] =
+    "The printer at %1 did not answer when asked for %2. The IP address or the SNMPv3 privacy "
+    "passphrase may be wrong.";
+inline constexpr char fetchUnknownUser[] =
+    "The printer at %1 has no SNMPv3 user of this name (asked for %2). Check the user name under "
+    "SNMP Security.";
+inline constexpr char fetchWrongPassphrase[] =
+    "The printer at %1 refused the authentication passphrase of the SNMPv3 user when asked for "
+    "%2. Enter it again under SNMP Security.";
+inline constexpr char fetchWrongLevel[] =
+    "The printer at %1 does not accept the SNMPv3 user with privacy as chosen (asked for %2). "
+    "Check the privacy protocol under SNMP Security.";
 inline constexpr char stepMacAddress[] = "its MAC address";
 inline constexpr char stepFolders[] = "its shared folders";
 inline constexpr char stepForms[] = "its forms";
 inline constexpr char stepBarcodeAreas[] = "its barcode area definitions";
 inline constexpr char stepColorProfiles[] = "its color profiles";
+// The SNMP security dialog
+inline constexpr char snmpSecurityButton[] = "SNMP Security…";
+inline constexpr char snmpVersion1[] = "SNMP v1 with the community name";
+inline constexpr char snmpVersion3[] = "SNMPv3 with a user";
+inline constexpr char snmpUserLabel[] = "User name:";
+inline constexpr char snmpAuthProtocolLabel[] = "Authentication:";
+inline constexpr char snmpAuthPassphrase[] = "Authentication passphrase:";
+inline constexpr char snmpPrivProtocolLabel[] = "Privacy:";
+inline constexpr char snmpNoPrivacy[] = "None";
+inline constexpr char snmpPrivPassphrase[] = "Privacy passphrase:";
+inline constexpr char snmpRemember[] = "Remember in the keyring";
+// %1: the refused character
+inline constexpr char snmpUserCharacter[] = "The SNMPv3 user name cannot contain \"%1\".";
+// %1: the user, %2: the printer's address
+inline constexpr char snmpPassphrasesNeeded[] =
+    "Get Printer Info asks the printer at %2 as the SNMPv3 user %1. Enter the user's passphrases.";
 // Tooltips
 inline constexpr char getPrinterInfoTip[] =
     "Ask the printer at this IP address for its MAC address, shared folders, forms, barcode area "
@@ -216,6 +246,22 @@ inline constexpr const char *localizedKeys[] = {
     fetchNoAnswer,
     fetchRefused,
     fetchUnreadable,
+    fetchNoAnswerV3,
+    fetchUnknownUser,
+    fetchWrongPassphrase,
+    fetchWrongLevel,
+    snmpSecurityButton,
+    snmpVersion1,
+    snmpVersion3,
+    snmpUserLabel,
+    snmpAuthProtocolLabel,
+    snmpAuthPassphrase,
+    snmpPrivProtocolLabel,
+    snmpNoPrivacy,
+    snmpPrivPassphrase,
+    snmpRemember,
+    snmpUserCharacter,
+    snmpPassphrasesNeeded,
     stepMacAddress,
     stepFolders,
     stepForms,

@@ -7,13 +7,20 @@
 #include "OVPreferredLanguages.h"
 #include "OVPrinterUtilityWindowController.h"
 #include "OVQueueSetup.h"
+#include "OVSecretStore.h"
+#include "OVSnmpSecurityDialog.h"
 #include "OVTableViewDataSource.h"
 #include "PrivateNetwork.h"
+#include "SecretService.h"
 #include "SimulatedPrinter.h"
 #include "SpawnedProcess.h"
 #include "ui_MainUtilityWindiw.h"
 
+#include <QApplication>
+#include <QComboBox>
 #include <QElapsedTimer>
+#include <QLabel>
+#include <QRadioButton>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
@@ -27,6 +34,20 @@
 
 const bool isolated = PrivateNetwork::enter();
 [[maybe_unused]] const auto cupsd = ::testing::AddGlobalTestEnvironment(new CupsServerEnvironment);
+
+namespace {
+// One Secret Service for the whole suite, as the session bus a process first reaches stays its
+// bus; it ends before the print server's environment checks what its clients left behind.
+class SecretServiceEnvironment : public ::testing::Environment {
+public:
+    void SetUp() override { started = service.emplace().start(); }
+    void TearDown() override { service.reset(); }
+    static inline std::optional<SecretService> service;
+    static inline bool started = false;
+};
+} // namespace
+[[maybe_unused]] const auto secrets =
+    ::testing::AddGlobalTestEnvironment(new SecretServiceEnvironment);
 
 namespace {
 
@@ -552,6 +573,146 @@ TEST_F(WindowTest, OnlyTheNamedUsersSave) {
     click(m_c->okButton);
     EXPECT_TRUE(terminated.wait(30000)); // saved and closed
     EXPECT_GT(cups.lastJob(), jobsBefore);
+}
+
+// Answers the SNMP security dialog once it opens, until disarmed: fill sets
+// it up, then OK. The explanation says whether the window asked on its own.
+struct SecurityAnswer {
+    explicit SecurityAnswer(std::function<void(OVSnmpSecurityDialog *)> fill = {})
+        : fill(std::move(fill)) {}
+
+    std::function<void(OVSnmpSecurityDialog *)> fill;
+    bool armed = false;
+    bool asked = false;
+    QString explanation;
+
+    void arm() {
+        armed = true;
+        QTimer::singleShot(20, [this] {
+            auto *dialog = qobject_cast<OVSnmpSecurityDialog *>(QApplication::activeModalWidget());
+            if (!armed)
+                return;
+            if (!dialog)
+                return arm();
+            armed = false;
+            asked = true;
+            if (auto *label = dialog->findChild<QLabel *>("explanation"))
+                explanation = label->text();
+            if (fill)
+                fill(dialog);
+            dialog->accept();
+        });
+    }
+};
+
+void chooseV3(OVSnmpSecurityDialog *dialog, const char *user, const char *auth, const char *priv) {
+    dialog->findChild<QRadioButton *>("snmpVersion3")->setChecked(true);
+    type(dialog->findChild<QLineEdit *>("snmpUser"), user);
+    auto *privacy = dialog->findChild<QComboBox *>("snmpPrivProtocol");
+    privacy->setCurrentIndex(privacy->findText("AES-128"));
+    type(dialog->findChild<QLineEdit *>("snmpAuthPassphrase"), auth);
+    type(dialog->findChild<QLineEdit *>("snmpPrivPassphrase"), priv);
+}
+
+// The secret store keeps one entry per address, user and passphrase, and has
+// none it was not given or that was forgotten.
+TEST(SecretStore, KeepsEachPassphraseUnderItsOwnKey) {
+    ASSERT_TRUE(SecretServiceEnvironment::started)
+        << SecretServiceEnvironment::service->errorText().toStdString();
+    using Part = OVSecretStore::Part;
+    ASSERT_TRUE(OVSecretStore::write("192.0.2.7", "alice", Part::Auth, "alice-auth"));
+    ASSERT_TRUE(OVSecretStore::write("192.0.2.7", "alice", Part::Priv, "alice-priv"));
+    ASSERT_TRUE(OVSecretStore::write("192.0.2.8", "alice", Part::Auth, "other-printer"));
+    const std::tuple<const char *, const char *, Part, std::optional<QByteArray>> cases[] = {
+        {"192.0.2.7", "alice", Part::Auth, "alice-auth"},
+        {"192.0.2.7", "alice", Part::Priv, "alice-priv"},
+        {"192.0.2.8", "alice", Part::Auth, "other-printer"},
+        {"192.0.2.8", "alice", Part::Priv, std::nullopt},
+        {"192.0.2.7", "bob", Part::Auth, std::nullopt}};
+    for (const auto &[address, user, part, expected] : cases)
+        EXPECT_EQ(OVSecretStore::read(address, user, part), expected) << address << " " << user;
+    OVSecretStore::forget("192.0.2.7", "alice", Part::Auth);
+    EXPECT_EQ(OVSecretStore::read("192.0.2.7", "alice", Part::Auth), std::nullopt);
+    EXPECT_EQ(OVSecretStore::read("192.0.2.7", "alice", Part::Priv), "alice-priv");
+}
+
+// On a printer with v1 switched off the window asks as the SNMPv3 user the
+// dialog names, keeps the passphrases in the secret store and finds them
+// there on the next fetch; a refused passphrase is named and dropped. No
+// passphrase reaches the queue's PPD, the update job or cupsd's log.
+TEST_F(WindowTest, SnmpV3UserWithPassphrasesInTheSecretStore) {
+    ASSERT_TRUE(SecretServiceEnvironment::started);
+    P::Options options;
+    options.listen = options.counterPeer = "udp:127.0.0.5:161";
+    options.v1Off = true;
+    P secured(options);
+    ASSERT_TRUE(secured.start()) << secured.errorText().toStdString();
+    secured.setDefaults();
+    CupsServer &server = CupsServerEnvironment::server();
+    ASSERT_TRUE(server.addQueue("Secured"));
+    open("Secured");
+    type(m_c->printerIPAddressText, "127.0.0.5");
+    click(m_c->formGetPrinterInfoButton);
+    EXPECT_EQ(m_alerts, QStringList{"Failed to obtain information."}) << "v1 is off";
+    m_alerts.clear();
+
+    SecurityAnswer choose([](OVSnmpSecurityDialog *dialog) {
+        chooseV3(dialog, P::kPrivUser, P::kAuthPassphrase, P::kPrivPassphrase);
+    });
+    choose.arm();
+    click(m_c->snmpSecurityButton);
+    EXPECT_TRUE(choose.asked);
+    EXPECT_FALSE(m_c->snmpCommunityCheck->isEnabled());
+    click(m_c->formGetPrinterInfoButton);
+    EXPECT_EQ(m_alerts, QStringList());
+    EXPECT_EQ(forms(), secured.namesInUse(P::Table::Form));
+    EXPECT_EQ(OVSecretStore::read("127.0.0.5", P::kPrivUser, OVSecretStore::Part::Auth),
+              P::kAuthPassphrase);
+
+    QSignalSpy terminated(m_window.get(), &Controller::applicationShouldTerminate);
+    click(m_c->okButton);
+    ASSERT_TRUE(terminated.wait(30000));
+    m_window.reset();
+    const QByteArray job = server.jobControlFile(server.lastJob());
+    EXPECT_TRUE(job.contains("UpdatePPDOptions")) << "the update job is kept";
+    const QByteArray ppd = server.queuePpd("Secured");
+    EXPECT_TRUE(ppd.contains("*SnmpVersion: \"3\"")) << ppd.toStdString();
+    for (const QByteArray &kept : {ppd, job, server.errorLog()})
+        EXPECT_FALSE(kept.contains(P::kAuthPassphrase) || kept.contains(P::kPrivPassphrase));
+
+    // Reopened, the window finds the passphrases in the store without asking.
+    SecurityAnswer none;
+    open("Secured");
+    none.arm();
+    click(m_c->barcodeAreaDefinitionGetPrinterInfoButton);
+    EXPECT_FALSE(none.asked);
+    none.armed = false;
+    EXPECT_EQ(m_alerts, QStringList());
+    EXPECT_EQ(m_window->barcodeAreaDefinitionTableViewDataSource()->getElementsArray(),
+              secured.namesInUse(P::Table::BarcodeArea));
+
+    // A wrong authentication passphrase in the store: named, dropped, asked for next time.
+    ASSERT_TRUE(OVSecretStore::write("127.0.0.5", P::kPrivUser, OVSecretStore::Part::Auth,
+                                     "wrong-auth-phrase"));
+    open("Secured");
+    OVAlert::setResponder([this](const OVAlert &alert) {
+        m_alerts << alert.informativeText();
+        return 0;
+    });
+    click(m_c->formGetPrinterInfoButton);
+    ASSERT_EQ(m_alerts.size(), 1);
+    EXPECT_TRUE(m_alerts[0].startsWith("The printer at 127.0.0.5 refused the authentication "
+                                       "passphrase"))
+        << m_alerts[0].toStdString();
+    EXPECT_EQ(OVSecretStore::read("127.0.0.5", P::kPrivUser, OVSecretStore::Part::Auth),
+              std::nullopt);
+    SecurityAnswer again([](OVSnmpSecurityDialog *dialog) {
+        type(dialog->findChild<QLineEdit *>("snmpAuthPassphrase"), P::kAuthPassphrase);
+    });
+    again.arm();
+    click(m_c->formGetPrinterInfoButton);
+    EXPECT_TRUE(again.explanation.contains("as the SNMPv3 user orvo_admin"));
+    EXPECT_EQ(m_alerts.size(), 1);
 }
 
 } // namespace

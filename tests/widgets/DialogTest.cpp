@@ -165,18 +165,32 @@ TEST_F(DialogTest, FetchFailureSaysWhy) {
                                           "printer is empty. Enter it, then try again."});
     using R = OVSNMPHelper::Reason;
     using S = OVPrinterInfoFetch::Step;
-    const std::tuple<R, S, const char *> cases[] = {
-        {R::NoAnswer, S::MacAddress,
+    constexpr auto v1 = OVSnmpCredentials::Version::V1;
+    constexpr auto v3 = OVSnmpCredentials::Version::V3;
+    const std::tuple<R, S, OVSnmpCredentials::Version, const char *> cases[] = {
+        {R::NoAnswer, S::MacAddress, v1,
          "The printer at ::1 did not answer when asked for its MAC address. The IP address or the "
          "SNMP community name may be wrong."},
-        {R::Refused, S::Forms,
+        {R::NoAnswer, S::Folders, v3,
+         "The printer at ::1 did not answer when asked for its shared folders. The IP address or "
+         "the SNMPv3 privacy passphrase may be wrong."},
+        {R::Refused, S::Forms, v1,
          "The printer at ::1 answered with an error when asked for its forms. It may not keep "
          "this information."},
-        {R::Unreadable, S::ColorProfiles,
+        {R::Unreadable, S::ColorProfiles, v3,
          "The printer at ::1 sent an answer that cannot be read when asked for its color "
-         "profiles."}};
-    for (const auto &[reason, step, text] : cases)
-        EXPECT_EQ(OVFetchFailureText::reason("::1", {step, {reason, "detail"}}), text);
+         "profiles."},
+        {R::UnknownUser, S::MacAddress, v3,
+         "The printer at ::1 has no SNMPv3 user of this name (asked for its MAC address). Check "
+         "the user name under SNMP Security."},
+        {R::WrongPassphrase, S::Forms, v3,
+         "The printer at ::1 refused the authentication passphrase of the SNMPv3 user when asked "
+         "for its forms. Enter it again under SNMP Security."},
+        {R::UnsupportedSecurityLevel, S::BarcodeAreas, v3,
+         "The printer at ::1 does not accept the SNMPv3 user with privacy as chosen (asked for "
+         "its barcode area definitions). Check the privacy protocol under SNMP Security."}};
+    for (const auto &[reason, step, version, text] : cases)
+        EXPECT_EQ(OVFetchFailureText::reason("::1", {step, {reason, "detail"}}, version), text);
 }
 
 // A refused character is named with what is allowed; the text typed before

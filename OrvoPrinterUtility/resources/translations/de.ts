@@ -839,5 +839,69 @@
         <source>"%1" names no print server. Enter a host name or address, with a port if it is not 631.</source>
         <translation>„%1“ bezeichnet keinen Druckserver. Geben Sie einen Hostnamen oder eine Adresse ein, mit Port, wenn er nicht 631 ist.</translation>
     </message>
+    <message>
+        <source>The printer at %1 did not answer when asked for %2. The IP address or the SNMPv3 privacy passphrase may be wrong.</source>
+        <translation>Der Drucker unter %1 hat auf die Abfrage von %2 nicht geantwortet. Die IP-Adresse oder die SNMPv3-Privacy-Passphrase ist möglicherweise falsch.</translation>
+    </message>
+    <message>
+        <source>The printer at %1 has no SNMPv3 user of this name (asked for %2). Check the user name under SNMP Security.</source>
+        <translation>Der Drucker unter %1 hat keinen SNMPv3-Benutzer dieses Namens (Abfrage von %2). Prüfen Sie den Benutzernamen unter SNMP-Sicherheit.</translation>
+    </message>
+    <message>
+        <source>The printer at %1 refused the authentication passphrase of the SNMPv3 user when asked for %2. Enter it again under SNMP Security.</source>
+        <translation>Der Drucker unter %1 hat bei der Abfrage von %2 die Authentifizierungs-Passphrase des SNMPv3-Benutzers abgelehnt. Geben Sie sie unter SNMP-Sicherheit erneut ein.</translation>
+    </message>
+    <message>
+        <source>The printer at %1 does not accept the SNMPv3 user with privacy as chosen (asked for %2). Check the privacy protocol under SNMP Security.</source>
+        <translation>Der Drucker unter %1 akzeptiert den SNMPv3-Benutzer mit der gewählten Verschlüsselung nicht (Abfrage von %2). Prüfen Sie das Privacy-Protokoll unter SNMP-Sicherheit.</translation>
+    </message>
+    <message>
+        <source>SNMP Security…</source>
+        <translation>SNMP-Sic&amp;herheit…</translation>
+    </message>
+    <message>
+        <source>SNMP v1 with the community name</source>
+        <translation>SNMP v1 mit dem Community-Namen</translation>
+    </message>
+    <message>
+        <source>SNMPv3 with a user</source>
+        <translation>SNMPv3 mit einem Benutzer</translation>
+    </message>
+    <message>
+        <source>User name:</source>
+        <translation>Benutzername:</translation>
+    </message>
+    <message>
+        <source>Authentication:</source>
+        <translation>Authentifizierung:</translation>
+    </message>
+    <message>
+        <source>Authentication passphrase:</source>
+        <translation>Authentifizierungs-Passphrase:</translation>
+    </message>
+    <message>
+        <source>Privacy:</source>
+        <translation>Verschlüsselung:</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Keine</translation>
+    </message>
+    <message>
+        <source>Privacy passphrase:</source>
+        <translation>Verschlüsselungs-Passphrase:</translation>
+    </message>
+    <message>
+        <source>Remember in the keyring</source>
+        <translation>Im Schlüsselbund speichern</translation>
+    </message>
+    <message>
+        <source>The SNMPv3 user name cannot contain "%1".</source>
+        <translation>Der SNMPv3-Benutzername darf „%1“ nicht enthalten.</translation>
+    </message>
+    <message>
+        <source>Get Printer Info asks the printer at %2 as the SNMPv3 user %1. Enter the user's passphrases.</source>
+        <translation>„Druckerinformationen abrufen“ fragt den Drucker unter %2 als SNMPv3-Benutzer %1 ab. Geben Sie die Passphrasen des Benutzers ein.</translation>
+    </message>
 </context>
 </TS>

@@ -839,5 +839,69 @@
         <source>"%1" names no print server. Enter a host name or address, with a port if it is not 631.</source>
         <translation>"%1" names no print server. Enter a host name or address, with a port if it is not 631.</translation>
     </message>
+    <message>
+        <source>The printer at %1 did not answer when asked for %2. The IP address or the SNMPv3 privacy passphrase may be wrong.</source>
+        <translation>The printer at %1 did not answer when asked for %2. The IP address or the SNMPv3 privacy passphrase may be wrong.</translation>
+    </message>
+    <message>
+        <source>The printer at %1 has no SNMPv3 user of this name (asked for %2). Check the user name under SNMP Security.</source>
+        <translation>The printer at %1 has no SNMPv3 user of this name (asked for %2). Check the user name under SNMP Security.</translation>
+    </message>
+    <message>
+        <source>The printer at %1 refused the authentication passphrase of the SNMPv3 user when asked for %2. Enter it again under SNMP Security.</source>
+        <translation>The printer at %1 refused the authentication passphrase of the SNMPv3 user when asked for %2. Enter it again under SNMP Security.</translation>
+    </message>
+    <message>
+        <source>The printer at %1 does not accept the SNMPv3 user with privacy as chosen (asked for %2). Check the privacy protocol under SNMP Security.</source>
+        <translation>The printer at %1 does not accept the SNMPv3 user with privacy as chosen (asked for %2). Check the privacy protocol under SNMP Security.</translation>
+    </message>
+    <message>
+        <source>SNMP Security…</source>
+        <translation>SNMP Security…</translation>
+    </message>
+    <message>
+        <source>SNMP v1 with the community name</source>
+        <translation>SNMP v1 with the community name</translation>
+    </message>
+    <message>
+        <source>SNMPv3 with a user</source>
+        <translation>SNMPv3 with a user</translation>
+    </message>
+    <message>
+        <source>User name:</source>
+        <translation>User name:</translation>
+    </message>
+    <message>
+        <source>Authentication:</source>
+        <translation>Authentication:</translation>
+    </message>
+    <message>
+        <source>Authentication passphrase:</source>
+        <translation>Authentication passphrase:</translation>
+    </message>
+    <message>
+        <source>Privacy:</source>
+        <translation>Privacy:</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>None</translation>
+    </message>
+    <message>
+        <source>Privacy passphrase:</source>
+        <translation>Privacy passphrase:</translation>
+    </message>
+    <message>
+        <source>Remember in the keyring</source>
+        <translation>Remember in the keyring</translation>
+    </message>
+    <message>
+        <source>The SNMPv3 user name cannot contain "%1".</source>
+        <translation>The SNMPv3 user name cannot contain "%1".</translation>
+    </message>
+    <message>
+        <source>Get Printer Info asks the printer at %2 as the SNMPv3 user %1. Enter the user's passphrases.</source>
+        <translation>Get Printer Info asks the printer at %2 as the SNMPv3 user %1. Enter the user's passphrases.</translation>
+    </message>
 </context>
 </TS>

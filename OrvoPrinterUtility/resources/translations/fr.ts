@@ -839,5 +839,69 @@
         <source>"%1" names no print server. Enter a host name or address, with a port if it is not 631.</source>
         <translation>« %1 » ne désigne aucun serveur d’impression. Saisissez un nom d’hôte ou une adresse, avec le port s’il n’est pas 631.</translation>
     </message>
+    <message>
+        <source>The printer at %1 did not answer when asked for %2. The IP address or the SNMPv3 privacy passphrase may be wrong.</source>
+        <translation>L’imprimante à l’adresse %1 n’a pas répondu à la demande de %2. L’adresse IP ou la phrase secrète de confidentialité SNMPv3 est peut-être erronée.</translation>
+    </message>
+    <message>
+        <source>The printer at %1 has no SNMPv3 user of this name (asked for %2). Check the user name under SNMP Security.</source>
+        <translation>L’imprimante à l’adresse %1 n’a pas d’utilisateur SNMPv3 de ce nom (demande de %2). Vérifiez le nom d’utilisateur dans Sécurité SNMP.</translation>
+    </message>
+    <message>
+        <source>The printer at %1 refused the authentication passphrase of the SNMPv3 user when asked for %2. Enter it again under SNMP Security.</source>
+        <translation>L’imprimante à l’adresse %1 a refusé la phrase secrète d’authentification de l’utilisateur SNMPv3 à la demande de %2. Saisissez-la de nouveau dans Sécurité SNMP.</translation>
+    </message>
+    <message>
+        <source>The printer at %1 does not accept the SNMPv3 user with privacy as chosen (asked for %2). Check the privacy protocol under SNMP Security.</source>
+        <translation>L’imprimante à l’adresse %1 n’accepte pas l’utilisateur SNMPv3 avec la confidentialité choisie (demande de %2). Vérifiez le protocole de confidentialité dans Sécurité SNMP.</translation>
+    </message>
+    <message>
+        <source>SNMP Security…</source>
+        <translation>Sécurité SNMP…</translation>
+    </message>
+    <message>
+        <source>SNMP v1 with the community name</source>
+        <translation>SNMP v1 avec le nom de communauté</translation>
+    </message>
+    <message>
+        <source>SNMPv3 with a user</source>
+        <translation>SNMPv3 avec un utilisateur</translation>
+    </message>
+    <message>
+        <source>User name:</source>
+        <translation>Nom d’utilisateur :</translation>
+    </message>
+    <message>
+        <source>Authentication:</source>
+        <translation>Authentification :</translation>
+    </message>
+    <message>
+        <source>Authentication passphrase:</source>
+        <translation>Phrase secrète d’authentification :</translation>
+    </message>
+    <message>
+        <source>Privacy:</source>
+        <translation>Confidentialité :</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Aucune</translation>
+    </message>
+    <message>
+        <source>Privacy passphrase:</source>
+        <translation>Phrase secrète de confidentialité :</translation>
+    </message>
+    <message>
+        <source>Remember in the keyring</source>
+        <translation>Mémoriser dans le trousseau</translation>
+    </message>
+    <message>
+        <source>The SNMPv3 user name cannot contain "%1".</source>
+        <translation>Le nom d’utilisateur SNMPv3 ne peut pas contenir « %1 ».</translation>
+    </message>
+    <message>
+        <source>Get Printer Info asks the printer at %2 as the SNMPv3 user %1. Enter the user's passphrases.</source>
+        <translation>« Obtenir les infos de l’imprimante » interroge l’imprimante à l’adresse %2 en tant qu’utilisateur SNMPv3 %1. Saisissez les phrases secrètes de l’utilisateur.</translation>
+    </message>
 </context>
 </TS>

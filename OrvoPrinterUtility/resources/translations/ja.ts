@@ -839,5 +839,69 @@
         <source>"%1" names no print server. Enter a host name or address, with a port if it is not 631.</source>
         <translation>「%1」はプリントサーバーを示していません。ホスト名またはアドレスを入力してください。ポートが 631 でない場合はポートも指定します。</translation>
     </message>
+    <message>
+        <source>The printer at %1 did not answer when asked for %2. The IP address or the SNMPv3 privacy passphrase may be wrong.</source>
+        <translation>%1 のプリンターは %2 の問い合わせに応答しませんでした。IP アドレスまたは SNMPv3 の暗号化パスフレーズが間違っている可能性があります。</translation>
+    </message>
+    <message>
+        <source>The printer at %1 has no SNMPv3 user of this name (asked for %2). Check the user name under SNMP Security.</source>
+        <translation>%1 のプリンターにはこの名前の SNMPv3 ユーザーがありません (%2 の問い合わせ)。SNMP セキュリティでユーザー名を確認してください。</translation>
+    </message>
+    <message>
+        <source>The printer at %1 refused the authentication passphrase of the SNMPv3 user when asked for %2. Enter it again under SNMP Security.</source>
+        <translation>%1 のプリンターは %2 の問い合わせで SNMPv3 ユーザーの認証パスフレーズを拒否しました。SNMP セキュリティで入力し直してください。</translation>
+    </message>
+    <message>
+        <source>The printer at %1 does not accept the SNMPv3 user with privacy as chosen (asked for %2). Check the privacy protocol under SNMP Security.</source>
+        <translation>%1 のプリンターは、選択した暗号化の設定では SNMPv3 ユーザーを受け付けません (%2 の問い合わせ)。SNMP セキュリティで暗号化プロトコルを確認してください。</translation>
+    </message>
+    <message>
+        <source>SNMP Security…</source>
+        <translation>SNMP セキュリティ…</translation>
+    </message>
+    <message>
+        <source>SNMP v1 with the community name</source>
+        <translation>コミュニティ名による SNMP v1</translation>
+    </message>
+    <message>
+        <source>SNMPv3 with a user</source>
+        <translation>ユーザーによる SNMPv3</translation>
+    </message>
+    <message>
+        <source>User name:</source>
+        <translation>ユーザー名:</translation>
+    </message>
+    <message>
+        <source>Authentication:</source>
+        <translation>認証:</translation>
+    </message>
+    <message>
+        <source>Authentication passphrase:</source>
+        <translation>認証パスフレーズ:</translation>
+    </message>
+    <message>
+        <source>Privacy:</source>
+        <translation>暗号化:</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>なし</translation>
+    </message>
+    <message>
+        <source>Privacy passphrase:</source>
+        <translation>暗号化パスフレーズ:</translation>
+    </message>
+    <message>
+        <source>Remember in the keyring</source>
+        <translation>キーリングに保存する</translation>
+    </message>
+    <message>
+        <source>The SNMPv3 user name cannot contain "%1".</source>
+        <translation>SNMPv3 のユーザー名に「%1」は使用できません。</translation>
+    </message>
+    <message>
+        <source>Get Printer Info asks the printer at %2 as the SNMPv3 user %1. Enter the user's passphrases.</source>
+        <translation>プリンター情報の取得では、%2 のプリンターに SNMPv3 ユーザー %1 として問い合わせます。ユーザーのパスフレーズを入力してください。</translation>
+    </message>
 </context>
 </TS>

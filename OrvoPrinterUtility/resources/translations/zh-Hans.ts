@@ -839,5 +839,69 @@
         <source>"%1" names no print server. Enter a host name or address, with a port if it is not 631.</source>
         <translation>“%1”不是打印服务器。请输入主机名或地址；端口不是 631 时请一并输入。</translation>
     </message>
+    <message>
+        <source>The printer at %1 did not answer when asked for %2. The IP address or the SNMPv3 privacy passphrase may be wrong.</source>
+        <translation>位于 %1 的打印机在查询%2时没有响应。IP 地址或 SNMPv3 加密密码短语可能有误。</translation>
+    </message>
+    <message>
+        <source>The printer at %1 has no SNMPv3 user of this name (asked for %2). Check the user name under SNMP Security.</source>
+        <translation>位于 %1 的打印机没有此名称的 SNMPv3 用户（查询%2时）。请在 SNMP 安全性中检查用户名。</translation>
+    </message>
+    <message>
+        <source>The printer at %1 refused the authentication passphrase of the SNMPv3 user when asked for %2. Enter it again under SNMP Security.</source>
+        <translation>位于 %1 的打印机在查询%2时拒绝了 SNMPv3 用户的认证密码短语。请在 SNMP 安全性中重新输入。</translation>
+    </message>
+    <message>
+        <source>The printer at %1 does not accept the SNMPv3 user with privacy as chosen (asked for %2). Check the privacy protocol under SNMP Security.</source>
+        <translation>位于 %1 的打印机不接受按所选加密设置的 SNMPv3 用户（查询%2时）。请在 SNMP 安全性中检查加密协议。</translation>
+    </message>
+    <message>
+        <source>SNMP Security…</source>
+        <translation>SNMP 安全性…</translation>
+    </message>
+    <message>
+        <source>SNMP v1 with the community name</source>
+        <translation>使用团体名称的 SNMP v1</translation>
+    </message>
+    <message>
+        <source>SNMPv3 with a user</source>
+        <translation>使用用户的 SNMPv3</translation>
+    </message>
+    <message>
+        <source>User name:</source>
+        <translation>用户名:</translation>
+    </message>
+    <message>
+        <source>Authentication:</source>
+        <translation>认证:</translation>
+    </message>
+    <message>
+        <source>Authentication passphrase:</source>
+        <translation>认证密码短语:</translation>
+    </message>
+    <message>
+        <source>Privacy:</source>
+        <translation>加密:</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>Privacy passphrase:</source>
+        <translation>加密密码短语:</translation>
+    </message>
+    <message>
+        <source>Remember in the keyring</source>
+        <translation>保存在密钥环中</translation>
+    </message>
+    <message>
+        <source>The SNMPv3 user name cannot contain "%1".</source>
+        <translation>SNMPv3 用户名不能包含“%1”。</translation>
+    </message>
+    <message>
+        <source>Get Printer Info asks the printer at %2 as the SNMPv3 user %1. Enter the user's passphrases.</source>
+        <translation>获取打印机信息将以 SNMPv3 用户 %1 的身份查询位于 %2 的打印机。请输入该用户的密码短语。</translation>
+    </message>
 </context>
 </TS>

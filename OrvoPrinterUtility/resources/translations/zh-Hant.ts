@@ -839,5 +839,69 @@
         <source>"%1" names no print server. Enter a host name or address, with a port if it is not 631.</source>
         <translation>「%1」不是列印伺服器。請輸入主機名稱或位址；連接埠不是 631 時請一併輸入。</translation>
     </message>
+    <message>
+        <source>The printer at %1 did not answer when asked for %2. The IP address or the SNMPv3 privacy passphrase may be wrong.</source>
+        <translation>位於 %1 的印表機在查詢%2時沒有回應。IP 位址或 SNMPv3 加密密碼短語可能有誤。</translation>
+    </message>
+    <message>
+        <source>The printer at %1 has no SNMPv3 user of this name (asked for %2). Check the user name under SNMP Security.</source>
+        <translation>位於 %1 的印表機沒有此名稱的 SNMPv3 使用者（查詢%2時）。請在 SNMP 安全性中檢查使用者名稱。</translation>
+    </message>
+    <message>
+        <source>The printer at %1 refused the authentication passphrase of the SNMPv3 user when asked for %2. Enter it again under SNMP Security.</source>
+        <translation>位於 %1 的印表機在查詢%2時拒絕了 SNMPv3 使用者的驗證密碼短語。請在 SNMP 安全性中重新輸入。</translation>
+    </message>
+    <message>
+        <source>The printer at %1 does not accept the SNMPv3 user with privacy as chosen (asked for %2). Check the privacy protocol under SNMP Security.</source>
+        <translation>位於 %1 的印表機不接受按所選加密設定的 SNMPv3 使用者（查詢%2時）。請在 SNMP 安全性中檢查加密協定。</translation>
+    </message>
+    <message>
+        <source>SNMP Security…</source>
+        <translation>SNMP 安全性…</translation>
+    </message>
+    <message>
+        <source>SNMP v1 with the community name</source>
+        <translation>使用社群名稱的 SNMP v1</translation>
+    </message>
+    <message>
+        <source>SNMPv3 with a user</source>
+        <translation>使用使用者的 SNMPv3</translation>
+    </message>
+    <message>
+        <source>User name:</source>
+        <translation>使用者名稱:</translation>
+    </message>
+    <message>
+        <source>Authentication:</source>
+        <translation>驗證:</translation>
+    </message>
+    <message>
+        <source>Authentication passphrase:</source>
+        <translation>驗證密碼短語:</translation>
+    </message>
+    <message>
+        <source>Privacy:</source>
+        <translation>加密:</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>無</translation>
+    </message>
+    <message>
+        <source>Privacy passphrase:</source>
+        <translation>加密密碼短語:</translation>
+    </message>
+    <message>
+        <source>Remember in the keyring</source>
+        <translation>儲存在金鑰圈中</translation>
+    </message>
+    <message>
+        <source>The SNMPv3 user name cannot contain "%1".</source>
+        <translation>SNMPv3 使用者名稱不能包含「%1」。</translation>
+    </message>
+    <message>
+        <source>Get Printer Info asks the printer at %2 as the SNMPv3 user %1. Enter the user's passphrases.</source>
+        <translation>取得印表機資訊將以 SNMPv3 使用者 %1 的身分查詢位於 %2 的印表機。請輸入該使用者的密碼短語。</translation>
+    </message>
 </context>
 </TS>

@@ -1,0 +1,104 @@
+#include "OVWindowSnmp.h"
+
+#include "OVChooserTexts.h"
+#include "OVSecretStore.h"
+#include "OVWindowTexts.h"
+
+using Part = OVSecretStore::Part;
+
+// A queue without settings of its own asks as a new one would.
+OVWindowSnmp::OVWindowSnmp() {
+    apply(OVSettingsSnapshot());
+}
+
+void OVWindowSnmp::apply(const OVSettingsSnapshot &settings) {
+    const bool sameUser = m_choice.user == settings.snmpUserText;
+    m_choice.v3 = settings.snmpVersion == QStringLiteral("3");
+    m_choice.user = settings.snmpUserText;
+    m_choice.authProtocol = settings.snmpAuthProtocol;
+    m_choice.privProtocol = settings.snmpPrivProtocol;
+    if (!sameUser)
+        forgetPassphrases();
+}
+
+void OVWindowSnmp::fill(OVSettingsSnapshot &settings) const {
+    settings.snmpVersion = m_choice.v3 ? QStringLiteral("3") : QStringLiteral("1");
+    settings.snmpUserText = m_choice.user;
+    settings.snmpAuthProtocol = m_choice.authProtocol;
+    settings.snmpPrivProtocol = m_choice.privProtocol;
+}
+
+bool OVWindowSnmp::edit(QWidget *parent, const QString &address) {
+    if (m_choice.v3 && m_passphrasesFor != address)
+        readStored(address);
+    return ask(parent, address, QString());
+}
+
+bool OVWindowSnmp::prepare(QWidget *parent, const QString &address) {
+    if (!m_choice.v3)
+        return true;
+    if (m_passphrasesFor != address || !m_choice.complete())
+        readStored(address);
+    if (m_choice.complete())
+        return true;
+    const QString prompt =
+        OVChooserTexts::localized(OVWindowTexts::snmpPassphrasesNeeded).arg(m_choice.user, address);
+    return ask(parent, address, prompt);
+}
+
+bool OVWindowSnmp::ask(QWidget *parent, const QString &address, const QString &prompt) {
+    OVSnmpSecurityDialog dialog(m_choice, prompt, parent);
+    if (dialog.exec() != QDialog::Accepted)
+        return false;
+    m_choice = dialog.choice();
+    m_passphrasesFor = address;
+    if (m_choice.v3)
+        remember(address);
+    return true;
+}
+
+// Unticking "remember" takes the user's passphrases out of the store.
+void OVWindowSnmp::remember(const QString &address) const {
+    const QString &user = m_choice.user;
+    if (!m_choice.remember) {
+        OVSecretStore::forget(address, user, Part::Auth);
+        OVSecretStore::forget(address, user, Part::Priv);
+        return;
+    }
+    if (!m_choice.authPassphrase.isEmpty())
+        OVSecretStore::write(address, user, Part::Auth, m_choice.authPassphrase);
+    if (!m_choice.privPassphrase.isEmpty())
+        OVSecretStore::write(address, user, Part::Priv, m_choice.privPassphrase);
+}
+
+void OVWindowSnmp::readStored(const QString &address) {
+    m_choice.authPassphrase =
+        OVSecretStore::read(address, m_choice.user, Part::Auth).value_or(QByteArray());
+    m_choice.privPassphrase =
+        m_choice.privProtocol.isEmpty()
+            ? QByteArray()
+            : OVSecretStore::read(address, m_choice.user, Part::Priv).value_or(QByteArray());
+    m_passphrasesFor = address;
+}
+
+void OVWindowSnmp::forgetPassphrases() {
+    m_choice.authPassphrase.clear();
+    m_choice.privPassphrase.clear();
+    m_passphrasesFor.clear();
+}
+
+OVSnmpCredentials OVWindowSnmp::credentials(const QString &community) const {
+    if (!m_choice.v3)
+        return OVSnmpCredentials(community);
+    return OVSnmpCredentials::v3(m_choice.user, m_choice.authProtocol, m_choice.authPassphrase,
+                                 m_choice.privProtocol, m_choice.privPassphrase);
+}
+
+// A wrong privacy passphrase leaves the printer silent, which a wrong
+// address does too: only the refusals that name the passphrase drop one.
+void OVWindowSnmp::refused(OVSNMPHelper::Reason reason, const QString &address) {
+    if (!m_choice.v3 || reason != OVSNMPHelper::Reason::WrongPassphrase)
+        return;
+    OVSecretStore::forget(address, m_choice.user, Part::Auth);
+    forgetPassphrases();
+}
