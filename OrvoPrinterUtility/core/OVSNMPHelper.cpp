@@ -543,7 +543,7 @@ int OVSNMPHelper::getSleepMode(const char *address, const OVSnmpCredentials &cre
                                    identifiers(kSleepMode), {ASN_INTEGER, 1});
     if (const auto mode = scalar(answer).value)
         sleepMode = mode->toInt();
-    return answer.status;
+    return answer.report ? statusUserRefused : answer.status;
 }
 
 OVSNMPHelper::Reading<QString> OVSNMPHelper::getMacAddress(const char *address,

@@ -110,8 +110,10 @@ public:
     getValidatedColorProfileForIPAddress(const char *address, const OVSnmpCredentials &credentials);
 
     // The request status (0 success, 1 error, 2 timeout; 1 when no session
-    // opens). sleepMode is -1 unless the printer answered with an integer
-    // that an SNMP INTEGER can hold.
+    // opens; statusUserRefused when the printer refused the SNMPv3 user,
+    // which says that it is awake). sleepMode is -1 unless the printer
+    // answered with an integer that an SNMP INTEGER can hold.
+    static constexpr int statusUserRefused = 3;
     static int getSleepMode(const char *address, const OVSnmpCredentials &credentials,
                             int &sleepMode);
     // The MAC address as six two-digit hexadecimal octets joined by ":", the

@@ -164,6 +164,9 @@ bool pollReady(const char *address, const OVSnmpCredentials &credentials) {
         int status = kStatusSuccess;
         if (askedReady(address, credentials, status))
             return true;
+        // A printer that refuses the SNMPv3 user will never say it is ready.
+        if (status == OVSNMPHelper::statusUserRefused)
+            return false;
         // A timeout has already taken its own time.
         if (status != kStatusTimeout && !OVSleep::sleepSeconds(kPollWait))
             return false;

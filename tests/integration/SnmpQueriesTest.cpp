@@ -288,6 +288,14 @@ TEST(SnmpVersion3, AnswersAsVersion1DidAndTellsFaultsApart) {
         SCOPED_TRACE(c.label);
         EXPECT_EQ(fetched(c.credentials), c.expected);
     }
+    // A refused user says the printer is awake, which the wake flow needs to know; a passphrase
+    // too short for a key sends nothing.
+    const QByteArray address = P::loopbackAddress().toLatin1();
+    int mode = -1;
+    EXPECT_EQ(H::getSleepMode(address, v3("orvo_guest", "SHA-256", P::kAuthPassphrase), mode),
+              H::statusUserRefused);
+    EXPECT_EQ(H::getSleepMode(address, v3(P::kPrivUser, "SHA-256", "short"), mode), 1);
+    EXPECT_EQ(H::getSleepMode(address, privUser, mode), 0);
     // Integers are checked as sent inside the encrypted answer too.
     printer.set(P::kAdminLoginMode, 4294967295L);
     EXPECT_EQ(failure(H::getAdminLoginModeEnabled(P::loopbackAddress().toLatin1(), privUser)),

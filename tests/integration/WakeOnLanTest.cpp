@@ -179,7 +179,8 @@ TEST(WakeOnLan, ReachesAndWakesThePrinter) {
         // cannot be addressed: logged, and the printer sleeps on.
         {"linkLocal", kLinkLocal, kMac, kAsleep, true, true, false, {}, 16, -1, -1, kNoAddress},
         // The sleep mode asked as an SNMPv3 user; one the printer refuses
-        // learns nothing from it.
+        // learns nothing from it, sends the packets, and stops polling at
+        // the first refusal.
         {"snmpV3", kV4, kMac, kAsleep, true, true, true, {kV4, kV4}, -1, -1, -1, "", v3User()},
         {"snmpV3Refused",
          kV4,
@@ -190,7 +191,7 @@ TEST(WakeOnLan, ReachesAndWakesThePrinter) {
          false,
          {kV4, kV4},
          0,
-         -1,
+         15,
          -1,
          "",
          v3User("not-the-passphrase")},
