@@ -111,6 +111,7 @@ QLineEdit *OVSnmpSecurityDialog::addPassphrase(const char *label, const char *ob
     auto *field = new QLineEdit(this);
     field->setObjectName(QString::fromLatin1(objectName));
     field->setEchoMode(QLineEdit::Password);
+    field->setPlaceholderText(localized(snmpPassphraseHint).arg(passphraseMinimum));
     field->setText(QString::fromUtf8(text));
     field->setAccessibleName(OVChooserTexts::withoutMnemonic(localized(label)));
     static_cast<QFormLayout *>(layout())->addRow(localized(label), field);
@@ -128,8 +129,7 @@ void OVSnmpSecurityDialog::updateControls() {
         control->setEnabled(v3);
     m_privPassphrase->setEnabled(v3 && !m_privProtocol->currentData().toString().isEmpty());
     const Choice now = choice();
-    const bool acceptable = !now.v3 || !now.user.isEmpty();
-    m_okButton->setEnabled(acceptable && (!m_needsPassphrases || now.complete()));
+    m_okButton->setEnabled(now.acceptable() && (!m_needsPassphrases || now.complete()));
 }
 
 OVSnmpSecurityDialog::Choice OVSnmpSecurityDialog::choice() const {

@@ -19,6 +19,9 @@ class OVSnmpSecurityDialog : public QDialog {
     Q_OBJECT
 
 public:
+    // Net-SNMP makes no key from a shorter passphrase.
+    static constexpr int passphraseMinimum = 8;
+
     struct Choice {
         bool v3 = false;
         QString user;
@@ -32,6 +35,13 @@ public:
         bool complete() const {
             return !v3 || (!user.isEmpty() && !authPassphrase.isEmpty() &&
                            (privProtocol.isEmpty() || !privPassphrase.isEmpty()));
+        }
+        // No passphrase given too short for a key; the user named for v3.
+        bool acceptable() const {
+            const auto fits = [](const QByteArray &p) {
+                return p.isEmpty() || p.size() >= passphraseMinimum;
+            };
+            return !v3 || (!user.isEmpty() && fits(authPassphrase) && fits(privPassphrase));
         }
     };
 

@@ -1,5 +1,6 @@
 #include "OVWindowSnmp.h"
 
+#include "OVAlert.h"
 #include "OVChooserTexts.h"
 #include "OVSecretStore.h"
 #include "OVWindowTexts.h"
@@ -52,23 +53,27 @@ bool OVWindowSnmp::ask(QWidget *parent, const QString &address, const QString &p
         return false;
     m_choice = dialog.choice();
     m_passphrasesFor = address;
-    if (m_choice.v3)
-        remember(address);
+    if (m_choice.v3 && !remember(address))
+        OVAlert::alertWithMessageText(OVChooserTexts::localized(OVWindowTexts::keyringUnavailable),
+                                      OVChooserTexts::localized(OVWindowTexts::ok), QString(),
+                                      QString(), QString())
+            ->runModal();
     return true;
 }
 
 // Unticking "remember" takes the user's passphrases out of the store.
-void OVWindowSnmp::remember(const QString &address) const {
+bool OVWindowSnmp::remember(const QString &address) const {
     const QString &user = m_choice.user;
     if (!m_choice.remember) {
         OVSecretStore::forget(address, user, Part::Auth);
         OVSecretStore::forget(address, user, Part::Priv);
-        return;
+        return true;
     }
-    if (!m_choice.authPassphrase.isEmpty())
-        OVSecretStore::write(address, user, Part::Auth, m_choice.authPassphrase);
-    if (!m_choice.privPassphrase.isEmpty())
-        OVSecretStore::write(address, user, Part::Priv, m_choice.privPassphrase);
+    const auto keep = [&](Part part, const QByteArray &passphrase) {
+        return passphrase.isEmpty() || OVSecretStore::write(address, user, part, passphrase);
+    };
+    const bool authKept = keep(Part::Auth, m_choice.authPassphrase);
+    return keep(Part::Priv, m_choice.privPassphrase) && authKept;
 }
 
 void OVWindowSnmp::readStored(const QString &address) {

@@ -34,7 +34,8 @@ public:
 
 private:
     bool ask(QWidget *parent, const QString &address, const QString &prompt);
-    void remember(const QString &address) const;
+    // Whether the store kept what it was to keep.
+    bool remember(const QString &address) const;
     void readStored(const QString &address);
     void forgetPassphrases();
 

@@ -147,6 +147,11 @@ inline constexpr char snmpPrivProtocolLabel[] = "Privacy:";
 inline constexpr char snmpNoPrivacy[] = "None";
 inline constexpr char snmpPrivPassphrase[] = "Privacy passphrase:";
 inline constexpr char snmpRemember[] = "Remember in the keyring";
+// %1: the fewest characters a passphrase has
+inline constexpr char snmpPassphraseHint[] = "At least %1 characters";
+inline constexpr char keyringUnavailable[] =
+    "The passphrases could not be kept in the keyring: no desktop secret store answered. They are "
+    "used until the window closes.";
 // %1: the refused character
 inline constexpr char snmpUserCharacter[] = "The SNMPv3 user name cannot contain \"%1\".";
 // %1: the user, %2: the printer's address
@@ -260,6 +265,8 @@ inline constexpr const char *localizedKeys[] = {
     snmpNoPrivacy,
     snmpPrivPassphrase,
     snmpRemember,
+    snmpPassphraseHint,
+    keyringUnavailable,
     snmpUserCharacter,
     snmpPassphrasesNeeded,
     stepMacAddress,

@@ -12,11 +12,13 @@
 #include "OVQueueChooser.h"
 #include "OVQueueDevice.h"
 #include "OVQueueSetup.h"
+#include "OVSnmpSecurityDialog.h"
 #include "ui_MainUtilityWindiw.h"
 
 #include <QAbstractItemModel>
 #include <QApplication>
 #include <QClipboard>
+#include <QDialogButtonBox>
 #include <QElapsedTimer>
 #include <QLineEdit>
 #include <QPushButton>
@@ -191,6 +193,53 @@ TEST_F(DialogTest, FetchFailureSaysWhy) {
          "its barcode area definitions). Check the privacy protocol under SNMP Security."}};
     for (const auto &[reason, step, version, text] : cases)
         EXPECT_EQ(OVFetchFailureText::reason("::1", {step, {reason, "detail"}}, version), text);
+}
+
+// The SNMP security dialog takes OK only for what can be asked: a v3 user with a name, no
+// passphrase too short for a key and, when it opened before a fetch, every passphrase the
+// security level needs. It gives back the user and protocols it was given.
+TEST(SnmpSecurityDialog, OkOnlyForWhatCanBeAsked) {
+    using Choice = OVSnmpSecurityDialog::Choice;
+    const auto v3 = [](const char *user, const char *auth, const char *priv, const char *privPass) {
+        Choice choice;
+        choice.v3 = true;
+        choice.user = user;
+        choice.authProtocol = "SHA-512";
+        choice.authPassphrase = auth;
+        choice.privProtocol = priv;
+        choice.privPassphrase = privPass;
+        return choice;
+    };
+    const struct {
+        const char *label;
+        Choice choice;
+        bool beforeFetch, ok;
+    } cases[] = {
+        {"v1", Choice{}, true, true},
+        {"noUser", v3("", "", "", ""), false, false},
+        {"userAlone", v3("admin", "", "AES-128", ""), false, true},
+        {"userAloneBeforeFetch", v3("admin", "", "AES-128", ""), true, false},
+        {"shortPassphrase", v3("admin", "1234567", "", ""), false, false},
+        {"authNoPriv", v3("admin", "12345678", "", ""), true, true},
+        {"privPassphraseMissing", v3("admin", "12345678", "AES-256", ""), true, false},
+        {"authPriv", v3("admin", "12345678", "DES", "12345678"), true, true},
+    };
+    for (const auto &c : cases) {
+        SCOPED_TRACE(c.label);
+        OVSnmpSecurityDialog dialog(c.choice, c.beforeFetch ? "asked" : "", nullptr);
+        auto *buttons = dialog.findChild<QDialogButtonBox *>();
+        QAbstractButton *ok = buttons->buttons().first();
+        for (QAbstractButton *button : buttons->buttons())
+            if (buttons->buttonRole(button) == QDialogButtonBox::AcceptRole)
+                ok = button;
+        EXPECT_EQ(ok->isEnabled(), c.ok);
+        const Choice back = dialog.choice();
+        EXPECT_EQ(back.v3, c.choice.v3);
+        if (c.choice.v3) {
+            EXPECT_EQ(QStringList({back.user, back.authProtocol, back.privProtocol}),
+                      QStringList({c.choice.user, "SHA-512", c.choice.privProtocol}));
+        }
+    }
 }
 
 // A refused character is named with what is allowed; the text typed before

@@ -903,5 +903,13 @@
         <source>Get Printer Info asks the printer at %2 as the SNMPv3 user %1. Enter the user's passphrases.</source>
         <translation>„Druckerinformationen abrufen“ fragt den Drucker unter %2 als SNMPv3-Benutzer %1 ab. Geben Sie die Passphrasen des Benutzers ein.</translation>
     </message>
+    <message>
+        <source>At least %1 characters</source>
+        <translation>Mindestens %1 Zeichen</translation>
+    </message>
+    <message>
+        <source>The passphrases could not be kept in the keyring: no desktop secret store answered. They are used until the window closes.</source>
+        <translation>Die Passphrasen konnten nicht im Schlüsselbund gespeichert werden: Kein Schlüsselspeicher des Desktops hat geantwortet. Sie werden verwendet, bis das Fenster geschlossen wird.</translation>
+    </message>
 </context>
 </TS>

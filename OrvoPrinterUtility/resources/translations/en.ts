@@ -903,5 +903,13 @@
         <source>Get Printer Info asks the printer at %2 as the SNMPv3 user %1. Enter the user's passphrases.</source>
         <translation>Get Printer Info asks the printer at %2 as the SNMPv3 user %1. Enter the user's passphrases.</translation>
     </message>
+    <message>
+        <source>At least %1 characters</source>
+        <translation>At least %1 characters</translation>
+    </message>
+    <message>
+        <source>The passphrases could not be kept in the keyring: no desktop secret store answered. They are used until the window closes.</source>
+        <translation>The passphrases could not be kept in the keyring: no desktop secret store answered. They are used until the window closes.</translation>
+    </message>
 </context>
 </TS>

@@ -903,5 +903,13 @@
         <source>Get Printer Info asks the printer at %2 as the SNMPv3 user %1. Enter the user's passphrases.</source>
         <translation>« Obtenir les infos de l’imprimante » interroge l’imprimante à l’adresse %2 en tant qu’utilisateur SNMPv3 %1. Saisissez les phrases secrètes de l’utilisateur.</translation>
     </message>
+    <message>
+        <source>At least %1 characters</source>
+        <translation>Au moins %1 caractères</translation>
+    </message>
+    <message>
+        <source>The passphrases could not be kept in the keyring: no desktop secret store answered. They are used until the window closes.</source>
+        <translation>Les phrases secrètes n’ont pas pu être conservées dans le trousseau : aucun gestionnaire de secrets du bureau n’a répondu. Elles sont utilisées jusqu’à la fermeture de la fenêtre.</translation>
+    </message>
 </context>
 </TS>

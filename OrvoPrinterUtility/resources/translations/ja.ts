@@ -903,5 +903,13 @@
         <source>Get Printer Info asks the printer at %2 as the SNMPv3 user %1. Enter the user's passphrases.</source>
         <translation>プリンター情報の取得では、%2 のプリンターに SNMPv3 ユーザー %1 として問い合わせます。ユーザーのパスフレーズを入力してください。</translation>
     </message>
+    <message>
+        <source>At least %1 characters</source>
+        <translation>%1 文字以上</translation>
+    </message>
+    <message>
+        <source>The passphrases could not be kept in the keyring: no desktop secret store answered. They are used until the window closes.</source>
+        <translation>パスフレーズをキーリングに保存できませんでした。デスクトップのシークレットストアが応答しませんでした。ウィンドウを閉じるまでは使用されます。</translation>
+    </message>
 </context>
 </TS>

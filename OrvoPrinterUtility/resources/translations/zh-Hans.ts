@@ -903,5 +903,13 @@
         <source>Get Printer Info asks the printer at %2 as the SNMPv3 user %1. Enter the user's passphrases.</source>
         <translation>获取打印机信息将以 SNMPv3 用户 %1 的身份查询位于 %2 的打印机。请输入该用户的密码短语。</translation>
     </message>
+    <message>
+        <source>At least %1 characters</source>
+        <translation>至少 %1 个字符</translation>
+    </message>
+    <message>
+        <source>The passphrases could not be kept in the keyring: no desktop secret store answered. They are used until the window closes.</source>
+        <translation>无法将密码短语保存在密钥环中：桌面的密钥存储没有响应。在窗口关闭之前仍会使用这些密码短语。</translation>
+    </message>
 </context>
 </TS>

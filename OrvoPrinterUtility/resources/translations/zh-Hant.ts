@@ -903,5 +903,13 @@
         <source>Get Printer Info asks the printer at %2 as the SNMPv3 user %1. Enter the user's passphrases.</source>
         <translation>取得印表機資訊將以 SNMPv3 使用者 %1 的身分查詢位於 %2 的印表機。請輸入該使用者的密碼短語。</translation>
     </message>
+    <message>
+        <source>At least %1 characters</source>
+        <translation>至少 %1 個字元</translation>
+    </message>
+    <message>
+        <source>The passphrases could not be kept in the keyring: no desktop secret store answered. They are used until the window closes.</source>
+        <translation>無法將密碼短語儲存在金鑰圈中：桌面的密鑰儲存沒有回應。在視窗關閉之前仍會使用這些密碼短語。</translation>
+    </message>
 </context>
 </TS>
