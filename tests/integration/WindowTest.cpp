@@ -20,6 +20,7 @@
 #include <QComboBox>
 #include <QElapsedTimer>
 #include <QLabel>
+#include <QLoggingCategory>
 #include <QRadioButton>
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -639,9 +640,14 @@ TEST(SecretStore, KeepsEachPassphraseUnderItsOwnKey) {
 // On a printer with v1 switched off the window asks as the SNMPv3 user the
 // dialog names, keeps the passphrases in the secret store and finds them
 // there on the next fetch; a refused passphrase is named and dropped. No
-// passphrase reaches the queue's PPD, the update job or cupsd's log.
+// passphrase reaches the queue's PPD, the update job, cupsd's log or the utility's.
 TEST_F(WindowTest, SnmpV3UserWithPassphrasesInTheSecretStore) {
     ASSERT_TRUE(SecretServiceEnvironment::started);
+    // Every log line of the window and the core, on for this test.
+    static QStringList logged;
+    QLoggingCategory::setFilterRules("orvo.*=true");
+    const QtMessageHandler before = qInstallMessageHandler(
+        [](QtMsgType, const QMessageLogContext &, const QString &text) { logged << text; });
     P::Options options;
     options.listen = options.counterPeer = "udp:127.0.0.5:161";
     options.v1Off = true;
@@ -714,6 +720,12 @@ TEST_F(WindowTest, SnmpV3UserWithPassphrasesInTheSecretStore) {
     click(m_c->formGetPrinterInfoButton);
     EXPECT_TRUE(again.explanation.contains("as the SNMPv3 user orvo_admin"));
     EXPECT_EQ(m_alerts.size(), 1);
+    qInstallMessageHandler(before);
+    QLoggingCategory::setFilterRules(QString());
+    const QString log = logged.join('\n');
+    EXPECT_TRUE(log.contains("SNMP request to 127.0.0.5")) << "the log was on";
+    for (const char *passphrase : {P::kAuthPassphrase, P::kPrivPassphrase, "wrong-auth-phrase"})
+        EXPECT_FALSE(log.contains(passphrase)) << passphrase;
 }
 
 } // namespace
