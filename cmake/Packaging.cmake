@@ -38,7 +38,9 @@ set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 # Loaded at run time, so dpkg-shlibdeps cannot see it: the window's display plugins.
 set(CPACK_DEBIAN_PACKAGE_DEPENDS qt6-qpa-plugins)
 # The filter runs under cupsd; the programs also work against a remote server.
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS cups-daemon)
+# QtKeychain loads libsecret at run time to reach the desktop's secret store,
+# where the window keeps SNMPv3 passphrases; without it they last a window.
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "cups-daemon, libsecret-1-0")
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 set(CPACK_STRIP_FILES ON)
