@@ -27,5 +27,6 @@ public:
     // A passphrase the printer refused is of no use on the next fetch.
     static void forget(const QString &address, const QString &user, Part part);
 
+private:
     static QString key(const QString &address, const QString &user, Part part);
 };

@@ -76,13 +76,19 @@ bool OVWindowSnmp::remember(const QString &address) const {
     return keep(Part::Priv, m_choice.privPassphrase) && authKept;
 }
 
+// For another printer the passphrases in memory do not count; for the same
+// one, the store fills only those still missing, not those just typed.
 void OVWindowSnmp::readStored(const QString &address) {
-    m_choice.authPassphrase =
-        OVSecretStore::read(address, m_choice.user, Part::Auth).value_or(QByteArray());
-    m_choice.privPassphrase =
-        m_choice.privProtocol.isEmpty()
-            ? QByteArray()
-            : OVSecretStore::read(address, m_choice.user, Part::Priv).value_or(QByteArray());
+    const bool otherPrinter = m_passphrasesFor != address;
+    const auto fill = [&](Part part, QByteArray &passphrase) {
+        if (otherPrinter || passphrase.isEmpty())
+            passphrase = OVSecretStore::read(address, m_choice.user, part).value_or(QByteArray());
+    };
+    fill(Part::Auth, m_choice.authPassphrase);
+    if (m_choice.privProtocol.isEmpty())
+        m_choice.privPassphrase.clear();
+    else
+        fill(Part::Priv, m_choice.privPassphrase);
     m_passphrasesFor = address;
 }
 
