@@ -16,6 +16,8 @@
 #include <optional>
 #include <variant>
 
+#include <netdb.h>
+
 namespace {
 
 using Exit = OVCommandLine::Exit;
@@ -180,6 +182,30 @@ void print(const QString &address, const OVPrinterInfoFetch::Result &fetched, bo
     OVCommandLine::print(json, result, text);
 }
 
+// A name no resolver knows would otherwise read as a printer that stays
+// silent: it is a mistake in the argument, said before anything is sent. An
+// address literal resolves without asking anyone.
+bool isKnownHost(const QString &address) {
+    QString host = address;
+    if (host.startsWith('[') && host.endsWith(']'))
+        host = host.mid(1, host.size() - 2);
+    addrinfo hints{};
+    hints.ai_socktype = SOCK_DGRAM;
+    addrinfo *found = nullptr;
+    const bool known = getaddrinfo(host.toUtf8().constData(), nullptr, &hints, &found) == 0;
+    if (found)
+        freeaddrinfo(found);
+    return known;
+}
+
+QString addressProblem(const QString &address) {
+    if (!OrvoSettingsRules::printerAddress(address.toStdString()).ok())
+        return "--address takes an IPv4 or IPv6 address or a host name, not \"" + address + "\"";
+    if (!isKnownHost(address))
+        return "--address: no host is known as \"" + address + "\"";
+    return {};
+}
+
 } // namespace
 
 void OVFetchCommand::addOptions(QCommandLineParser &parser) {
@@ -193,10 +219,8 @@ int OVFetchCommand::run(const QCommandLineParser &parser, bool json) {
         return OVCommandLine::fail(Exit::Usage, "--address is required");
     if (parser.isSet(wakeOption) && !parser.isSet(macOption))
         return OVCommandLine::fail(Exit::Usage, "--wake needs --mac-address");
-    if (!OrvoSettingsRules::printerAddress(address.toStdString()).ok())
-        return OVCommandLine::fail(Exit::Usage, "--address takes an IPv4 or IPv6 address or a "
-                                                "host name, not \"" +
-                                                    address + "\"");
+    if (const QString problem = addressProblem(address); !problem.isEmpty())
+        return OVCommandLine::fail(Exit::Usage, problem);
     if (parser.isSet(macOption) && !isMacAddress(parser.value(macOption)))
         return OVCommandLine::fail(
             Exit::Usage, "--mac-address takes six hexadecimal octets separated by \":\" or "

@@ -2,15 +2,30 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QMenu>
 #include <QRegularExpression>
+
+#include <memory>
 
 namespace {
 constexpr qsizetype digitsPerByte = 2;
 
 bool isSeparator(const QString &text) {
     return text == u':' || text == u'-' || text == u' ' || text == u'.';
+}
+
+// The field's menu tells its actions apart only by their texts, in the field's
+// own translation, with the shortcut after a tab where the desktop shows one.
+QAction *pasteAction(const QMenu &menu) {
+    const QString paste = QLineEdit::tr("&Paste");
+    for (QAction *action : menu.actions()) {
+        if (action->text().section(u'\t', 0, 0) == paste)
+            return action;
+    }
+    return nullptr;
 }
 } // namespace
 
@@ -38,23 +53,54 @@ OVMacAddressEntry::parse(const QString &text) {
 
 bool OVMacAddressEntry::eventFilter(QObject *watched, QEvent *event) {
     const qsizetype field = std::find(m_fields.begin(), m_fields.end(), watched) - m_fields.begin();
-    if (event->type() != QEvent::KeyPress || field == byteCount)
+    if (field == byteCount)
         return QObject::eventFilter(watched, event);
-    auto *key = static_cast<QKeyEvent *>(event);
-    if (key->matches(QKeySequence::Paste))
-        return paste();
-    return moveOn(field, key);
+    switch (event->type()) {
+    case QEvent::KeyPress: {
+        auto *key = static_cast<QKeyEvent *>(event);
+        if (key->matches(QKeySequence::Paste))
+            return fill(QApplication::clipboard()->text());
+        return moveOn(field, key);
+    }
+    case QEvent::ContextMenu:
+        return showMenu(m_fields[field], static_cast<QContextMenuEvent *>(event));
+    case QEvent::MouseButtonRelease:
+        return middleClick(static_cast<QMouseEvent *>(event));
+    default:
+        return QObject::eventFilter(watched, event);
+    }
 }
 
 // Anything else pasted is left to the field, whose rules refuse it.
-bool OVMacAddressEntry::paste() {
-    const auto bytes = parse(QApplication::clipboard()->text());
+bool OVMacAddressEntry::fill(const QString &text) {
+    const auto bytes = parse(text);
     if (!bytes)
         return false;
     for (int i = 0; i < byteCount; ++i)
         m_fields[i]->setText((*bytes)[i]);
     emit filled();
     return true;
+}
+
+// The field's own menu, whose Paste takes a whole address as the key does.
+bool OVMacAddressEntry::showMenu(QLineEdit *field, const QContextMenuEvent *event) {
+    const std::unique_ptr<QMenu> menu(field->createStandardContextMenu());
+    if (QAction *paste = pasteAction(*menu)) {
+        disconnect(paste, &QAction::triggered, nullptr, nullptr);
+        connect(paste, &QAction::triggered, field, [this, field] {
+            if (!fill(QApplication::clipboard()->text()))
+                field->paste();
+        });
+    }
+    menu->exec(event->globalPos());
+    return true;
+}
+
+// The middle button pastes the selection where the system has one.
+bool OVMacAddressEntry::middleClick(const QMouseEvent *event) {
+    const QClipboard *clipboard = QApplication::clipboard();
+    return event->button() == Qt::MiddleButton && clipboard->supportsSelection() &&
+           fill(clipboard->text(QClipboard::Selection));
 }
 
 // A separator moves on from any byte; a digit only from a full one with the

@@ -5,12 +5,15 @@
 #include <array>
 #include <optional>
 
+class QContextMenuEvent;
 class QKeyEvent;
 class QLineEdit;
+class QMouseEvent;
 
 // Typing and pasting across the six byte fields of a MAC address, as one
-// entry: a whole address pasted into any byte fills all six; a third digit or
-// a separator typed into a full byte goes on in the next one.
+// entry: a whole address pasted into any byte (by key, by the field's menu or
+// by the middle button) fills all six; a third digit or a separator typed into
+// a full byte goes on in the next one.
 class OVMacAddressEntry : public QObject {
     Q_OBJECT
 
@@ -32,7 +35,9 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    bool paste();
+    bool fill(const QString &text);
+    bool showMenu(QLineEdit *field, const QContextMenuEvent *event);
+    bool middleClick(const QMouseEvent *event);
     bool moveOn(qsizetype field, QKeyEvent *key);
 
     Fields m_fields;

@@ -153,6 +153,17 @@ TEST(CommandLine, QueueAndPpdCommands) {
     check({"setup", queue}, 0, "\"q\\u202eabc\\u2066\" was already set up");
 }
 
+// A host name no resolver knows is a mistake in the argument, not a printer that stays silent.
+// The lookup runs in a network namespace of its own with loopback alone, so that it never leaves
+// this machine.
+TEST(CommandLine, UnknownHostIsAUsageError) {
+    const CommandLineRun run("unshare",
+                             {"--net", ORVO_CLI, "fetch", "--address", "printer.invalid"});
+    EXPECT_EQ(run.exit, 2);
+    EXPECT_TRUE(run.shown.contains("--address: no host is known as \"printer.invalid\"\n"))
+        << run.shown.toStdString();
+}
+
 // What each command takes: the version, options only where they act, one documented spelling
 // with the older one as an alias, and arguments checked before anything is sent.
 TEST(CommandLine, OptionsActWhereTheyAreListed) {

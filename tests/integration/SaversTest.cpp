@@ -7,8 +7,6 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
-#include <cstdlib>
-
 namespace {
 
 constexpr char queue[] = "Savers";
@@ -19,11 +17,11 @@ constexpr char groupMember[] = "daemon";
 // The group exists for the test only.
 struct TestGroup {
     TestGroup() {
-        std::system((QByteArray("groupdel ") + group + " 2>/dev/null").constData());
-        created =
-            std::system((QByteArray("groupadd -U ") + groupMember + " " + group).constData()) == 0;
+        // A group left by an earlier run that was killed goes first.
+        SpawnedProcess::execute("groupdel", {group});
+        created = SpawnedProcess::execute("groupadd", {"-U", groupMember, group}) == 0;
     }
-    ~TestGroup() { std::system((QByteArray("groupdel ") + group).constData()); }
+    ~TestGroup() { SpawnedProcess::execute("groupdel", {group}); }
     bool created = false;
 };
 

@@ -16,8 +16,10 @@
 #include "ui_MainUtilityWindiw.h"
 
 #include <QAbstractItemModel>
+#include <QAction>
 #include <QApplication>
 #include <QClipboard>
+#include <QContextMenuEvent>
 #include <QDialogButtonBox>
 #include <QElapsedTimer>
 #include <QLineEdit>
@@ -29,6 +31,7 @@
 #include <QTableView>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 
 #include <gtest/gtest.h>
 
@@ -257,8 +260,9 @@ TEST_F(DialogTest, CommunityMessageNamesTheRefusedCharacter) {
                           "\u00A5 ] ^ _"});
 }
 
-// A whole address pasted into any byte fills all six, in each usual form;
-// anything else pasted is refused. Typing runs on from byte to byte.
+// Typing runs on from byte to byte. A whole address pasted into any byte fills
+// all six, in each usual form, by key or by the field's menu; anything else
+// pasted is refused. (The menu leaves the window inactive: pasting goes last.)
 TEST_F(DialogTest, MacAddressPasteAndTyping) {
     open();
     const std::array<QLineEdit *, 6> fields = {m_c->macAddressText1, m_c->macAddressText2,
@@ -270,19 +274,6 @@ TEST_F(DialogTest, MacAddressPasteAndTyping) {
             bytes << field->text();
         return bytes.join(':');
     };
-    const std::tuple<const char *, int, const char *> pastes[] = {
-        {"00:1B:63:84:45:E6", 0, "00:1B:63:84:45:E6"},
-        {"00-1b-63-84-45-e6", 3, "00:1B:63:84:45:E6"},
-        {" 001b638445E6\n", 5, "00:1B:63:84:45:E6"},
-        {"00:1B:63", 1, "00:00:00:00:00:00"},
-        {"00:1B-63:84:45:E6", 1, "00:00:00:00:00:00"}};
-    for (const auto &[text, field, expected] : pastes) {
-        m_window->setMacAddressStr("00:00:00:00:00:00");
-        QApplication::clipboard()->setText(text);
-        fields[field]->setFocus();
-        QTest::keyClick(fields[field], Qt::Key_V, Qt::ControlModifier);
-        EXPECT_EQ(mac(), expected) << text;
-    }
     const std::pair<const char *, const char *> typing[] = {{"aabbccddeeff", "aa:bb:cc:dd:ee:ff"},
                                                             {"1:2-3", "1:2:3:00:00:00"}};
     for (const auto &[keys, expected] : typing) {
@@ -292,6 +283,36 @@ TEST_F(DialogTest, MacAddressPasteAndTyping) {
         for (const char key : std::string_view(keys))
             QTest::keyClick(QApplication::focusWidget(), key);
         EXPECT_EQ(mac(), expected) << keys;
+    }
+    // Pasted by the key, or by the field's own menu.
+    const std::tuple<const char *, int, const char *, bool> pastes[] = {
+        {"00:1B:63:84:45:E6", 0, "00:1B:63:84:45:E6", false},
+        {"00-1b-63-84-45-e6", 3, "00:1B:63:84:45:E6", false},
+        {" 001b638445E6\n", 5, "00:1B:63:84:45:E6", false},
+        {"00:1B:63", 1, "00:00:00:00:00:00", false},
+        {"00:1B-63:84:45:E6", 1, "00:00:00:00:00:00", false},
+        {"00-1b-63-84-45-e6", 2, "00:1B:63:84:45:E6", true},
+        {"00:1B:63", 4, "00:00:00:00:00:00", true}};
+    for (const auto &[text, field, expected, viaMenu] : pastes) {
+        m_window->setMacAddressStr("00:00:00:00:00:00");
+        QApplication::clipboard()->setText(text);
+        fields[field]->setFocus();
+        if (viaMenu) {
+            QTimer::singleShot(0, [] {
+                QWidget *menu = QApplication::activePopupWidget();
+                ASSERT_NE(menu, nullptr);
+                for (QAction *action : menu->actions()) {
+                    if (action->text().startsWith("&Paste"))
+                        action->trigger();
+                }
+                menu->close();
+            });
+            QContextMenuEvent menu(QContextMenuEvent::Mouse, QPoint(1, 1), QPoint(1, 1));
+            QApplication::sendEvent(fields[field], &menu);
+        } else {
+            QTest::keyClick(fields[field], Qt::Key_V, Qt::ControlModifier);
+        }
+        EXPECT_EQ(mac(), expected) << text;
     }
 }
 
