@@ -41,10 +41,10 @@ namespace {
 // bus; it ends before the print server's environment checks what its clients left behind.
 class SecretServiceEnvironment : public ::testing::Environment {
 public:
-    void SetUp() override { started = service.emplace().start(); }
-    void TearDown() override { service.reset(); }
-    static inline std::optional<SecretService> service;
-    static inline bool started = false;
+    void SetUp() override { s_started = s_service.emplace().start(); }
+    void TearDown() override { s_service.reset(); }
+    static inline std::optional<SecretService> s_service;
+    static inline bool s_started = false;
 };
 } // namespace
 [[maybe_unused]] const auto secrets =
@@ -618,8 +618,8 @@ void chooseV3(OVSnmpSecurityDialog *dialog, const char *user, const char *auth, 
 // The secret store keeps one entry per address, user and passphrase, and has
 // none it was not given or that was forgotten.
 TEST(SecretStore, KeepsEachPassphraseUnderItsOwnKey) {
-    ASSERT_TRUE(SecretServiceEnvironment::started)
-        << SecretServiceEnvironment::service->errorText().toStdString();
+    ASSERT_TRUE(SecretServiceEnvironment::s_started)
+        << SecretServiceEnvironment::s_service->errorText().toStdString();
     using Part = OVSecretStore::Part;
     ASSERT_TRUE(OVSecretStore::write("192.0.2.7", "alice", Part::Auth, "alice-auth"));
     ASSERT_TRUE(OVSecretStore::write("192.0.2.7", "alice", Part::Priv, "alice-priv"));
@@ -642,7 +642,7 @@ TEST(SecretStore, KeepsEachPassphraseUnderItsOwnKey) {
 // there on the next fetch; a refused passphrase is named and dropped. No
 // passphrase reaches the queue's PPD, the update job, cupsd's log or the utility's.
 TEST_F(WindowTest, SnmpV3UserWithPassphrasesInTheSecretStore) {
-    ASSERT_TRUE(SecretServiceEnvironment::started);
+    ASSERT_TRUE(SecretServiceEnvironment::s_started);
     // Every log line of the window and the core, on for this test.
     static QStringList logged;
     QLoggingCategory::setFilterRules("orvo.*=true");
