@@ -32,6 +32,7 @@
 #include <chrono>
 #include <csignal>
 #include <cstdio>
+#include <mutex>
 
 const bool isolated = PrivateNetwork::enter();
 [[maybe_unused]] const auto cupsd = ::testing::AddGlobalTestEnvironment(new CupsServerEnvironment);
@@ -643,11 +644,15 @@ TEST(SecretStore, KeepsEachPassphraseUnderItsOwnKey) {
 // passphrase reaches the queue's PPD, the update job, cupsd's log or the utility's.
 TEST_F(WindowTest, SnmpV3UserWithPassphrasesInTheSecretStore) {
     ASSERT_TRUE(SecretServiceEnvironment::s_started);
-    // Every log line of the window and the core, on for this test.
+    // Every log line of the window and the core, on for this test; the worker logs too.
     static QStringList logged;
+    static std::mutex loggedLock;
     QLoggingCategory::setFilterRules("orvo.*=true");
-    const QtMessageHandler before = qInstallMessageHandler(
-        [](QtMsgType, const QMessageLogContext &, const QString &text) { logged << text; });
+    const QtMessageHandler before =
+        qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &text) {
+            const std::lock_guard<std::mutex> hold(loggedLock);
+            logged << text;
+        });
     P::Options options;
     options.listen = options.counterPeer = "udp:127.0.0.5:161";
     options.v1Off = true;
@@ -722,7 +727,10 @@ TEST_F(WindowTest, SnmpV3UserWithPassphrasesInTheSecretStore) {
     EXPECT_EQ(m_alerts.size(), 1);
     qInstallMessageHandler(before);
     QLoggingCategory::setFilterRules(QString());
-    const QString log = logged.join('\n');
+    const QString log = [] {
+        const std::lock_guard<std::mutex> hold(loggedLock);
+        return logged.join('\n');
+    }();
     EXPECT_TRUE(log.contains("SNMP request to 127.0.0.5")) << "the log was on";
     for (const char *passphrase : {P::kAuthPassphrase, P::kPrivPassphrase, "wrong-auth-phrase"})
         EXPECT_FALSE(log.contains(passphrase)) << passphrase;
