@@ -300,7 +300,7 @@ TEST_F(WindowOnServerTest, ADamagedPpdIsRepairedFromTheBar) {
     const OVMessageBar *bar = m_window->messageBar();
     ASSERT_TRUE(bar->isVisible());
     EXPECT_TRUE(bar->text().startsWith("The PPD of the print queue \"Echo\" is damaged"));
-    EXPECT_EQ(bar->actionButton()->text().remove('&'), "Repair\u2026");
+    EXPECT_EQ(OVChooserTexts::withoutMnemonic(bar->actionButton()->text()), "Repair\u2026");
     EXPECT_EQ(m_window->formTableViewDataSource()->getElementsArray(), QStringList());
     EXPECT_FALSE(ok());
     EXPECT_EQ(m_alerts.last(), bar->text());
@@ -320,7 +320,7 @@ TEST_F(WindowOnServerTest, AQueueThatIsNotSetUpIsSetUpFromTheBar) {
     const OVMessageBar *bar = m_window->messageBar();
     ASSERT_TRUE(bar->isVisible());
     EXPECT_TRUE(bar->text().startsWith("The print queue \"Delta\" is not set up"));
-    EXPECT_EQ(bar->actionButton()->text().remove('&'), "Set Up\u2026");
+    EXPECT_EQ(OVChooserTexts::withoutMnemonic(bar->actionButton()->text()), "Set Up\u2026");
     m_window->formTableViewDataSource()->setElementsArray(QStringList{"Invoice"});
     EXPECT_FALSE(ok());
     EXPECT_EQ(m_alerts, QStringList{bar->text()});
