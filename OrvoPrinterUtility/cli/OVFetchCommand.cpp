@@ -16,8 +16,6 @@
 #include <optional>
 #include <variant>
 
-#include <netdb.h>
-
 namespace {
 
 using Exit = OVCommandLine::Exit;
@@ -59,6 +57,12 @@ int silent(const QString &address, const QString &what, const OVSnmpCredentials 
                                    .arg(address, what, suspect));
 }
 
+// A name no resolver knows is a mistake in the argument, not a printer that
+// stays silent; nothing was sent to it.
+int unknownHost(const QString &address) {
+    return OVCommandLine::fail(Exit::Usage, "--address: no host is known as \"" + address + "\"");
+}
+
 // Which step failed and why, each reason in words of its own.
 int fetchFailure(const QString &address, const OVPrinterInfoFetch::FailedStep &failed,
                  const OVSnmpCredentials &credentials) {
@@ -84,6 +88,8 @@ int fetchFailure(const QString &address, const OVPrinterInfoFetch::FailedStep &f
             Exit::SnmpUserRefused,
             QStringLiteral("the printer at %1 refused the SNMPv3 user in the %2 query: %3")
                 .arg(address, step, detail));
+    case OVSNMPHelper::Reason::UnknownHost:
+        return unknownHost(address);
     }
     return silent(address, step, credentials);
 }
@@ -182,27 +188,9 @@ void print(const QString &address, const OVPrinterInfoFetch::Result &fetched, bo
     OVCommandLine::print(json, result, text);
 }
 
-// A name no resolver knows would otherwise read as a printer that stays
-// silent: it is a mistake in the argument, said before anything is sent. An
-// address literal resolves without asking anyone.
-bool isKnownHost(const QString &address) {
-    QString host = address;
-    if (host.startsWith('[') && host.endsWith(']'))
-        host = host.mid(1, host.size() - 2);
-    addrinfo hints{};
-    hints.ai_socktype = SOCK_DGRAM;
-    addrinfo *found = nullptr;
-    const bool known = getaddrinfo(host.toUtf8().constData(), nullptr, &hints, &found) == 0;
-    if (found)
-        freeaddrinfo(found);
-    return known;
-}
-
 QString addressProblem(const QString &address) {
     if (!OrvoSettingsRules::printerAddress(address.toStdString()).ok())
         return "--address takes an IPv4 or IPv6 address or a host name, not \"" + address + "\"";
-    if (!isKnownHost(address))
-        return "--address: no host is known as \"" + address + "\"";
     return {};
 }
 
@@ -229,8 +217,13 @@ int OVFetchCommand::run(const QCommandLineParser &parser, bool json) {
     if (const int *exit = std::get_if<int>(&asked))
         return *exit;
     const OVSnmpCredentials &snmp = std::get<OVSnmpCredentials>(asked);
-    if (parser.isSet(wakeOption) && !wake(address, snmp, parser))
-        return silent(address, "it did not wake up", snmp);
+    if (parser.isSet(wakeOption)) {
+        // The wake flow would wait out its polls on a name that names no one.
+        if (OVSNMPHelper::unknownHost(address.toUtf8().constData()))
+            return unknownHost(address);
+        if (!wake(address, snmp, parser))
+            return silent(address, "it did not wake up", snmp);
+    }
     const OVPrinterInfoFetch::Result fetched =
         OVPrinterInfoFetch::fetch({address, snmp, std::nullopt}, OVPrinterInfoFetch::allSteps);
     if (fetched.failedStep)

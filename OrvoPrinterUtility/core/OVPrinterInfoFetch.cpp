@@ -17,7 +17,13 @@ using Outcome = std::optional<H::Failure>;
 Outcome reachable(const Fetch::Printer &printer) {
     if (printer.address.isEmpty())
         return H::Failure{Reason::NoAnswer, QStringLiteral("no printer address")};
-    if (printer.wake && !Fetch::wake(printer.address, *printer.wake))
+    if (!printer.wake)
+        return std::nullopt;
+    // The wake flow would wait out all its polls on a name that names no
+    // printer, and then say only that nothing woke up.
+    if (Outcome unknown = H::unknownHost(printer.address.toUtf8().constData()))
+        return unknown;
+    if (!Fetch::wake(printer.address, *printer.wake))
         return H::Failure{Reason::NoAnswer, QStringLiteral("it did not wake up")};
     return std::nullopt;
 }

@@ -9,6 +9,7 @@
 #include <net-snmp/net-snmp-config.h>
 #include <net-snmp/net-snmp-includes.h>
 
+#include <netdb.h>
 #include <sys/select.h>
 
 #include <algorithm>
@@ -352,6 +353,10 @@ Answer exchange(const char *address, const OVSnmpCredentials &credentials, Sessi
     OVSNMPHelper::PeerName peerName;
     if (!OVSNMPHelper::getConvertedAddress(peerName, address))
         return {};
+    if (const std::optional<Failure> unknown = OVSNMPHelper::unknownHost(address)) {
+        qCInfo(orvoCore) << "SNMP request to" << address << "not sent:" << unknown->detail;
+        return {kNoSession, false, {std::nullopt, *unknown}, {}, 0};
+    }
     netsnmp_session record = sessionRecord(peerName, settings);
     if (credentials.version() == OVSnmpCredentials::Version::V3)
         return exchangeV3(address, record, credentials, names, expected);
@@ -579,6 +584,21 @@ bool OVSNMPHelper::getConvertedAddress(PeerName &peerName, const char *sourceAdd
         return false;
     }
     return true;
+}
+
+// Net-SNMP looks the name up again when its session opens; a name that was
+// known a moment before and no longer is reads there as a silent printer.
+std::optional<Failure> OVSNMPHelper::unknownHost(const char *address) {
+    addrinfo hints{};
+    hints.ai_socktype = SOCK_DGRAM;
+    addrinfo *found = nullptr;
+    const int error = getaddrinfo(withoutBrackets(address).constData(), nullptr, &hints, &found);
+    if (found)
+        freeaddrinfo(found);
+    if (error == 0)
+        return std::nullopt;
+    return Failure{Reason::UnknownHost, QStringLiteral("no host is known as that name (%1)")
+                                            .arg(QString::fromLocal8Bit(gai_strerror(error)))};
 }
 
 QByteArray OVSNMPHelper::withoutBrackets(const QByteArray &address) {

@@ -37,7 +37,8 @@ public:
     // Why a query gave no value. Each asks something else of the user: to
     // check the address and community, to check that the printer is one
     // that keeps this information, to report a printer that sends what its
-    // objects cannot hold, or to correct one part of the SNMPv3 settings.
+    // objects cannot hold, to correct one part of the SNMPv3 settings, or to
+    // correct the address itself.
     enum class Reason {
         NoAnswer,                 // nothing came back (SNMP v1 is silent on a wrong community too)
         Refused,                  // the printer answered with an error status, such as noSuchName
@@ -46,6 +47,7 @@ public:
         UnknownUser,              // the printer has no SNMPv3 user of that name
         WrongPassphrase,          // a digest or a decryption that does not match
         UnsupportedSecurityLevel, // the user is not set up for privacy on (or off)
+        UnknownHost,              // the address is a name that does not resolve: nothing was sent
     };
     struct Failure {
         Reason reason = Reason::NoAnswer;
@@ -135,6 +137,12 @@ public:
     // pair of enclosing brackets, which the peer name adds back itself.
     // False, with an empty peer name, when the result would not fit.
     static bool getConvertedAddress(PeerName &peerName, const char *sourceAddr);
+    // Why nothing can be sent to an address: a host name that the system's
+    // resolver does not know (detail: the resolver's words). An address
+    // literal, bracketed or not, resolves without asking anyone. Every query
+    // asks this before it opens a session, so an unknown name fails at once
+    // with its own reason instead of reading as a silent printer.
+    static std::optional<Failure> unknownHost(const char *address);
     // The address without one pair of enclosing brackets, if it has them.
     static QByteArray withoutBrackets(const QByteArray &address);
 };

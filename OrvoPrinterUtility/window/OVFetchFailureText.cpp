@@ -15,7 +15,11 @@ QString OVFetchFailureText::reason(const QString &address,
                                    OVSnmpCredentials::Version version) {
     if (address.trimmed().isEmpty())
         return localized(fetchNoAddress);
-    return localized(text(failed.failure.reason, version)).arg(address, asked(failed.step));
+    const QString why = localized(text(failed.failure.reason, version));
+    // A name that does not resolve was never asked anything.
+    if (failed.failure.reason == OVSNMPHelper::Reason::UnknownHost)
+        return why.arg(address);
+    return why.arg(address, asked(failed.step));
 }
 
 const char *OVFetchFailureText::text(OVSNMPHelper::Reason reason,
@@ -34,6 +38,8 @@ const char *OVFetchFailureText::text(OVSNMPHelper::Reason reason,
         return fetchWrongPassphrase;
     case Reason::UnsupportedSecurityLevel:
         return fetchWrongLevel;
+    case Reason::UnknownHost:
+        return fetchUnknownHost;
     }
     return version == OVSnmpCredentials::Version::V3 ? fetchNoAnswerV3 : fetchNoAnswer;
 }

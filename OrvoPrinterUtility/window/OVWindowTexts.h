@@ -131,6 +131,9 @@ inline constexpr char fetchWrongPassphrase[] =
 inline constexpr char fetchWrongLevel[] =
     "The printer at %1 does not accept the SNMPv3 user with privacy as chosen (asked for %2). "
     "Check the privacy protocol under SNMP Security.";
+// A name that does not resolve: nothing was asked, so no %2.
+inline constexpr char fetchUnknownHost[] =
+    "No host is known as \"%1\". Check the printer's IP address.";
 inline constexpr char stepMacAddress[] = "its MAC address";
 inline constexpr char stepFolders[] = "its shared folders";
 inline constexpr char stepForms[] = "its forms";
@@ -255,6 +258,7 @@ inline constexpr const char *localizedKeys[] = {
     fetchUnknownUser,
     fetchWrongPassphrase,
     fetchWrongLevel,
+    fetchUnknownHost,
     snmpSecurityButton,
     snmpVersion1,
     snmpVersion3,

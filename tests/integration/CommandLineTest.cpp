@@ -153,15 +153,25 @@ TEST(CommandLine, QueueAndPpdCommands) {
     check({"setup", queue}, 0, "\"q\\u202eabc\\u2066\" was already set up");
 }
 
-// A host name no resolver knows is a mistake in the argument, not a printer that stays silent.
-// The lookup runs in a network namespace of its own with loopback alone, so that it never leaves
-// this machine.
+// A host name no resolver knows is a mistake in the argument, not a printer that stays silent: the
+// fetch says so from the reason its first query gives, with SNMP v1 or v3, and before a wake flow
+// that would wait for it. The lookups run in a network namespace of their own with loopback
+// alone, so that they never leave this machine.
 TEST(CommandLine, UnknownHostIsAUsageError) {
-    const CommandLineRun run("unshare",
-                             {"--net", ORVO_CLI, "fetch", "--address", "printer.invalid"});
-    EXPECT_EQ(run.exit, 2);
-    EXPECT_TRUE(run.shown.contains("--address: no host is known as \"printer.invalid\"\n"))
-        << run.shown.toStdString();
+    // SNMPv3's passphrase comes from the environment rather than a prompt.
+    const QStringList isolated{"--net", "env", "ORVO_SNMP_AUTH_PASSPHRASE=passphrase", ORVO_CLI};
+    const QStringList fetch = isolated + QStringList{"fetch", "--address", "printer.invalid"};
+    const QStringList runs[] = {
+        {},
+        {"--snmp-version", "3", "--snmp-user", "orvo"},
+        {"--wake", "--mac-address", "00:11:22:aa:bb:cc"},
+    };
+    for (const QStringList &options : runs) {
+        const CommandLineRun run("unshare", fetch + options);
+        EXPECT_EQ(run.exit, 2) << options.join(' ').toStdString();
+        EXPECT_TRUE(run.shown.contains("--address: no host is known as \"printer.invalid\"\n"))
+            << run.shown.toStdString();
+    }
 }
 
 // What each command takes: the version, options only where they act, one documented spelling

@@ -26,7 +26,8 @@ constexpr const char *kTooWide = "unreadable: a number wider than 32 bits";
 enum Query { Forms, AdminMode, Mac, SleepMode };
 template <typename T> std::string failure(const H::Reading<T> &reading) {
     constexpr const char *reasons[] = {"no answer",    "refused",          "unreadable",
-                                       "unknown user", "wrong passphrase", "unsupported level"};
+                                       "unknown user", "wrong passphrase", "unsupported level",
+                                       "unknown host"};
     const std::string detail = reading.failure.detail.toStdString();
     return reasons[int(reading.failure.reason)] + (detail.empty() ? "" : ": " + detail);
 }

@@ -193,7 +193,9 @@ TEST_F(DialogTest, FetchFailureSaysWhy) {
          "for its forms. Enter it again under SNMP Security."},
         {R::UnsupportedSecurityLevel, S::BarcodeAreas, v3,
          "The printer at ::1 does not accept the SNMPv3 user with privacy as chosen (asked for "
-         "its barcode area definitions). Check the privacy protocol under SNMP Security."}};
+         "its barcode area definitions). Check the privacy protocol under SNMP Security."},
+        {R::UnknownHost, S::MacAddress, v3,
+         "No host is known as \"::1\". Check the printer's IP address."}};
     for (const auto &[reason, step, version, text] : cases)
         EXPECT_EQ(OVFetchFailureText::reason("::1", {step, {reason, "detail"}}, version), text);
 }

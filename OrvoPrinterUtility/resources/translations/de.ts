@@ -856,6 +856,10 @@
         <translation>Der Drucker unter %1 akzeptiert den SNMPv3-Benutzer mit der gewählten Verschlüsselung nicht (Abfrage von %2). Prüfen Sie das Privacy-Protokoll unter SNMP-Sicherheit.</translation>
     </message>
     <message>
+        <source>No host is known as "%1". Check the printer's IP address.</source>
+        <translation>Kein Host ist unter dem Namen „%1“ bekannt. Prüfen Sie die IP-Adresse des Druckers.</translation>
+    </message>
+    <message>
         <source>SNMP Security…</source>
         <translation>SNMP-Sic&amp;herheit…</translation>
     </message>

@@ -856,6 +856,10 @@
         <translation>The printer at %1 does not accept the SNMPv3 user with privacy as chosen (asked for %2). Check the privacy protocol under SNMP Security.</translation>
     </message>
     <message>
+        <source>No host is known as "%1". Check the printer's IP address.</source>
+        <translation>No host is known as "%1". Check the printer's IP address.</translation>
+    </message>
+    <message>
         <source>SNMP Security…</source>
         <translation>SNMP Security…</translation>
     </message>

@@ -856,6 +856,10 @@
         <translation>L’imprimante à l’adresse %1 n’accepte pas l’utilisateur SNMPv3 avec la confidentialité choisie (demande de %2). Vérifiez le protocole de confidentialité dans Sécurité SNMP.</translation>
     </message>
     <message>
+        <source>No host is known as "%1". Check the printer's IP address.</source>
+        <translation>Aucun hôte n’est connu sous le nom « %1 ». Vérifiez l’adresse IP de l’imprimante.</translation>
+    </message>
+    <message>
         <source>SNMP Security…</source>
         <translation>Sécurité SNMP…</translation>
     </message>

@@ -856,6 +856,10 @@
         <translation>%1 のプリンターは、選択した暗号化の設定では SNMPv3 ユーザーを受け付けません (%2 の問い合わせ)。SNMP セキュリティで暗号化プロトコルを確認してください。</translation>
     </message>
     <message>
+        <source>No host is known as "%1". Check the printer's IP address.</source>
+        <translation>「%1」という名前のホストは見つかりません。プリンターの IP アドレスを確認してください。</translation>
+    </message>
+    <message>
         <source>SNMP Security…</source>
         <translation>SNMP セキュリティ…</translation>
     </message>

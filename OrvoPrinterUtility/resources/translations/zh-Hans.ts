@@ -856,6 +856,10 @@
         <translation>位于 %1 的打印机不接受按所选加密设置的 SNMPv3 用户（查询%2时）。请在 SNMP 安全性中检查加密协议。</translation>
     </message>
     <message>
+        <source>No host is known as "%1". Check the printer's IP address.</source>
+        <translation>找不到名为“%1”的主机。请检查打印机的 IP 地址。</translation>
+    </message>
+    <message>
         <source>SNMP Security…</source>
         <translation>SNMP 安全性…</translation>
     </message>

@@ -856,6 +856,10 @@
         <translation>位於 %1 的印表機不接受按所選加密設定的 SNMPv3 使用者（查詢%2時）。請在 SNMP 安全性中檢查加密協定。</translation>
     </message>
     <message>
+        <source>No host is known as "%1". Check the printer's IP address.</source>
+        <translation>找不到名為「%1」的主機。請檢查印表機的 IP 位址。</translation>
+    </message>
+    <message>
         <source>SNMP Security…</source>
         <translation>SNMP 安全性…</translation>
     </message>
