@@ -73,9 +73,8 @@ const Damage damages[] = {
 class QueueRepair : public ::testing::Test {
 protected:
     void SetUp() override {
-        CupsServer::Options second;
-        second.clientsUseIt = false;
-        m_remote = std::make_unique<CupsServer>(QStringLiteral(ORVO_PPD_UPDATE_FILTER), second);
+        m_remote = std::make_unique<CupsServer>(QStringLiteral(ORVO_PPD_UPDATE_FILTER),
+                                                CupsServer::Options{.clientsUseIt = false});
         ASSERT_TRUE(m_cups.isRunning() && m_remote->isRunning());
         ASSERT_TRUE(m_remote->addQueue("Remote", CupsServer::samplePpdPath(),
                                        "file:" + m_remote->outputPath("device")));
