@@ -187,28 +187,22 @@ TEST(SnmpQueries, FetchStopsAtTheStepThatFailedWithItsReason) {
     using Reason = H::Reason;
     P printer;
     ASSERT_TRUE(printer.start()) << printer.errorText().toStdString();
-    const struct {
-        QByteArray oid;
-        P::Value value;
-        Fetch::Step step;
-        Reason reason;
-    } cases[] = {
-        {P::kMacAddress, QByteArray("00:11:22:aa:bb:cc\n"), Fetch::Step::MacAddress,
-         Reason::Unreadable},
-        {P::kAdminLoginMode, 3L, Fetch::Step::Folders, Reason::Unreadable},
-        {P::nameOid(P::Table::ColorProfile, 30), {}, Fetch::Step::ColorProfiles, Reason::Refused},
-    };
-    for (const auto &c : cases) {
-        SCOPED_TRACE(int(c.step));
+    using S = Fetch::Step;
+    const std::tuple<QByteArray, P::Value, S, Reason> cases[] = {
+        {P::kMacAddress, QByteArray("00:11:22:aa:bb:cc\n"), S::MacAddress, Reason::Unreadable},
+        {P::kAdminLoginMode, 3L, S::Folders, Reason::Unreadable},
+        {P::nameOid(P::Table::ColorProfile, 30), {}, S::ColorProfiles, Reason::Refused}};
+    for (const auto &[oid, value, step, reason] : cases) {
+        SCOPED_TRACE(int(step));
         printer.setDefaults();
-        printer.set(c.oid, c.value);
+        printer.set(oid, value);
         const Fetch::Result result =
             Fetch::fetch({P::loopbackAddress(), kCommunity, std::nullopt}, Fetch::allSteps);
         ASSERT_TRUE(result.failedStep);
-        EXPECT_EQ(result.failedStep->step, c.step);
-        EXPECT_EQ(result.failedStep->failure.reason, c.reason);
-        EXPECT_EQ(result.macAddress.isNull(), c.step == Fetch::Step::MacAddress);
-        EXPECT_EQ(result.adminLoginModeEnabled.has_value(), c.step > Fetch::Step::Folders);
+        EXPECT_EQ(result.failedStep->step, step);
+        EXPECT_EQ(result.failedStep->failure.reason, reason);
+        EXPECT_EQ(result.macAddress.isNull(), step == S::MacAddress);
+        EXPECT_EQ(result.adminLoginModeEnabled.has_value(), step > S::Folders);
         EXPECT_FALSE(result.colorProfiles);
     }
 }
