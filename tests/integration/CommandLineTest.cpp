@@ -160,11 +160,7 @@ TEST(CommandLine, UnknownHostIsAUsageError) {
 // What each command takes: the version, options only where they act, one documented spelling
 // with the older one as an alias, and arguments checked before anything is sent.
 TEST(CommandLine, OptionsActWhereTheyAreListed) {
-    const struct {
-        QStringList arguments;
-        int exit;
-        QByteArray shown;
-    } runs[] = {
+    const std::tuple<QStringList, int, QByteArray> runs[] = {
         {{"--version"}, 0, "orvo-printer-utility-cli " ORVO_VERSION "\n"},
         {{"ppd", "-h", "127.0.0.1", CupsServer::samplePpdPath()}, 2, "Unknown option 'h'"},
         {{"ppd", "--timeout", "5", CupsServer::samplePpdPath()}, 2, "Unknown option 'timeout'"},

@@ -148,11 +148,7 @@ void saidDamaged(const QString &queue) {
 TEST_F(QueueRepair, DamagedPpdsAreNamedAndRepairedWithTheirReadableSettings) {
     const QString pxlmono = driverNamed("pxlmono.ppd");
     ASSERT_FALSE(pxlmono.isEmpty());
-    const struct {
-        const char *what;
-        QString driver;
-        QList<Damage> damages;
-    } queues[] = {
+    const std::tuple<const char *, QString, QList<Damage>> queues[] = {
         {"Driver", pxlmono, {std::begin(damages), std::end(damages)}},
         {"PostScript", "drv:///sample.drv/generic.ppd", {std::begin(damages), std::end(damages)}},
         // Each job to the second server takes the ipp backend seconds: one damage, the worst.

@@ -96,12 +96,10 @@ TEST(QueueSetup, PrintingAndAccountingStayAsTheyWereWhileQueuesTakeSaves) {
     const QString text = cups.outputPath("hello.txt"), postScript = cups.outputPath("hello.ps");
     CupsServer::writeFile(text, "Hello, printer.\n");
     CupsServer::writeFile(postScript, postScriptPage);
-    const struct {
-        QString file;
-        const char *format;
-    } documents[] = {{text, "text/plain"},
-                     {"/usr/share/cups/data/classified.pdf", "application/pdf"},
-                     {postScript, "application/postscript"}};
+    const std::pair<QString, const char *> documents[] = {
+        {text, "text/plain"},
+        {"/usr/share/cups/data/classified.pdf", "application/pdf"},
+        {postScript, "application/postscript"}};
     for (const auto &[what, source] : styles()) {
         SCOPED_TRACE(what);
         const QString queue = what;

@@ -252,11 +252,7 @@ TEST(SnmpVersion3, AnswersAsVersion1DidAndTellsFaultsApart) {
     EXPECT_NE(overV1.find("00:11:22:aa:bb:cc|Box1,Box3"), std::string::npos) << overV1;
     const std::string wrongDigest =
         "wrong passphrase: the authentication passphrase does not match";
-    const struct {
-        const char *label;
-        OVSnmpCredentials credentials;
-        std::string expected;
-    } cases[] = {
+    const std::tuple<const char *, OVSnmpCredentials, std::string> cases[] = {
         {"v1Off", kCommunity, "MAC address: no answer"},
         {"authPriv", privUser, overV1},
         {"authNoPriv", v3(P::kAuthUser, "SHA-256", P::kAuthPassphrase), overV1},
@@ -278,9 +274,9 @@ TEST(SnmpVersion3, AnswersAsVersion1DidAndTellsFaultsApart) {
         // The engine is remembered: the right passphrase after a wrong one works.
         {"authPrivAgain", privUser, overV1},
     };
-    for (const auto &c : cases) {
-        SCOPED_TRACE(c.label);
-        EXPECT_EQ(fetched(c.credentials), c.expected);
+    for (const auto &[label, credentials, expected] : cases) {
+        SCOPED_TRACE(label);
+        EXPECT_EQ(fetched(credentials), expected);
     }
     // A refused user says the printer is awake, which the wake flow needs to know; a passphrase
     // too short for a key sends nothing.

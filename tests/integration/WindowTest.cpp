@@ -292,38 +292,38 @@ TEST_F(WindowTest, CustomCommunityReachesThePrinter) {
 TEST_F(WindowTest, OkRefusesWhatTheSettingsRulesRefuse) {
     open();
     const QStringList colorProfiles = QStringList(31, "Profile");
-    const std::tuple<const char *, std::function<void()>, std::function<QString()>, QString>
-        cases[] = {
-            {"MacByteCleared", [&] { erase(m_c->macAddressText1); },
-             [&] { return m_c->macAddressText1->text() + m_c->macAddressText2->text(); },
-             "The MAC address of the printer is incomplete: each of its six bytes needs two "
-             "hexadecimal digits (0-9, A-F)."},
-            {"CommunityCharacter",
-             [&] {
-                 type(m_c->macAddressText1, "0a");
-                 click(m_c->snmpCommunityCheck);
-                 m_c->snmpCommunityText->setText("bad-char");
-             },
-             [&] { return m_c->snmpCommunityText->text(); },
-             "The SNMP community name cannot contain \"-\"."},
-            {"Address",
-             [&] {
-                 click(m_c->snmpCommunityCheck);
-                 type(m_c->printerIPAddressText, "printer 1");
-             },
-             [&] { return m_c->printerIPAddressText->text(); },
-             "The IP address of the printer must be an IPv4 or IPv6 address, or a host name of at "
-             "most 174 characters."},
-            {"List",
-             [&] {
-                 type(m_c->printerIPAddressText, "printer-1");
-                 m_window->colorProfileTableViewDataSource()->setElementsArray(colorProfiles);
-             },
-             [&] {
-                 return m_window->colorProfileTableViewDataSource()->getElementsArray().join(',');
-             },
-             "The list \"Color profile\" holds more than 30 entries."},
-        };
+    // What is entered, what the window then shows of it, the alert.
+    using Enter = std::function<void()>;
+    using Shown = std::function<QString()>;
+    const std::tuple<const char *, Enter, Shown, QString> cases[] = {
+        {"MacByteCleared", [&] { erase(m_c->macAddressText1); },
+         [&] { return m_c->macAddressText1->text() + m_c->macAddressText2->text(); },
+         "The MAC address of the printer is incomplete: each of its six bytes needs two "
+         "hexadecimal digits (0-9, A-F)."},
+        {"CommunityCharacter",
+         [&] {
+             type(m_c->macAddressText1, "0a");
+             click(m_c->snmpCommunityCheck);
+             m_c->snmpCommunityText->setText("bad-char");
+         },
+         [&] { return m_c->snmpCommunityText->text(); },
+         "The SNMP community name cannot contain \"-\"."},
+        {"Address",
+         [&] {
+             click(m_c->snmpCommunityCheck);
+             type(m_c->printerIPAddressText, "printer 1");
+         },
+         [&] { return m_c->printerIPAddressText->text(); },
+         "The IP address of the printer must be an IPv4 or IPv6 address, or a host name of at "
+         "most 174 characters."},
+        {"List",
+         [&] {
+             type(m_c->printerIPAddressText, "printer-1");
+             m_window->colorProfileTableViewDataSource()->setElementsArray(colorProfiles);
+         },
+         [&] { return m_window->colorProfileTableViewDataSource()->getElementsArray().join(','); },
+         "The list \"Color profile\" holds more than 30 entries."},
+    };
     QSignalSpy terminated(m_window.get(), &Controller::applicationShouldTerminate);
     const QByteArray before = CupsServerEnvironment::server().queuePpd("Fresh");
     for (const auto &[what, enter, shown, alert] : cases) {

@@ -176,20 +176,10 @@ TEST_F(DialogTest, FetchFailureSaysWhy) {
 TEST(SnmpSecurityDialog, OkOnlyForWhatCanBeAsked) {
     using Choice = OVSnmpSecurityDialog::Choice;
     const auto v3 = [](const char *user, const char *auth, const char *priv, const char *privPass) {
-        Choice choice;
-        choice.v3 = true;
-        choice.user = user;
-        choice.authProtocol = "SHA-512";
-        choice.authPassphrase = auth;
-        choice.privProtocol = priv;
-        choice.privPassphrase = privPass;
-        return choice;
+        return Choice{true, user, "SHA-512", priv, auth, privPass};
     };
-    const struct {
-        const char *label;
-        Choice choice;
-        bool beforeFetch, ok;
-    } cases[] = {
+    // The choice, whether the dialog opened before a fetch, whether OK is on.
+    const std::tuple<const char *, Choice, bool, bool> cases[] = {
         {"v1", Choice{}, true, true},
         {"noUser", v3("", "", "", ""), false, false},
         {"userAlone", v3("admin", "", "AES-128", ""), false, true},
@@ -199,20 +189,20 @@ TEST(SnmpSecurityDialog, OkOnlyForWhatCanBeAsked) {
         {"privPassphraseMissing", v3("admin", "12345678", "AES-256", ""), true, false},
         {"authPriv", v3("admin", "12345678", "DES", "12345678"), true, true},
     };
-    for (const auto &c : cases) {
-        SCOPED_TRACE(c.label);
-        OVSnmpSecurityDialog dialog(c.choice, c.beforeFetch ? "asked" : "", nullptr);
+    for (const auto &[label, choice, beforeFetch, enabled] : cases) {
+        SCOPED_TRACE(label);
+        OVSnmpSecurityDialog dialog(choice, beforeFetch ? "asked" : "", nullptr);
         auto *buttons = dialog.findChild<QDialogButtonBox *>();
         QAbstractButton *ok = buttons->buttons().first();
         for (QAbstractButton *button : buttons->buttons())
             if (buttons->buttonRole(button) == QDialogButtonBox::AcceptRole)
                 ok = button;
-        EXPECT_EQ(ok->isEnabled(), c.ok);
+        EXPECT_EQ(ok->isEnabled(), enabled);
         const Choice back = dialog.choice();
-        EXPECT_EQ(back.v3, c.choice.v3);
-        if (c.choice.v3) {
+        EXPECT_EQ(back.v3, choice.v3);
+        if (choice.v3) {
             EXPECT_EQ(QStringList({back.user, back.authProtocol, back.privProtocol}),
-                      QStringList({c.choice.user, "SHA-512", c.choice.privProtocol}));
+                      QStringList({choice.user, "SHA-512", choice.privProtocol}));
         }
     }
 }
@@ -380,17 +370,25 @@ TEST_F(DialogTest, CancelEndsASetUp) {
     EXPECT_TRUE(m_window->messageBar()->actionButton()->isEnabled());
 }
 
+// Runs action (the chooser's start, say) and waits for the chooser to list a server's queues;
+// their names, sorted.
+QStringList listedQueues(OVQueueChooser &chooser, const std::function<void()> &action) {
+    QSignalSpy listed(&chooser, &OVQueueChooser::listed);
+    action();
+    EXPECT_TRUE(listed.wait(30000));
+    QStringList names;
+    for (int row = 0; row < chooser.queueTable()->model()->rowCount(); ++row)
+        names << chooser.queueTable()->model()->index(row, 0).data().toString();
+    names.sort();
+    return names;
+}
+
 // The chooser preselects the server's default queue, else the first set-up
 // one, and says when the filter matches nothing.
 TEST_F(DialogTest, ChooserPreselectsAndSaysWhenNothingMatches) {
-    const auto openChooser = [](OVQueueChooser &chooser) {
-        QSignalSpy listed(&chooser, &OVQueueChooser::listed);
-        chooser.start();
-        EXPECT_TRUE(listed.wait(30000));
-    };
     {
         OVQueueChooser chooser;
-        openChooser(chooser);
+        listedQueues(chooser, [&] { chooser.start(); });
         const QAbstractItemModel *rows = chooser.queueTable()->model();
         QString firstSetUp;
         for (int row = rows->rowCount() - 1; row >= 0; --row)
@@ -410,7 +408,7 @@ TEST_F(DialogTest, ChooserPreselectsAndSaysWhenNothingMatches) {
     }
     ASSERT_TRUE(CupsServerEnvironment::server().lpadmin({"-d", "Plain"}));
     OVQueueChooser chooser;
-    openChooser(chooser);
+    listedQueues(chooser, [&] { chooser.start(); });
     EXPECT_EQ(chooser.chosenQueue(), "Plain");
 }
 
@@ -422,16 +420,6 @@ TEST_F(DialogTest, ChooserConnectsToAnotherServerAndRemembersIt) {
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, home.path());
     CupsServer other(QStringLiteral(ORVO_PPD_UPDATE_FILTER), {.clientsUseIt = false});
     ASSERT_TRUE(other.isRunning() && other.addQueue("Remote") && other.addQueue("Annex"));
-    const auto listedQueues = [](OVQueueChooser &chooser, const std::function<void()> &action) {
-        QSignalSpy listed(&chooser, &OVQueueChooser::listed);
-        action();
-        EXPECT_TRUE(listed.wait(30000));
-        QStringList names;
-        for (int row = 0; row < chooser.queueTable()->model()->rowCount(); ++row)
-            names << chooser.queueTable()->model()->index(row, 0).data().toString();
-        names.sort();
-        return names;
-    };
     {
         OVQueueChooser chooser;
         EXPECT_TRUE(listedQueues(chooser, [&] { chooser.start(); }).contains("Office"));
