@@ -25,10 +25,8 @@ CommandLineRun cli(const QStringList &arguments, const QByteArray &input = {}) {
 // One run: its exit code and a text it shows.
 void check(const QStringList &arguments, int exit, const QByteArray &expected,
            const QByteArray &input = {}) {
-    SCOPED_TRACE(arguments.join(' ').left(120).toStdString());
-    const CommandLineRun run = cli(arguments, input);
-    EXPECT_EQ(run.exit, exit);
-    EXPECT_TRUE(run.shown.contains(expected)) << run.shown.toStdString();
+    EXPECT_TRUE(cli(arguments, input).endedWith(exit, expected))
+        << arguments.join(' ').left(120).toStdString();
 }
 
 // Names any user who may print can store, and how text output shows them:
@@ -357,8 +355,7 @@ TEST(CommandLine, FetchEndsAtItsTimeoutWhenThePrinterFallsSilent) {
         });
     EXPECT_TRUE(answered);
     EXPECT_LT(elapsed.elapsed(), 12000);
-    EXPECT_EQ(run.exit, 5) << run.shown.toStdString();
-    EXPECT_TRUE(run.shown.contains("did not answer")) << run.shown.toStdString();
+    EXPECT_TRUE(run.endedWith(5, "did not answer"));
 }
 
 // Whether any process's argument list, which every user can read, holds text.
@@ -406,8 +403,7 @@ TEST(CommandLine, SnmpV3PassphrasesStaySecret) {
                                P::kPrivUser,     "--snmp-priv", "AES-128"};
     const CommandLineRun fromFile(ORVO_CLI, fetch + QStringList{"--snmp-secrets", secrets}, {},
                                   watch);
-    EXPECT_EQ(fromFile.exit, 0) << fromFile.shown.toStdString();
-    EXPECT_TRUE(fromFile.shown.contains("macAddress: 00:11:22:aa:bb:cc"));
+    EXPECT_TRUE(fromFile.endedWith(0, "macAddress: 00:11:22:aa:bb:cc"));
     check({"fetch", "--address", P::loopbackAddress()}, 5, "the SNMP community may be wrong");
     QFile::setPermissions(secrets, QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup);
     check(fetch + QStringList{"--snmp-secrets", secrets}, 2, "readable by you alone (chmod 600)");
@@ -418,8 +414,7 @@ TEST(CommandLine, SnmpV3PassphrasesStaySecret) {
     qputenv(OVSnmpSecrets::authName, P::kAuthPassphrase);
     qputenv(OVSnmpSecrets::privName, wrongPassphrase);
     const CommandLineRun wrong(ORVO_CLI, fetch, {}, watch);
-    EXPECT_EQ(wrong.exit, 5);
-    EXPECT_TRUE(wrong.shown.contains("the SNMPv3 privacy passphrase may be wrong"));
+    EXPECT_TRUE(wrong.endedWith(5, "the SNMPv3 privacy passphrase may be wrong"));
     EXPECT_TRUE(wrong.shown.contains("SNMP request to")) << "the log is on";
     EXPECT_FALSE(leaks(wrong.shown)) << wrong.shown.toStdString();
     qputenv(OVSnmpSecrets::privName, P::kPrivPassphrase);

@@ -132,11 +132,9 @@ protected:
 // Every command that reads the queue says it is damaged, and names the repair.
 void saidDamaged(const QString &queue) {
     EXPECT_EQ(OVQueueSetup::state(queue), State::Damaged);
-    const CommandLineRun shown = cli({"show", queue});
-    EXPECT_EQ(shown.exit, 1);
-    EXPECT_TRUE(shown.shown.contains("is damaged: repair it with: "
-                                     "orvo-printer-utility-cli setup --repair"))
-        << shown.shown.toStdString();
+    EXPECT_TRUE(cli({"show", queue})
+                    .endedWith(1, "is damaged: repair it with: orvo-printer-utility-cli setup "
+                                  "--repair"));
     EXPECT_TRUE(cli({"setup", queue}).shown.contains("is damaged"));
     const CommandLineRun list = cli({"list"});
     const QList<QByteArray> listed = list.shown.split('\n');
@@ -193,8 +191,7 @@ TEST_F(QueueRepair, WithoutADriverTheRepairNamesTheCommandThatGivesOne) {
     ASSERT_TRUE(m_cups.addQueue("Own", m_cups.outputPath("own.ppd")));
     damage("Own", damages[0]);
     const CommandLineRun run = cli({"setup", "--repair", "Own"});
-    EXPECT_EQ(run.exit, 1);
-    EXPECT_TRUE(run.shown.contains("no driver on the server has the queue's make and model"));
+    EXPECT_TRUE(run.endedWith(1, "no driver on the server has the queue's make and model"));
     EXPECT_TRUE(run.shown.contains("lpadmin -p Own -m DRIVER")) << run.shown.toStdString();
 }
 
