@@ -25,10 +25,8 @@ CommandLineRun cli(const QStringList &arguments, const QByteArray &input = {}) {
 // One run: its exit code and a text it shows.
 void check(const QStringList &arguments, int exit, const QByteArray &expected,
            const QByteArray &input = {}) {
-    SCOPED_TRACE(arguments.join(' ').left(120).toStdString());
-    const CommandLineRun run = cli(arguments, input);
-    EXPECT_EQ(run.exit, exit);
-    EXPECT_TRUE(run.shown.contains(expected)) << run.shown.toStdString();
+    EXPECT_TRUE(cli(arguments, input).endedWith(exit, expected))
+        << arguments.join(' ').left(120).toStdString();
 }
 
 // Names any user who may print can store, and how text output shows them:
@@ -45,11 +43,6 @@ const std::pair<QString, QByteArray> kStoredNames[] = {
     {QStringLiteral("line\u2028paragraph\u2029\uFEFFend"), "line\\u2028paragraph\\u2029\\ufeffend"},
 };
 
-// The sample PPD without its set-up line: a queue that prints but is not set up.
-QByteArray notSetUp(const QByteArray &ppd) {
-    return QByteArray(ppd).replace("*OrvoSettingsUpdate: \"Accepted\"\n", "");
-}
-
 TEST(CommandLine, QueueAndPpdCommands) {
     QTemporaryDir dir;
     const QByteArray ppd = CupsServer::readFile(CupsServer::samplePpdPath());
@@ -59,13 +52,11 @@ TEST(CommandLine, QueueAndPpdCommands) {
     };
     CupsServer &server = CupsServerEnvironment::server();
     ASSERT_TRUE(server.addQueue("orvo"));
-    ASSERT_TRUE(server.addQueue("plain", variant("plain.ppd", notSetUp(ppd))));
+    ASSERT_TRUE(server.addQueue("plain", CupsServerEnvironment::notSetUpPpd(dir)));
     // Servers whose update job route leads to a filter that fails on the job, or to one that
     // completes it without storing anything.
-    CupsServer::Options elsewhere;
-    elsewhere.clientsUseIt = false;
-    CupsServer failing("/usr/lib/cups/filter/pdftopdf", elsewhere);
-    CupsServer forgetful("/usr/lib/cups/filter/gziptoany", elsewhere);
+    CupsServer failing("/usr/lib/cups/filter/pdftopdf", {.clientsUseIt = false});
+    CupsServer forgetful("/usr/lib/cups/filter/gziptoany", {.clientsUseIt = false});
     ASSERT_TRUE(failing.addQueue("orvo") && forgetful.addQueue("orvo"));
     QStringList tooManyProfiles{"save", "orvo"};
     QJsonArray names; // each fits, all together do not fit in one job
@@ -177,11 +168,7 @@ TEST(CommandLine, UnknownHostIsAUsageError) {
 // What each command takes: the version, options only where they act, one documented spelling
 // with the older one as an alias, and arguments checked before anything is sent.
 TEST(CommandLine, OptionsActWhereTheyAreListed) {
-    const struct {
-        QStringList arguments;
-        int exit;
-        QByteArray shown;
-    } runs[] = {
+    const std::tuple<QStringList, int, QByteArray> runs[] = {
         {{"--version"}, 0, "orvo-printer-utility-cli " ORVO_VERSION "\n"},
         {{"ppd", "-h", "127.0.0.1", CupsServer::samplePpdPath()}, 2, "Unknown option 'h'"},
         {{"ppd", "--timeout", "5", CupsServer::samplePpdPath()}, 2, "Unknown option 'timeout'"},
@@ -197,13 +184,9 @@ TEST(CommandLine, OptionsActWhereTheyAreListed) {
         check(arguments, exit, shown);
     // Both spellings of an option set the same thing.
     ASSERT_TRUE(CupsServerEnvironment::server().addQueue("spelled"));
-    const struct {
-        QString mac, router, address;
-        bool overRouter;
-    } spellings[] = {
+    const std::tuple<QString, QString, QString, bool> spellings[] = {
         {"--mac-address", "--over-router", "00:11:22:33:44:01", true},
-        {"--macAddress", "--overRouter", "00:11:22:33:44:02", false},
-    };
+        {"--macAddress", "--overRouter", "00:11:22:33:44:02", false}};
     for (const auto &[mac, router, address, overRouter] : spellings) {
         ASSERT_EQ(cli({"save", "spelled", "--wake-on-lan", "yes", mac, address, router,
                        overRouter ? "yes" : "no"})
@@ -275,33 +258,21 @@ TEST(CommandLine, ShowNamesTheLinesItIgnored) {
 // Setting up needs a server that knows the update job's format and an administrator; without
 // either the queue stays as it was.
 TEST(CommandLine, SetupRefusalsLeaveTheQueueAsItWas) {
-    struct Refusal {
+    const struct {
         const char *what;
         bool typesFile, password, installedHere;
-        QStringList user;
+        const char *user; // null: root
         int exit;
         const char *message;
-    };
-    const Refusal refusals[] = {
-        {"NoTypesFile", false, false, false, {}, 1, "install the Orvo Printer Utility"},
-        {"InstalledButNotRead",
-         false,
-         false,
-         true,
-         {},
-         1,
+    } refusals[] = {
+        {"NoTypesFile", false, false, false, nullptr, 1, "install the Orvo Printer Utility"},
+        {"InstalledButNotRead", false, false, true, nullptr, 1,
          "has not read the utility's MIME files installed on this machine: reload CUPS"},
-        {"NoPassword",
-         true,
-         true,
-         false,
-         {"-U", "alice"},
-         7,
+        {"NoPassword", true, true, false, "alice", 7,
          "refused alice: changing a queue needs a print administrator"},
     };
     QTemporaryDir dir;
-    const QString plain = dir.filePath("plain.ppd");
-    CupsServer::writeFile(plain, notSetUp(CupsServer::readFile(CupsServer::samplePpdPath())));
+    const QString plain = CupsServerEnvironment::notSetUpPpd(dir);
     // The utility's filter and MIME files installed where this machine's CUPS reads them.
     QDir(dir.path()).mkpath("data/mime");
     QDir(dir.path()).mkpath("bin/filter");
@@ -311,17 +282,17 @@ TEST(CommandLine, SetupRefusalsLeaveTheQueueAsItWas) {
     QFile::copy(ORVO_PPD_UPDATE_FILTER, dir.filePath("bin/filter/orvo-ppd-update"));
     for (const auto &[what, typesFile, password, installedHere, user, exit, message] : refusals) {
         SCOPED_TRACE(what);
-        CupsServer::Options options;
-        options.clientsUseIt = false;
-        options.typesPath = typesFile ? options.typesPath : QString();
-        options.adminNeedsPassword = password;
-        CupsServer server(QStringLiteral(ORVO_PPD_UPDATE_FILTER), options);
+        CupsServer server(QStringLiteral(ORVO_PPD_UPDATE_FILTER),
+                          {.typesPath = typesFile ? ORVO_TYPES_FILE : "",
+                           .clientsUseIt = false,
+                           .adminNeedsPassword = password});
         ASSERT_TRUE(server.isRunning() && server.addQueue("plain", plain));
         const QByteArray before = server.queuePpd("plain");
         qputenv("CUPS_DATADIR", dir.filePath(installedHere ? "data" : "none").toUtf8());
         qputenv("CUPS_SERVERBIN", dir.filePath("bin").toUtf8());
-        check(QStringList{"setup", "-h", server.address()} + user + QStringList{"plain"}, exit,
-              message);
+        check(QStringList{"setup", "-h", server.address()} +
+                  (user ? QStringList{"-U", user} : QStringList()) + QStringList{"plain"},
+              exit, message);
         qunsetenv("CUPS_DATADIR");
         qunsetenv("CUPS_SERVERBIN");
         EXPECT_EQ(server.queuePpd("plain"), before);
@@ -354,12 +325,7 @@ TEST(CommandLine, FetchesFromTheSimulatedPrinter) {
     EXPECT_EQ(QJsonDocument::fromJson(cli({"show", "--json", "fetched"}).shown)["sharedFolders"],
               fetched["sharedFolders"]);
     // Each failure names the step and its reason, and prints nothing fetched.
-    const struct {
-        QByteArray oid;
-        P::Value value;
-        int exit;
-        const char *message;
-    } failures[] = {
+    const std::tuple<QByteArray, P::Value, int, const char *> failures[] = {
         {P::kMacAddress, QByteArray("00:11:22:aa:bb:cc\x1b[2J\n"), 9,
          "answered the MAC address query with data that cannot be read: a MAC address that is "
          "not six two-digit hexadecimal octets\n"},
@@ -369,17 +335,15 @@ TEST(CommandLine, FetchesFromTheSimulatedPrinter) {
         {P::stateOid(P::Table::ColorProfile, 30), QByteArray("\xff"), 9,
          "answered the colour profiles query with data that cannot be read: a text where a "
          "number belongs\n"},
-        {P::nameOid(P::Table::Form, 50),
-         {},
-         9,
+        {P::nameOid(P::Table::Form, 50), P::Value(), 9,
          "answered the forms query with an error: (noSuchName)"},
         {"silent", 1L, 5,
          "did not answer (MAC address); the address or the SNMP community may be wrong\n"},
     };
-    for (const auto &f : failures) {
+    for (const auto &[oid, value, exit, message] : failures) {
         printer.setDefaults();
-        printer.set(f.oid, f.value);
-        check({"fetch", "--address", address}, f.exit, f.message);
+        printer.set(oid, value);
+        check({"fetch", "--address", address}, exit, message);
     }
 }
 
@@ -401,8 +365,7 @@ TEST(CommandLine, FetchEndsAtItsTimeoutWhenThePrinterFallsSilent) {
         });
     EXPECT_TRUE(answered);
     EXPECT_LT(elapsed.elapsed(), 12000);
-    EXPECT_EQ(run.exit, 5) << run.shown.toStdString();
-    EXPECT_TRUE(run.shown.contains("did not answer")) << run.shown.toStdString();
+    EXPECT_TRUE(run.endedWith(5, "did not answer"));
 }
 
 // Whether any process's argument list, which every user can read, holds text.
@@ -450,8 +413,7 @@ TEST(CommandLine, SnmpV3PassphrasesStaySecret) {
                                P::kPrivUser,     "--snmp-priv", "AES-128"};
     const CommandLineRun fromFile(ORVO_CLI, fetch + QStringList{"--snmp-secrets", secrets}, {},
                                   watch);
-    EXPECT_EQ(fromFile.exit, 0) << fromFile.shown.toStdString();
-    EXPECT_TRUE(fromFile.shown.contains("macAddress: 00:11:22:aa:bb:cc"));
+    EXPECT_TRUE(fromFile.endedWith(0, "macAddress: 00:11:22:aa:bb:cc"));
     check({"fetch", "--address", P::loopbackAddress()}, 5, "the SNMP community may be wrong");
     QFile::setPermissions(secrets, QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup);
     check(fetch + QStringList{"--snmp-secrets", secrets}, 2, "readable by you alone (chmod 600)");
@@ -462,8 +424,7 @@ TEST(CommandLine, SnmpV3PassphrasesStaySecret) {
     qputenv(OVSnmpSecrets::authName, P::kAuthPassphrase);
     qputenv(OVSnmpSecrets::privName, wrongPassphrase);
     const CommandLineRun wrong(ORVO_CLI, fetch, {}, watch);
-    EXPECT_EQ(wrong.exit, 5);
-    EXPECT_TRUE(wrong.shown.contains("the SNMPv3 privacy passphrase may be wrong"));
+    EXPECT_TRUE(wrong.endedWith(5, "the SNMPv3 privacy passphrase may be wrong"));
     EXPECT_TRUE(wrong.shown.contains("SNMP request to")) << "the log is on";
     EXPECT_FALSE(leaks(wrong.shown)) << wrong.shown.toStdString();
     qputenv(OVSnmpSecrets::privName, P::kPrivPassphrase);

@@ -104,17 +104,12 @@ TEST(FaultInjection, StoppedServerAndPausedQueue) {
     ::kill(pid_t(server.pid()), SIGSTOP);
     for (const QStringList &arguments :
          {QStringList{"show", "--timeout", "2", "Office"}, save(1, 2)}) {
-        const CommandLineRun run = cli(arguments);
-        EXPECT_TRUE(run.finished);
-        EXPECT_EQ(run.exit, 3);
-        EXPECT_TRUE(run.shown.contains("did not answer in time")) << run.shown.toStdString();
+        EXPECT_TRUE(cli(arguments).endedWith(3, "did not answer in time"));
     }
     ::kill(pid_t(server.pid()), SIGCONT);
     // A save to a paused queue waits there and is applied once the queue runs again.
     ASSERT_EQ(SpawnedProcess::execute("cupsdisable", {"-h", server.address(), "Office"}), 0);
-    const CommandLineRun queued = cli(save(2, 2));
-    EXPECT_EQ(queued.exit, 8);
-    EXPECT_TRUE(queued.shown.contains("may still be applied when the queue runs"));
+    EXPECT_TRUE(cli(save(2, 2)).endedWith(8, "may still be applied when the queue runs"));
     ASSERT_EQ(SpawnedProcess::execute("cupsenable", {"-h", server.address(), "Office"}), 0);
     EXPECT_TRUE(QTest::qWaitFor(
         [&] { return server.queuePpd("Office").contains("*PSFormName0_Part1: \"Rm9ybSAy\""); },
@@ -264,16 +259,10 @@ TEST(FaultInjection, PpdFolderWithoutRoom) {
     QStringList arguments{"save", "Office"};
     for (int i = 0; i < 100; ++i)
         arguments << "--forms" << QString(150, QChar('a' + i % 26));
-    const CommandLineRun run = cli(arguments);
-    EXPECT_TRUE(run.finished);
-    EXPECT_EQ(run.exit, 1);
-    EXPECT_TRUE(run.shown.contains("is damaged after the save: repair it with: "
-                                   "orvo-printer-utility-cli setup --repair Office"))
-        << run.shown.toStdString();
+    EXPECT_TRUE(cli(arguments).endedWith(1, "is damaged after the save: repair it with: "
+                                            "orvo-printer-utility-cli setup --repair Office"));
     // The cut PPD still opens and reads as the defaults: show must not present them as stored.
-    const CommandLineRun shown = cli({"show", "Office"});
-    EXPECT_EQ(shown.exit, 1);
-    EXPECT_TRUE(shown.shown.contains("is damaged")) << shown.shown.toStdString();
+    EXPECT_TRUE(cli({"show", "Office"}).endedWith(1, "is damaged"));
     EXPECT_EQ(cli({"setup", "Office"}).exit, 1);
 }
 

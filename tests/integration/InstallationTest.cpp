@@ -2,7 +2,7 @@
 // private cupsd running the installed filter, saved and shown by the installed command line;
 // and a private cupsd that started before the install, reloaded as the package has it.
 #include "CommandLineRun.h"
-#include "CupsServer.h"
+#include "CupsServerEnvironment.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -53,9 +53,7 @@ TEST(Installation, SaveAndShowThroughTheInstalledFiles) {
     }
     EXPECT_TRUE(run("man", {"-l", installed(files[3].first)}).contains("NAME"));
 
-    CupsServer::Options options;
-    options.typesPath = installed(files[4].first);
-    CupsServer server(installed(files[1].first), options);
+    CupsServer server(installed(files[1].first), {.typesPath = installed(files[4].first)});
     ASSERT_TRUE(server.isRunning());
     ASSERT_TRUE(server.addQueue("orvo", installed("/usr/share/ppd/orvo/orvo-printer.ppd")));
     const QString cli = installed("/usr/bin/orvo-printer-utility-cli");
@@ -73,24 +71,17 @@ TEST(Installation, SaveAndShowThroughTheInstalledFiles) {
 // setup works with no other step.
 TEST(Installation, ARunningServerTakesTheMimeFilesWhenItReloads) {
     const Staging installed;
-    CupsServer::Options options;
-    options.typesPath.clear();
-    CupsServer server(installed("/usr/lib/cups/filter/orvo-ppd-update"), options);
+    CupsServer server(installed("/usr/lib/cups/filter/orvo-ppd-update"), {.typesPath = {}});
     ASSERT_TRUE(server.isRunning());
     QTemporaryDir dir;
-    const QString plain = dir.filePath("plain.ppd");
-    CupsServer::writeFile(plain, CupsServer::readFile(CupsServer::samplePpdPath())
-                                     .replace("*OrvoSettingsUpdate: \"Accepted\"\n", ""));
-    ASSERT_TRUE(server.addQueue("plain", plain));
+    ASSERT_TRUE(server.addQueue("plain", CupsServerEnvironment::notSetUpPpd(dir)));
     qputenv("CUPS_DATADIR", installed("/usr/share/cups").toUtf8());
     qputenv("CUPS_SERVERBIN", installed("/usr/lib/cups").toUtf8());
     const QString cli = installed("/usr/bin/orvo-printer-utility-cli");
-    const CommandLineRun refused(cli, {"setup", "plain"});
-    EXPECT_EQ(refused.exit, 1);
-    EXPECT_TRUE(refused.shown.contains("reload CUPS so that it reads " +
-                                       installed("/usr/share/cups/mime/").toUtf8() +
-                                       "orvo-printer-utility.types"))
-        << refused.shown.toStdString();
+    EXPECT_TRUE(CommandLineRun(cli, {"setup", "plain"})
+                    .endedWith(1, "reload CUPS so that it reads " +
+                                      installed("/usr/share/cups/mime/").toUtf8() +
+                                      "orvo-printer-utility.types"));
     for (const char *file : {"orvo-printer-utility.types", "orvo-printer-utility.convs"})
         ASSERT_TRUE(QFile::copy(installed("/usr/share/cups/mime/") + file, server.mimePath(file)));
     ASSERT_EQ(kill(pid_t(server.pid()), SIGHUP), 0);

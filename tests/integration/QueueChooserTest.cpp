@@ -9,7 +9,6 @@
 #include "OVChooserTexts.h"
 #include "OVMessageBar.h"
 #include "OVPasswordPrompt.h"
-#include "OVPrinterUtilityHelper.h"
 #include "OVPrinterUtilityWindowController.h"
 #include "OVQueueChooser.h"
 #include "OVQueueSetup.h"
@@ -26,7 +25,6 @@
 #include <QTableView>
 #include <QTemporaryDir>
 #include <QTest>
-#include <QTranslator>
 
 #include <gtest/gtest.h>
 
@@ -42,12 +40,7 @@ using namespace std::chrono_literals;
 
 // A PPD of another model that is not set up for the utility.
 QString plainPpd(const QTemporaryDir &dir) {
-    const QString path = dir.filePath("plain.ppd");
-    CupsServer::writeFile(
-        path, CupsServer::readFile(CupsServer::samplePpdPath())
-                  .replace("*OrvoSettingsUpdate: \"Accepted\"\n", "")
-                  .replace("*NickName: \"Orvo Printer\"", "*NickName: \"Lab Colour Laser\""));
-    return path;
+    return CupsServerEnvironment::notSetUpPpd(dir, "Lab Colour Laser");
 }
 
 // cupsd checks a print administrator's password through PAM against the
@@ -95,14 +88,6 @@ void warmUp() {
     QTest::qWait(50);
 }
 
-int jobCount(const QString &queue) {
-    cups_job_t *jobs = nullptr;
-    const int count =
-        cupsGetJobs2(CUPS_HTTP_DEFAULT, &jobs, queue.toUtf8().constData(), 0, CUPS_WHICHJOBS_ALL);
-    cupsFreeJobs(count, jobs);
-    return count;
-}
-
 QStringList column(const QTableView *table, int column) {
     QStringList cells;
     for (int row = 0; row < table->model()->rowCount(); ++row)
@@ -120,11 +105,9 @@ protected:
                     cups.lpadmin({"-p", "Gamma", "-D", "Lab on the second floor\u202E"}));
         // A second server whose queue changes need an administrator's
         // password, with exactly one queue set up.
-        CupsServer::Options options;
-        options.clientsUseIt = false;
-        options.adminNeedsPassword = true;
-        s_withPassword =
-            std::make_unique<CupsServer>(QStringLiteral(ORVO_PPD_UPDATE_FILTER), options);
+        s_withPassword = std::make_unique<CupsServer>(
+            QStringLiteral(ORVO_PPD_UPDATE_FILTER),
+            CupsServer::Options{.clientsUseIt = false, .adminNeedsPassword = true});
         ASSERT_TRUE(s_withPassword->isRunning() && s_withPassword->addQueue("Only") &&
                     s_withPassword->addQueue("Plain", plainPpd(dir)));
     }
@@ -300,6 +283,7 @@ TEST_F(WindowOnServerTest, ADamagedPpdIsRepairedFromTheBar) {
     const OVMessageBar *bar = m_window->messageBar();
     ASSERT_TRUE(bar->isVisible());
     EXPECT_TRUE(bar->text().startsWith("The PPD of the print queue \"Echo\" is damaged"));
+    // Its mnemonic aside, which follows the text when other controls hold each of its letters.
     EXPECT_EQ(OVChooserTexts::withoutMnemonic(bar->actionButton()->text()), "Repair\u2026");
     EXPECT_EQ(m_window->formTableViewDataSource()->getElementsArray(), QStringList());
     EXPECT_FALSE(ok());
@@ -322,14 +306,15 @@ TEST_F(WindowOnServerTest, AQueueThatIsNotSetUpIsSetUpFromTheBar) {
     EXPECT_TRUE(bar->text().startsWith("The print queue \"Delta\" is not set up"));
     EXPECT_EQ(OVChooserTexts::withoutMnemonic(bar->actionButton()->text()), "Set Up\u2026");
     m_window->formTableViewDataSource()->setElementsArray(QStringList{"Invoice"});
+    const int jobsBefore = server.lastJob();
     EXPECT_FALSE(ok());
     EXPECT_EQ(m_alerts, QStringList{bar->text()});
-    EXPECT_EQ(jobCount("Delta"), 0);
+    EXPECT_EQ(server.lastJob(), jobsBefore);
     ASSERT_TRUE(setUpFromTheBar());
     EXPECT_TRUE(ok());
     EXPECT_TRUE(server.queuePpd("Delta").contains("*PSFormName0_Part1: \"" +
                                                   QByteArray("Invoice").toBase64() + '"'));
-    EXPECT_EQ(jobCount("Delta"), 1);
+    EXPECT_EQ(server.lastJob(), jobsBefore + 1);
 }
 
 // Without the server the window shows its defaults and OK will not save them over the
@@ -353,9 +338,7 @@ TEST_F(WindowOnServerTest, AServerThatCannotBeReachedKeepsTheStoredSettings) {
 // A queue whose filter fails ends the update job unsaved: the window says so and keeps
 // what the user set, so that OK can be tried again.
 TEST_F(WindowOnServerTest, ASaveThatDoesNotArriveKeepsTheWindowOpen) {
-    CupsServer::Options options;
-    options.clientsUseIt = false;
-    CupsServer failing(QStringLiteral("/bin/false"), options);
+    CupsServer failing(QStringLiteral("/bin/false"), {.clientsUseIt = false});
     ASSERT_TRUE(failing.isRunning() && failing.addQueue("Office") &&
                 failing.lpadmin({"-p", "Office", "-o", "printer-error-policy=abort-job"}));
     useServer(failing.address());
@@ -401,20 +384,19 @@ TEST_F(QueueChooserTest, PasswordPromptAnswersTheServer) {
     useServer(server.address());
     const QByteArray before = server.queuePpd("Plain");
     OVPasswordPrompt prompt;
-    struct Case {
+    const struct {
         const char *what;
         const char *user, *password;
         bool cancel;
         int asked;
         OVQueueSetup::Outcome outcome;
-    };
-    const Case cases[] = {
+    } cases[] = {
         {"Cancel", "nobody", "wrong", true, 1, OVQueueSetup::Outcome::NotAuthorized},
         {"Refused", "nobody", "wrong", false, 3, OVQueueSetup::Outcome::NotAuthorized},
         {"Accepted", administratorName, administratorPassword, false, 1,
          OVQueueSetup::Outcome::Changed},
     };
-    for (const Case &c : cases) {
+    for (const auto &c : cases) {
         SCOPED_TRACE(c.what);
         QStringList texts;
         const auto answer =
@@ -453,17 +435,6 @@ TEST_F(QueueChooserTest, PasswordPromptAnswersTheServer) {
     // The other tests want the queue as it was.
     QTemporaryDir dir;
     EXPECT_TRUE(server.lpadmin({"-p", "Plain", "-P", plainPpd(dir)}));
-}
-
-// Every text of the chooser and the prompt has a translation in every shipped language.
-TEST(ChooserTexts, EveryLanguageHasEveryKey) {
-    for (const QString &folder : OVPrinterUtilityHelper::shippedLocalizations()) {
-        QTranslator table;
-        ASSERT_TRUE(table.load(":/" + folder + "/Localizable.qm"));
-        for (const char *key : OVChooserTexts::localizedKeys)
-            EXPECT_FALSE(table.translate("Localizable", key).isEmpty())
-                << folder.toStdString() << " lacks " << key;
-    }
 }
 
 } // namespace

@@ -73,9 +73,8 @@ const Damage damages[] = {
 class QueueRepair : public ::testing::Test {
 protected:
     void SetUp() override {
-        CupsServer::Options second;
-        second.clientsUseIt = false;
-        m_remote = std::make_unique<CupsServer>(QStringLiteral(ORVO_PPD_UPDATE_FILTER), second);
+        m_remote = std::make_unique<CupsServer>(QStringLiteral(ORVO_PPD_UPDATE_FILTER),
+                                                CupsServer::Options{.clientsUseIt = false});
         ASSERT_TRUE(m_cups.isRunning() && m_remote->isRunning());
         ASSERT_TRUE(m_remote->addQueue("Remote", CupsServer::samplePpdPath(),
                                        "file:" + m_remote->outputPath("device")));
@@ -133,11 +132,9 @@ protected:
 // Every command that reads the queue says it is damaged, and names the repair.
 void saidDamaged(const QString &queue) {
     EXPECT_EQ(OVQueueSetup::state(queue), State::Damaged);
-    const CommandLineRun shown = cli({"show", queue});
-    EXPECT_EQ(shown.exit, 1);
-    EXPECT_TRUE(shown.shown.contains("is damaged: repair it with: "
-                                     "orvo-printer-utility-cli setup --repair"))
-        << shown.shown.toStdString();
+    EXPECT_TRUE(cli({"show", queue})
+                    .endedWith(1, "is damaged: repair it with: orvo-printer-utility-cli setup "
+                                  "--repair"));
     EXPECT_TRUE(cli({"setup", queue}).shown.contains("is damaged"));
     const CommandLineRun list = cli({"list"});
     const QList<QByteArray> listed = list.shown.split('\n');
@@ -149,11 +146,7 @@ void saidDamaged(const QString &queue) {
 TEST_F(QueueRepair, DamagedPpdsAreNamedAndRepairedWithTheirReadableSettings) {
     const QString pxlmono = driverNamed("pxlmono.ppd");
     ASSERT_FALSE(pxlmono.isEmpty());
-    const struct {
-        const char *what;
-        QString driver;
-        QList<Damage> damages;
-    } queues[] = {
+    const std::tuple<const char *, QString, QList<Damage>> queues[] = {
         {"Driver", pxlmono, {std::begin(damages), std::end(damages)}},
         {"PostScript", "drv:///sample.drv/generic.ppd", {std::begin(damages), std::end(damages)}},
         // Each job to the second server takes the ipp backend seconds: one damage, the worst.
@@ -198,8 +191,7 @@ TEST_F(QueueRepair, WithoutADriverTheRepairNamesTheCommandThatGivesOne) {
     ASSERT_TRUE(m_cups.addQueue("Own", m_cups.outputPath("own.ppd")));
     damage("Own", damages[0]);
     const CommandLineRun run = cli({"setup", "--repair", "Own"});
-    EXPECT_EQ(run.exit, 1);
-    EXPECT_TRUE(run.shown.contains("no driver on the server has the queue's make and model"));
+    EXPECT_TRUE(run.endedWith(1, "no driver on the server has the queue's make and model"));
     EXPECT_TRUE(run.shown.contains("lpadmin -p Own -m DRIVER")) << run.shown.toStdString();
 }
 

@@ -63,8 +63,7 @@ struct Printed {
 
 struct Style {
     const char *what;
-    QString ppd;   // a PPD file, or
-    QString model; // a driver the server has (lpadmin -m); neither: driverless over IPP
+    QString source; // a PPD file, a driver the server has (lpadmin -m), or none: driverless
 };
 
 // Every style of PPD a queue gets: from a driver package (with *cupsFilter lines, foomatic,
@@ -72,46 +71,39 @@ struct Style {
 // CRLF line ends and PJL, CUPS's own generic one), and driverless over IPP to a second server
 // (*cupsFilter2 lines).
 QList<Style> styles() {
+    const QString corpus = ORVO_PPD_CORPUS "/";
     return {
-        {"DriverWithFilters", "/usr/share/ppd/cupsfilters/pxlmono.ppd", {}},
-        {"PdfPassThrough", "/usr/share/ppd/cupsfilters/Generic-PDF_Printer-PDF.ppd", {}},
+        {"DriverWithFilters", "/usr/share/ppd/cupsfilters/pxlmono.ppd"},
+        {"PdfPassThrough", "/usr/share/ppd/cupsfilters/Generic-PDF_Printer-PDF.ppd"},
         {"PostScriptWithoutFilters",
-         ORVO_PPD_CORPUS "/postscript-hp__ppd_hplip_HP_hp-laserjet_4_plus-ps.ppd",
-         {}},
+         corpus + "postscript-hp__ppd_hplip_HP_hp-laserjet_4_plus-ps.ppd"},
         {"OfficePostScriptWithJcl",
-         ORVO_PPD_CORPUS "/openprinting-ppds__ppd_openprinting_Kyocera_de_Kyocera_CS-C2525E_de.ppd",
-         {}},
-        {"GenericPostScript", {}, "drv:///sample.drv/generic.ppd"},
+         corpus + "openprinting-ppds__ppd_openprinting_Kyocera_de_Kyocera_CS-C2525E_de.ppd"},
+        {"GenericPostScript", "drv:///sample.drv/generic.ppd"},
         {"Foomatic",
-         ORVO_PPD_CORPUS
-         "/foomatic-db-compressed-ppds__ppd_foomatic-ppd_Canon-BJC-1000-bjc250gs.ppd",
-         {}},
-        {"Gutenprint", {}, "gutenprint.5.3://escp2-p7000c/expert"},
-        {"Driverless", {}, {}},
+         corpus + "foomatic-db-compressed-ppds__ppd_foomatic-ppd_Canon-BJC-1000-bjc250gs.ppd"},
+        {"Gutenprint", "gutenprint.5.3://escp2-p7000c/expert"},
+        {"Driverless", {}},
     };
 }
 
 TEST(QueueSetup, PrintingAndAccountingStayAsTheyWereWhileQueuesTakeSaves) {
     CupsServer &cups = CupsServerEnvironment::server();
-    CupsServer::Options second;
-    second.clientsUseIt = false;
-    CupsServer remote(QStringLiteral(ORVO_PPD_UPDATE_FILTER), second);
+    CupsServer remote(QStringLiteral(ORVO_PPD_UPDATE_FILTER), {.clientsUseIt = false});
     ASSERT_TRUE(remote.isRunning());
     const QString remoteDevice = remote.outputPath("device");
     ASSERT_TRUE(remote.addQueue("Remote", CupsServer::samplePpdPath(), "file:" + remoteDevice));
     const QString text = cups.outputPath("hello.txt"), postScript = cups.outputPath("hello.ps");
     CupsServer::writeFile(text, "Hello, printer.\n");
     CupsServer::writeFile(postScript, postScriptPage);
-    const struct {
-        QString file;
-        const char *format;
-    } documents[] = {{text, "text/plain"},
-                     {"/usr/share/cups/data/classified.pdf", "application/pdf"},
-                     {postScript, "application/postscript"}};
-    for (const auto &[what, ppd, model] : styles()) {
+    const std::pair<QString, const char *> documents[] = {
+        {text, "text/plain"},
+        {"/usr/share/cups/data/classified.pdf", "application/pdf"},
+        {postScript, "application/postscript"}};
+    for (const auto &[what, source] : styles()) {
         SCOPED_TRACE(what);
         const QString queue = what;
-        const bool driverless = ppd.isEmpty() && model.isEmpty();
+        const bool driverless = source.isEmpty();
         const QString device = driverless ? remoteDevice : cups.outputPath(queue);
         if (driverless) {
             const QString uri = QStringLiteral("ipp://%1/printers/Remote").arg(remote.address());
@@ -125,7 +117,7 @@ TEST(QueueSetup, PrintingAndAccountingStayAsTheyWereWhileQueuesTakeSaves) {
             ASSERT_TRUE(cups.lpadmin({"-p", queue, "-P", cups.outputPath("driverless.ppd")}));
         } else {
             ASSERT_TRUE(cups.lpadmin({"-p", queue, "-E", "-v", "file:" + device,
-                                      ppd.isEmpty() ? "-m" : "-P", ppd.isEmpty() ? model : ppd}));
+                                      source.startsWith('/') ? "-P" : "-m", source}));
         }
         // What reached the device and the accounting, once the job (and the job it
         // forwards) ended.

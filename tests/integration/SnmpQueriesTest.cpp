@@ -188,28 +188,22 @@ TEST(SnmpQueries, FetchStopsAtTheStepThatFailedWithItsReason) {
     using Reason = H::Reason;
     P printer;
     ASSERT_TRUE(printer.start()) << printer.errorText().toStdString();
-    const struct {
-        QByteArray oid;
-        P::Value value;
-        Fetch::Step step;
-        Reason reason;
-    } cases[] = {
-        {P::kMacAddress, QByteArray("00:11:22:aa:bb:cc\n"), Fetch::Step::MacAddress,
-         Reason::Unreadable},
-        {P::kAdminLoginMode, 3L, Fetch::Step::Folders, Reason::Unreadable},
-        {P::nameOid(P::Table::ColorProfile, 30), {}, Fetch::Step::ColorProfiles, Reason::Refused},
-    };
-    for (const auto &c : cases) {
-        SCOPED_TRACE(int(c.step));
+    using S = Fetch::Step;
+    const std::tuple<QByteArray, P::Value, S, Reason> cases[] = {
+        {P::kMacAddress, QByteArray("00:11:22:aa:bb:cc\n"), S::MacAddress, Reason::Unreadable},
+        {P::kAdminLoginMode, 3L, S::Folders, Reason::Unreadable},
+        {P::nameOid(P::Table::ColorProfile, 30), {}, S::ColorProfiles, Reason::Refused}};
+    for (const auto &[oid, value, step, reason] : cases) {
+        SCOPED_TRACE(int(step));
         printer.setDefaults();
-        printer.set(c.oid, c.value);
+        printer.set(oid, value);
         const Fetch::Result result =
             Fetch::fetch({P::loopbackAddress(), kCommunity, std::nullopt}, Fetch::allSteps);
         ASSERT_TRUE(result.failedStep);
-        EXPECT_EQ(result.failedStep->step, c.step);
-        EXPECT_EQ(result.failedStep->failure.reason, c.reason);
-        EXPECT_EQ(result.macAddress.isNull(), c.step == Fetch::Step::MacAddress);
-        EXPECT_EQ(result.adminLoginModeEnabled.has_value(), c.step > Fetch::Step::Folders);
+        EXPECT_EQ(result.failedStep->step, step);
+        EXPECT_EQ(result.failedStep->failure.reason, reason);
+        EXPECT_EQ(result.macAddress.isNull(), step == S::MacAddress);
+        EXPECT_EQ(result.adminLoginModeEnabled.has_value(), step > S::Folders);
         EXPECT_FALSE(result.colorProfiles);
     }
 }
@@ -259,11 +253,7 @@ TEST(SnmpVersion3, AnswersAsVersion1DidAndTellsFaultsApart) {
     EXPECT_NE(overV1.find("00:11:22:aa:bb:cc|Box1,Box3"), std::string::npos) << overV1;
     const std::string wrongDigest =
         "wrong passphrase: the authentication passphrase does not match";
-    const struct {
-        const char *label;
-        OVSnmpCredentials credentials;
-        std::string expected;
-    } cases[] = {
+    const std::tuple<const char *, OVSnmpCredentials, std::string> cases[] = {
         {"v1Off", kCommunity, "MAC address: no answer"},
         {"authPriv", privUser, overV1},
         {"authNoPriv", v3(P::kAuthUser, "SHA-256", P::kAuthPassphrase), overV1},
@@ -285,9 +275,9 @@ TEST(SnmpVersion3, AnswersAsVersion1DidAndTellsFaultsApart) {
         // The engine is remembered: the right passphrase after a wrong one works.
         {"authPrivAgain", privUser, overV1},
     };
-    for (const auto &c : cases) {
-        SCOPED_TRACE(c.label);
-        EXPECT_EQ(fetched(c.credentials), c.expected);
+    for (const auto &[label, credentials, expected] : cases) {
+        SCOPED_TRACE(label);
+        EXPECT_EQ(fetched(credentials), expected);
     }
     // A refused user says the printer is awake, which the wake flow needs to know; a passphrase
     // too short for a key sends nothing.

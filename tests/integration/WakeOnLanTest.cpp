@@ -151,6 +151,7 @@ TEST(WakeOnLan, ReachesAndWakesThePrinter) {
     OVSystemLog::setSink([&](int priority, const QString &line) {
         log << QString("%1 %2").arg(priority).arg(line);
     });
+    const OVSnmpCredentials refused = v3User("not-the-passphrase");
     const struct {
         const char *label, *address, *mac;
         long sleepMode;
@@ -182,19 +183,7 @@ TEST(WakeOnLan, ReachesAndWakesThePrinter) {
         // learns nothing from it, sends the packets, and stops polling at
         // the first refusal.
         {"snmpV3", kV4, kMac, kAsleep, true, true, true, {kV4, kV4}, -1, -1, -1, "", v3User()},
-        {"snmpV3Refused",
-         kV4,
-         kMac,
-         kAsleep,
-         true,
-         true,
-         false,
-         {kV4, kV4},
-         0,
-         15,
-         -1,
-         "",
-         v3User("not-the-passphrase")},
+        {"snmpV3Wrong", kV4, kMac, kAsleep, true, true, false, {kV4, kV4}, 0, 15, -1, "", refused},
     };
     // The packets that reached the printer while `wake` ran in the client namespace, each
     // checked to be the magic packet for `mac`; their destinations, sorted.
@@ -220,13 +209,12 @@ TEST(WakeOnLan, ReachesAndWakesThePrinter) {
         laterMode = c.laterMode;
         log.clear();
         const int before = printer.requestCount();
-        EXPECT_EQ(sent(c.mac,
-                       [&] {
-                           EXPECT_EQ(OVWakeOnLanHelper::SnmpWakeUpOnLan(
-                                         c.address, c.mac, c.snmp, c.isWakeOnLan, c.isOverRouter),
-                                     c.result);
-                       }),
-                  c.destinations);
+        const auto wake = [&] {
+            EXPECT_EQ(OVWakeOnLanHelper::SnmpWakeUpOnLan(c.address, c.mac, c.snmp, c.isWakeOnLan,
+                                                         c.isOverRouter),
+                      c.result);
+        };
+        EXPECT_EQ(sent(c.mac, wake), c.destinations);
         EXPECT_EQ(c.requests < 0 ? -1 : printer.requestCount() - before, c.requests);
         EXPECT_EQ(c.sleptSeconds < 0 ? -1 : sleptSeconds, c.sleptSeconds);
         const QString logged = QString("%1 %2").arg(LOG_ERR).arg(c.logged);

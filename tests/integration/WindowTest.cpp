@@ -292,38 +292,38 @@ TEST_F(WindowTest, CustomCommunityReachesThePrinter) {
 TEST_F(WindowTest, OkRefusesWhatTheSettingsRulesRefuse) {
     open();
     const QStringList colorProfiles = QStringList(31, "Profile");
-    const std::tuple<const char *, std::function<void()>, std::function<QString()>, QString>
-        cases[] = {
-            {"MacByteCleared", [&] { erase(m_c->macAddressText1); },
-             [&] { return m_c->macAddressText1->text() + m_c->macAddressText2->text(); },
-             "The MAC address of the printer is incomplete: each of its six bytes needs two "
-             "hexadecimal digits (0-9, A-F)."},
-            {"CommunityCharacter",
-             [&] {
-                 type(m_c->macAddressText1, "0a");
-                 click(m_c->snmpCommunityCheck);
-                 m_c->snmpCommunityText->setText("bad-char");
-             },
-             [&] { return m_c->snmpCommunityText->text(); },
-             "The SNMP community name cannot contain \"-\"."},
-            {"Address",
-             [&] {
-                 click(m_c->snmpCommunityCheck);
-                 type(m_c->printerIPAddressText, "printer 1");
-             },
-             [&] { return m_c->printerIPAddressText->text(); },
-             "The IP address of the printer must be an IPv4 or IPv6 address, or a host name of at "
-             "most 174 characters."},
-            {"List",
-             [&] {
-                 type(m_c->printerIPAddressText, "printer-1");
-                 m_window->colorProfileTableViewDataSource()->setElementsArray(colorProfiles);
-             },
-             [&] {
-                 return m_window->colorProfileTableViewDataSource()->getElementsArray().join(',');
-             },
-             "The list \"Color profile\" holds more than 30 entries."},
-        };
+    // What is entered, what the window then shows of it, the alert.
+    using Enter = std::function<void()>;
+    using Shown = std::function<QString()>;
+    const std::tuple<const char *, Enter, Shown, QString> cases[] = {
+        {"MacByteCleared", [&] { erase(m_c->macAddressText1); },
+         [&] { return m_c->macAddressText1->text() + m_c->macAddressText2->text(); },
+         "The MAC address of the printer is incomplete: each of its six bytes needs two "
+         "hexadecimal digits (0-9, A-F)."},
+        {"CommunityCharacter",
+         [&] {
+             type(m_c->macAddressText1, "0a");
+             click(m_c->snmpCommunityCheck);
+             m_c->snmpCommunityText->setText("bad-char");
+         },
+         [&] { return m_c->snmpCommunityText->text(); },
+         "The SNMP community name cannot contain \"-\"."},
+        {"Address",
+         [&] {
+             click(m_c->snmpCommunityCheck);
+             type(m_c->printerIPAddressText, "printer 1");
+         },
+         [&] { return m_c->printerIPAddressText->text(); },
+         "The IP address of the printer must be an IPv4 or IPv6 address, or a host name of at "
+         "most 174 characters."},
+        {"List",
+         [&] {
+             type(m_c->printerIPAddressText, "printer-1");
+             m_window->colorProfileTableViewDataSource()->setElementsArray(colorProfiles);
+         },
+         [&] { return m_window->colorProfileTableViewDataSource()->getElementsArray().join(','); },
+         "The list \"Color profile\" holds more than 30 entries."},
+    };
     QSignalSpy terminated(m_window.get(), &Controller::applicationShouldTerminate);
     const QByteArray before = CupsServerEnvironment::server().queuePpd("Fresh");
     for (const auto &[what, enter, shown, alert] : cases) {
@@ -392,7 +392,8 @@ QList<QWidget *> settingsControlsOn(QWidget *window, const Ui::MainUtilityWindiw
 
 // While a fetch or a save runs, what would re-enable a control when idle (a field's text
 // notification, the check boxes' toggles, typing) turns none on, and the progress says what
-// runs. Both tasks are held on a peer that is slow (the printer) or stopped (cupsd).
+// runs. Both tasks are held on a peer that is slow (the printer) or stopped (cupsd); Cancel
+// ends each at once, and the cancelled fetch changes no list.
 TEST_F(WindowTest, ATaskAloneDecidesTheControls) {
     openOnPrinter();
     m_c->macAddressText6->setText("cc");
@@ -413,10 +414,18 @@ TEST_F(WindowTest, ATaskAloneDecidesTheControls) {
         EXPECT_TRUE(m_c->cancelButton->isEnabled() && m_c->closeButton->isEnabled());
         toggle();
     };
+    const QStringList before = forms();
     m_printer.setResponseDelayMs(300);
+    QElapsedTimer sinceCancel;
     QTimer::singleShot(100, [&] { poke("Getting information from printer..."); });
-    click(m_c->formGetPrinterInfoButton);
+    QTimer::singleShot(450, [&] {
+        sinceCancel.start();
+        click(m_c->cancelButton);
+    });
+    click(m_c->printerGetPrinterInfoButton);
     m_printer.setResponseDelayMs(0);
+    EXPECT_LT(sinceCancel.elapsed(), 1000);
+    EXPECT_EQ(forms(), before);
     EXPECT_EQ(m_window->state(), Controller::State::Idle);
 
     const pid_t cupsd = pid_t(CupsServerEnvironment::server().pid());
@@ -431,35 +440,13 @@ TEST_F(WindowTest, ATaskAloneDecidesTheControls) {
     EXPECT_EQ(m_alerts, QStringList());
 }
 
-// Cancel ends a fetch at once; the lists keep what they had.
-TEST_F(WindowTest, CancelledFetchChangesNoList) {
-    openOnPrinter();
-    const QStringList before = forms();
-    m_printer.setResponseDelayMs(300);
-    QElapsedTimer sinceCancel;
-    QTimer::singleShot(450, [&] {
-        sinceCancel.start();
-        click(m_c->cancelButton);
-    });
-    click(m_c->printerGetPrinterInfoButton);
-    EXPECT_LT(sinceCancel.elapsed(), 1000);
-    EXPECT_EQ(forms(), before);
-    EXPECT_EQ(m_window->state(), Controller::State::Idle);
-    EXPECT_EQ(m_alerts, QStringList());
-}
-
 // Closing during Get Printer Info ends it at once, while the printer keeps quiet and while
 // the wake flow waits for a printer going to sleep (5 s between questions): no further
 // question to the printer, no alert but whether to drop the typed address.
 TEST_F(WindowTest, ClosingEndsAFetchAtOnce) {
-    const std::function<void()> waits[] = {[&] {
-                                               m_c->wakeOnLANCheck->setChecked(false);
-                                               m_printer.setSilent(true);
-                                           },
-                                           [&] {
-                                               m_c->macAddressText6->setText("cc");
-                                               m_printer.set(P::kSleepMode, 2L);
-                                           }};
+    const std::function<void()> waits[] = {
+        [&] { m_c->wakeOnLANCheck->setChecked(false), m_printer.setSilent(true); },
+        [&] { m_c->macAddressText6->setText("cc"), m_printer.set(P::kSleepMode, 2L); }};
     for (const auto &wait : waits) {
         openOnPrinter();
         wait();
@@ -577,35 +564,26 @@ TEST_F(WindowTest, OnlyTheNamedUsersSave) {
     EXPECT_GT(cups.lastJob(), jobsBefore);
 }
 
-// Answers the SNMP security dialog once it opens, until disarmed: fill sets
-// it up, then OK. The explanation says whether the window asked on its own.
-struct SecurityAnswer {
-    explicit SecurityAnswer(std::function<void(OVSnmpSecurityDialog *)> fill = {})
-        : fill(std::move(fill)) {}
-
-    std::function<void(OVSnmpSecurityDialog *)> fill;
-    bool armed = false;
-    bool asked = false;
-    QString explanation;
-
-    void arm() {
-        armed = true;
-        QTimer::singleShot(20, [this] {
-            auto *dialog = qobject_cast<OVSnmpSecurityDialog *>(QApplication::activeModalWidget());
-            if (!armed)
-                return;
-            if (!dialog)
-                return arm();
-            armed = false;
-            asked = true;
-            if (auto *label = dialog->findChild<QLabel *>("explanation"))
-                explanation = label->text();
-            if (fill)
-                fill(dialog);
-            dialog->accept();
-        });
-    }
-};
+// Runs action, answering the SNMP security dialog if it opens: fill sets it up, then OK. The
+// dialog's explanation, or nothing when the window did not ask.
+std::optional<QString> securityAsked(const std::function<void()> &action,
+                                     const std::function<void(OVSnmpSecurityDialog *)> &fill = {}) {
+    std::optional<QString> explanation;
+    QTimer poll;
+    QObject::connect(&poll, &QTimer::timeout, [&] {
+        auto *dialog = qobject_cast<OVSnmpSecurityDialog *>(QApplication::activeModalWidget());
+        if (!dialog || explanation)
+            return;
+        const auto *label = dialog->findChild<QLabel *>("explanation"); // when it asks itself
+        explanation = label ? label->text() : QString();
+        if (fill)
+            fill(dialog);
+        dialog->accept();
+    });
+    poll.start(20);
+    action();
+    return explanation;
+}
 
 void chooseV3(OVSnmpSecurityDialog *dialog, const char *user, const char *auth, const char *priv) {
     dialog->findChild<QRadioButton *>("snmpVersion3")->setChecked(true);
@@ -667,12 +645,11 @@ TEST_F(WindowTest, SnmpV3UserWithPassphrasesInTheSecretStore) {
     EXPECT_EQ(m_alerts, QStringList{"Failed to obtain information."}) << "v1 is off";
     m_alerts.clear();
 
-    SecurityAnswer choose([](OVSnmpSecurityDialog *dialog) {
-        chooseV3(dialog, P::kPrivUser, P::kAuthPassphrase, P::kPrivPassphrase);
-    });
-    choose.arm();
-    click(m_c->snmpSecurityButton);
-    EXPECT_TRUE(choose.asked);
+    EXPECT_TRUE(securityAsked([&] { click(m_c->snmpSecurityButton); },
+                              [](OVSnmpSecurityDialog *dialog) {
+                                  chooseV3(dialog, P::kPrivUser, P::kAuthPassphrase,
+                                           P::kPrivPassphrase);
+                              }));
     EXPECT_FALSE(m_c->snmpCommunityCheck->isEnabled());
     click(m_c->formGetPrinterInfoButton);
     EXPECT_EQ(m_alerts, QStringList());
@@ -692,13 +669,9 @@ TEST_F(WindowTest, SnmpV3UserWithPassphrasesInTheSecretStore) {
         EXPECT_FALSE(kept.contains(P::kAuthPassphrase) || kept.contains(P::kPrivPassphrase));
 
     // Reopened, the window finds the passphrases in the store without asking.
-    SecurityAnswer none;
     open("Secured");
     m_c->macAddressText6->setText("cc"); // a MAC to wake: the flow asks the sleep mode over v3
-    none.arm();
-    click(m_c->barcodeAreaDefinitionGetPrinterInfoButton);
-    EXPECT_FALSE(none.asked);
-    none.armed = false;
+    EXPECT_FALSE(securityAsked([&] { click(m_c->barcodeAreaDefinitionGetPrinterInfoButton); }));
     EXPECT_EQ(m_alerts, QStringList());
     EXPECT_EQ(m_window->barcodeAreaDefinitionTableViewDataSource()->getElementsArray(),
               secured.namesInUse(P::Table::BarcodeArea));
@@ -707,24 +680,21 @@ TEST_F(WindowTest, SnmpV3UserWithPassphrasesInTheSecretStore) {
     ASSERT_TRUE(OVSecretStore::write("127.0.0.5", P::kPrivUser, OVSecretStore::Part::Auth,
                                      "wrong-auth-phrase"));
     open("Secured");
-    OVAlert::setResponder([this](const OVAlert &alert) {
-        m_alerts << alert.informativeText();
-        return 0;
-    });
+    const AlertRecorder alerts(0, true);
     click(m_c->formGetPrinterInfoButton);
-    ASSERT_EQ(m_alerts.size(), 1);
-    EXPECT_TRUE(m_alerts[0].startsWith("The printer at 127.0.0.5 refused the authentication "
-                                       "passphrase"))
-        << m_alerts[0].toStdString();
+    ASSERT_EQ(alerts.size(), 1);
+    EXPECT_TRUE(alerts[0].contains("|The printer at 127.0.0.5 refused the authentication "
+                                   "passphrase"))
+        << alerts[0].toStdString();
     EXPECT_EQ(OVSecretStore::read("127.0.0.5", P::kPrivUser, OVSecretStore::Part::Auth),
               std::nullopt);
-    SecurityAnswer again([](OVSnmpSecurityDialog *dialog) {
-        type(dialog->findChild<QLineEdit *>("snmpAuthPassphrase"), P::kAuthPassphrase);
-    });
-    again.arm();
-    click(m_c->formGetPrinterInfoButton);
-    EXPECT_TRUE(again.explanation.contains("as the SNMPv3 user orvo_admin"));
-    EXPECT_EQ(m_alerts.size(), 1);
+    const auto explanation = securityAsked(
+        [&] { click(m_c->formGetPrinterInfoButton); },
+        [](OVSnmpSecurityDialog *dialog) {
+            type(dialog->findChild<QLineEdit *>("snmpAuthPassphrase"), P::kAuthPassphrase);
+        });
+    EXPECT_TRUE(explanation.value_or("").contains("as the SNMPv3 user orvo_admin"));
+    EXPECT_EQ(alerts.size(), 1);
     qInstallMessageHandler(before);
     QLoggingCategory::setFilterRules(QString());
     const QString log = [] {

@@ -1,3 +1,4 @@
+#include "OVChooserTexts.h"
 #include "OVLaunchEvent.h"
 #include "OVPrinterUtilityHelper.h"
 #include "OVStoredSettings.h"
@@ -31,11 +32,13 @@ TEST(Localization, SystemLanguageAndFolderFollowTheSystemVersion) {
     }
 }
 
-// Every text the window shows, the 100 default folder names included, has a
-// translation in every shipped language.
+// Every text the window, the queue chooser and the password prompt show, the 100 default folder
+// names included, has a translation in every shipped language.
 TEST(Localization, EveryLanguageHasEveryWindowKey) {
     QStringList keys;
     for (const char *key : OVWindowTexts::localizedKeys)
+        keys << key;
+    for (const char *key : OVChooserTexts::localizedKeys)
         keys << key;
     for (int n = 1; n <= OVStoredSettings::defaultFolderCount; ++n)
         keys << QString("Shared Folder %1").arg(n);

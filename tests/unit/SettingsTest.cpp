@@ -140,6 +140,16 @@ TEST(OrvoSNMPHelper, ArraysSkipEmptyAndIgnoredEntriesAndStopAtTheirLimit) {
                                     "SelSharedBoxIndex8 holds an index outside -1 to 99"}));
 }
 
+using Stored = std::map<std::string, std::string>;
+
+// Looks keywords up in stored, as the filter looks them up in the queue's PPD.
+OrvoSettingsCodec::Lookup lookupIn(const Stored &stored) {
+    return [&stored](const std::string &keyword) -> const char * {
+        const auto found = stored.find(keyword);
+        return found == stored.end() ? nullptr : found->second.c_str();
+    };
+}
+
 // Each input reaches its verdict, and what the rules accept reads back from the update job's
 // options exactly as it was given.
 TEST(OrvoSettingsRules, TheSettingsInputs) {
@@ -152,12 +162,8 @@ TEST(OrvoSettingsRules, TheSettingsInputs) {
         if (!verdict.ok())
             continue;
         const OrvoSettingsCodec::Options options = OrvoSettingsCodec::encode(snapshot.settings());
-        const std::map<std::string, std::string> sent(options.begin(), options.end());
-        const OrvoSettingsCodec::Decoded read =
-            OrvoSettingsCodec::decode([&](const std::string &keyword) -> const char * {
-                const auto found = sent.find(keyword);
-                return found == sent.end() ? nullptr : found->second.c_str();
-            });
+        const Stored sent(options.begin(), options.end());
+        const OrvoSettingsCodec::Decoded read = OrvoSettingsCodec::decode(lookupIn(sent));
         // A community that is not custom is not sent: the default reads back.
         OrvoSettings expected = snapshot.settings();
         expected.community = expected.customCommunity ? expected.community : K::defaultCommunity;
@@ -176,19 +182,16 @@ TEST(OrvoSettingsRules, TheSettingsInputs) {
 // A job's Wake-on-LAN and MAC address options are judged over what the queue stores: the result
 // may not be Wake-on-LAN on without a MAC address; a job that touches neither leaves the pair.
 TEST(OrvoSettingsRules, AJobIsJudgedOverTheStoredSettings) {
-    using Stored = std::map<std::string, std::string>;
     const std::string mac = OrvoSettingsCodec::encodeBase64("00:11:22:aa:bb:cc");
-    const struct {
-        const char *what;
-        std::vector<OrvoSettingsRules::JobOption> job;
-        Stored stored;
-        bool refused;
-    } jobs[] = {
+    const std::string partial = OrvoSettingsCodec::encodeBase64("00:11");
+    using Job = std::vector<OrvoSettingsRules::JobOption>;
+    // The job's options, what the queue stores, whether the job is refused.
+    const std::tuple<const char *, Job, Stored, bool> jobs[] = {
         {"WakeOnOverAStoredMac", {{K::IsWakeOnLan, "1"}}, {{K::PrinterMacAddress, mac}}, false},
         {"WakeOnOverNoMac", {{K::IsWakeOnLan, "1"}}, {}, true},
         {"WakeOnOverAMalformedMac",
          {{K::IsWakeOnLan, "1"}},
-         {{K::PrinterMacAddress, OrvoSettingsCodec::encodeBase64("00:11")}},
+         {{K::PrinterMacAddress, partial}},
          true},
         {"WakeOff", {{K::IsWakeOnLan, "0"}}, {}, false},
         {"MacClearedWithWakeOff", {{K::PrinterMacAddress, ""}}, {{K::IsWakeOnLan, "0"}}, false},
@@ -197,11 +200,7 @@ TEST(OrvoSettingsRules, AJobIsJudgedOverTheStoredSettings) {
     };
     for (const auto &[what, job, stored, refused] : jobs) {
         SCOPED_TRACE(what);
-        const auto refusal = OrvoSettingsRules::checkJob(
-            job, [&stored = stored](const std::string &keyword) -> const char * {
-                const auto found = stored.find(keyword);
-                return found == stored.end() ? nullptr : found->second.c_str();
-            });
+        const auto refusal = OrvoSettingsRules::checkJob(job, lookupIn(stored));
         EXPECT_EQ(refusal.has_value(), refused);
         EXPECT_EQ(refusal.value_or(OrvoSettingsRules::Refusal{}).keyword,
                   refused ? K::PrinterMacAddress : "");

@@ -2,6 +2,7 @@
 // keys, questions before something is dropped, messages that say why, MAC
 // entry, size, mnemonics, the chooser's choice and servers, the bar's notes.
 // They read private cupsd servers; nothing here reaches a printer.
+#include "AlertRecorder.h"
 #include "CupsServerEnvironment.h"
 #include "OVAlert.h"
 #include "OVFetchFailureText.h"
@@ -35,8 +36,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cups/cups.h>
-
 #include <csignal>
 
 [[maybe_unused]] const auto cupsd = ::testing::AddGlobalTestEnvironment(new CupsServerEnvironment);
@@ -44,33 +43,6 @@
 namespace {
 
 using Controller = OVPrinterUtilityWindowController;
-
-// Answers every alert with the button at `answer` and keeps its text.
-class Answering {
-public:
-    explicit Answering(int answer) {
-        OVAlert::setResponder([this, answer](const OVAlert &alert) {
-            m_texts << alert.text() + '|' + alert.informativeText();
-            return answer;
-        });
-    }
-    ~Answering() { OVAlert::setResponder({}); }
-    Answering(const Answering &) = delete;
-    Answering &operator=(const Answering &) = delete;
-    QStringList m_texts;
-};
-
-bool pause(const char *queue, bool paused) {
-    char uri[HTTP_MAX_URI];
-    httpAssembleURIf(HTTP_URI_CODING_ALL, uri, sizeof uri, "ipp", nullptr, "localhost", ippPort(),
-                     "/printers/%s", queue);
-    ipp_t *request = ippNewRequest(paused ? IPP_OP_PAUSE_PRINTER : IPP_OP_RESUME_PRINTER);
-    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr, uri);
-    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr,
-                 cupsUser());
-    ippDelete(cupsDoRequest(CUPS_HTTP_DEFAULT, request, "/admin/"));
-    return cupsLastError() <= IPP_STATUS_OK_CONFLICTING;
-}
 
 class DialogTest : public ::testing::Test {
 protected:
@@ -118,14 +90,14 @@ TEST_F(DialogTest, TitleNamesTheQueue) {
 }
 
 TEST_F(DialogTest, ReturnIsOkAndEscapeIsClose) {
-    Answering alerts(0);
+    AlertRecorder alerts;
     open();
     QTest::keyClick(m_c->printerIPAddressText, Qt::Key_Return);
     EXPECT_EQ(m_window->state(), Controller::State::Saving);
     m_window->cancelButtonClicked(m_c->cancelButton);
     open();
     EXPECT_TRUE(ends([&] { QTest::keyClick(m_c->printerIPAddressText, Qt::Key_Escape); }));
-    EXPECT_TRUE(alerts.m_texts.isEmpty()) << alerts.m_texts.join('\n').toStdString();
+    EXPECT_TRUE(alerts.isEmpty()) << alerts.join('\n').toStdString();
 }
 
 // Close and the window's own close button ask only when something changed,
@@ -143,16 +115,16 @@ TEST_F(DialogTest, ClosingAsksBeforeChangesAreDropped) {
                  {true, 1, false, 1, false},
                  {true, 1, true, 1, false}};
     for (const auto &c : cases) {
-        Answering alerts(c.answer);
+        AlertRecorder alerts(c.answer);
         open();
         if (c.change)
             QTest::keyClicks(m_c->printerIPAddressText, "192.0.2.1");
         QWidget *window = m_window->mainWindowObject();
         EXPECT_EQ(ends([&] { c.viaWindow ? void(window->close()) : m_c->closeButton->click(); }),
                   c.closes);
-        ASSERT_EQ(alerts.m_texts.size(), c.questions);
+        ASSERT_EQ(alerts.size(), c.questions);
         if (c.questions) {
-            EXPECT_TRUE(alerts.m_texts[0].startsWith("Discard the changes"));
+            EXPECT_TRUE(alerts[0].startsWith("Discard the changes"));
         }
         if (!c.closes) {
             EXPECT_TRUE(window->isVisible() && m_c->printerIPAddressText->text() == "192.0.2.1");
@@ -163,11 +135,11 @@ TEST_F(DialogTest, ClosingAsksBeforeChangesAreDropped) {
 // The alert keeps its message and says why as its informative text: the
 // window's own empty address, then each failure kind of a step.
 TEST_F(DialogTest, FetchFailureSaysWhy) {
-    Answering alerts(0);
+    AlertRecorder alerts(0, true);
     open();
     m_c->printerGetPrinterInfoButton->click();
-    EXPECT_EQ(alerts.m_texts, QStringList{"Failed to obtain information.|The IP address of the "
-                                          "printer is empty. Enter it, then try again."});
+    EXPECT_EQ(alerts, QStringList{"Failed to obtain information.|The IP address of the "
+                                  "printer is empty. Enter it, then try again."});
     using R = OVSNMPHelper::Reason;
     using S = OVPrinterInfoFetch::Step;
     constexpr auto v1 = OVSnmpCredentials::Version::V1;
@@ -206,20 +178,10 @@ TEST_F(DialogTest, FetchFailureSaysWhy) {
 TEST(SnmpSecurityDialog, OkOnlyForWhatCanBeAsked) {
     using Choice = OVSnmpSecurityDialog::Choice;
     const auto v3 = [](const char *user, const char *auth, const char *priv, const char *privPass) {
-        Choice choice;
-        choice.v3 = true;
-        choice.user = user;
-        choice.authProtocol = "SHA-512";
-        choice.authPassphrase = auth;
-        choice.privProtocol = priv;
-        choice.privPassphrase = privPass;
-        return choice;
+        return Choice{true, user, "SHA-512", priv, auth, privPass};
     };
-    const struct {
-        const char *label;
-        Choice choice;
-        bool beforeFetch, ok;
-    } cases[] = {
+    // The choice, whether the dialog opened before a fetch, whether OK is on.
+    const std::tuple<const char *, Choice, bool, bool> cases[] = {
         {"v1", Choice{}, true, true},
         {"noUser", v3("", "", "", ""), false, false},
         {"userAlone", v3("admin", "", "AES-128", ""), false, true},
@@ -229,20 +191,20 @@ TEST(SnmpSecurityDialog, OkOnlyForWhatCanBeAsked) {
         {"privPassphraseMissing", v3("admin", "12345678", "AES-256", ""), true, false},
         {"authPriv", v3("admin", "12345678", "DES", "12345678"), true, true},
     };
-    for (const auto &c : cases) {
-        SCOPED_TRACE(c.label);
-        OVSnmpSecurityDialog dialog(c.choice, c.beforeFetch ? "asked" : "", nullptr);
+    for (const auto &[label, choice, beforeFetch, enabled] : cases) {
+        SCOPED_TRACE(label);
+        OVSnmpSecurityDialog dialog(choice, beforeFetch ? "asked" : "", nullptr);
         auto *buttons = dialog.findChild<QDialogButtonBox *>();
         QAbstractButton *ok = buttons->buttons().first();
         for (QAbstractButton *button : buttons->buttons())
             if (buttons->buttonRole(button) == QDialogButtonBox::AcceptRole)
                 ok = button;
-        EXPECT_EQ(ok->isEnabled(), c.ok);
+        EXPECT_EQ(ok->isEnabled(), enabled);
         const Choice back = dialog.choice();
-        EXPECT_EQ(back.v3, c.choice.v3);
-        if (c.choice.v3) {
+        EXPECT_EQ(back.v3, choice.v3);
+        if (choice.v3) {
             EXPECT_EQ(QStringList({back.user, back.authProtocol, back.privProtocol}),
-                      QStringList({c.choice.user, "SHA-512", c.choice.privProtocol}));
+                      QStringList({choice.user, "SHA-512", choice.privProtocol}));
         }
     }
 }
@@ -250,13 +212,13 @@ TEST(SnmpSecurityDialog, OkOnlyForWhatCanBeAsked) {
 // A refused character is named with what is allowed; the text typed before
 // and after it stays.
 TEST_F(DialogTest, CommunityMessageNamesTheRefusedCharacter) {
-    Answering alerts(0);
+    AlertRecorder alerts(0, true);
     open();
     m_c->snmpCommunityCheck->click();
     m_c->snmpCommunityText->clear();
     QTest::keyClicks(m_c->snmpCommunityText, "ab#cd");
     EXPECT_EQ(m_c->snmpCommunityText->text(), "abcd");
-    EXPECT_EQ(alerts.m_texts,
+    EXPECT_EQ(alerts,
               QStringList{"The SNMP community name cannot contain \"#\".|It may hold the letters "
                           "A-Z and a-z, the digits 0-9 and these characters: , . / : ; @ [ \\ "
                           "\u00A5 ] ^ _"});
@@ -372,23 +334,23 @@ TEST_F(DialogTest, MnemonicsInEveryLanguage) {
 // The folder tab's Clear asks before it drops the registered folders; Cancel keeps them.
 TEST_F(DialogTest, FolderClearAsks) {
     for (const auto &[answer, kept] : {std::pair{1, true}, std::pair{0, false}}) {
-        Answering alerts(answer);
+        AlertRecorder alerts(answer);
         open();
         m_window->folderAddButtonClicked(nullptr);
         const QStringList before = m_window->selectedSharedBoxNames();
         m_c->folderClearButton->click();
-        EXPECT_EQ(alerts.m_texts.size(), 1);
+        EXPECT_EQ(alerts.size(), 1);
         EXPECT_EQ(m_window->selectedSharedBoxNames() == before, kept);
     }
 }
 
 // OK on a queue that is not set up says so and offers the bar's Set Up….
 TEST_F(DialogTest, OkOffersSetUp) {
-    Answering alerts(1);
+    AlertRecorder alerts(1);
     open("Bare");
     m_c->okButton->click();
-    ASSERT_EQ(alerts.m_texts.size(), 1);
-    EXPECT_TRUE(alerts.m_texts[0].startsWith("The print queue \"Bare\" is not set up"));
+    ASSERT_EQ(alerts.size(), 1);
+    EXPECT_TRUE(alerts[0].startsWith("The print queue \"Bare\" is not set up"));
     EXPECT_TRUE(QTest::qWaitFor([&] { return m_window->messageBar()->isHidden(); }, 60000));
     EXPECT_EQ(OVQueueSetup::state("Bare"), OVQueueSetup::State::SetUp);
 }
@@ -410,17 +372,25 @@ TEST_F(DialogTest, CancelEndsASetUp) {
     EXPECT_TRUE(m_window->messageBar()->actionButton()->isEnabled());
 }
 
+// Runs action (the chooser's start, say) and waits for the chooser to list a server's queues;
+// their names, sorted.
+QStringList listedQueues(OVQueueChooser &chooser, const std::function<void()> &action) {
+    QSignalSpy listed(&chooser, &OVQueueChooser::listed);
+    action();
+    EXPECT_TRUE(listed.wait(30000));
+    QStringList names;
+    for (int row = 0; row < chooser.queueTable()->model()->rowCount(); ++row)
+        names << chooser.queueTable()->model()->index(row, 0).data().toString();
+    names.sort();
+    return names;
+}
+
 // The chooser preselects the server's default queue, else the first set-up
 // one, and says when the filter matches nothing.
 TEST_F(DialogTest, ChooserPreselectsAndSaysWhenNothingMatches) {
-    const auto openChooser = [](OVQueueChooser &chooser) {
-        QSignalSpy listed(&chooser, &OVQueueChooser::listed);
-        chooser.start();
-        EXPECT_TRUE(listed.wait(30000));
-    };
     {
         OVQueueChooser chooser;
-        openChooser(chooser);
+        listedQueues(chooser, [&] { chooser.start(); });
         const QAbstractItemModel *rows = chooser.queueTable()->model();
         QString firstSetUp;
         for (int row = rows->rowCount() - 1; row >= 0; --row)
@@ -440,7 +410,7 @@ TEST_F(DialogTest, ChooserPreselectsAndSaysWhenNothingMatches) {
     }
     ASSERT_TRUE(CupsServerEnvironment::server().lpadmin({"-d", "Plain"}));
     OVQueueChooser chooser;
-    openChooser(chooser);
+    listedQueues(chooser, [&] { chooser.start(); });
     EXPECT_EQ(chooser.chosenQueue(), "Plain");
 }
 
@@ -450,20 +420,8 @@ TEST_F(DialogTest, ChooserPreselectsAndSaysWhenNothingMatches) {
 TEST_F(DialogTest, ChooserConnectsToAnotherServerAndRemembersIt) {
     QTemporaryDir home;
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, home.path());
-    CupsServer::Options options;
-    options.clientsUseIt = false;
-    CupsServer other(QStringLiteral(ORVO_PPD_UPDATE_FILTER), options);
+    CupsServer other(QStringLiteral(ORVO_PPD_UPDATE_FILTER), {.clientsUseIt = false});
     ASSERT_TRUE(other.isRunning() && other.addQueue("Remote") && other.addQueue("Annex"));
-    const auto listedQueues = [](OVQueueChooser &chooser, const std::function<void()> &action) {
-        QSignalSpy listed(&chooser, &OVQueueChooser::listed);
-        action();
-        EXPECT_TRUE(listed.wait(30000));
-        QStringList names;
-        for (int row = 0; row < chooser.queueTable()->model()->rowCount(); ++row)
-            names << chooser.queueTable()->model()->index(row, 0).data().toString();
-        names.sort();
-        return names;
-    };
     {
         OVQueueChooser chooser;
         EXPECT_TRUE(listedQueues(chooser, [&] { chooser.start(); }).contains("Office"));
@@ -502,10 +460,11 @@ TEST_F(DialogTest, AddressSuggestedFromTheDeviceUri) {
     EXPECT_EQ(m_c->printerIPAddressText->text(), "192.0.2.10");
     EXPECT_TRUE(bar->isHidden());
     // A stopped queue says so first.
-    ASSERT_TRUE(pause("Office", true));
+    ASSERT_EQ(SpawnedProcess::execute("cupsdisable", {"Office"}), 0);
     open();
     EXPECT_TRUE(m_window->messageBar()->text().contains("is stopped"));
-    ASSERT_TRUE(pause("Office", false) && cups.lpadmin({"-p", "Office", "-v", "file:/dev/null"}));
+    ASSERT_EQ(SpawnedProcess::execute("cupsenable", {"Office"}), 0);
+    ASSERT_TRUE(cups.lpadmin({"-p", "Office", "-v", "file:/dev/null"}));
 }
 
 TEST(AlertTitle, IsTheApplicationsDisplayName) {
