@@ -3,7 +3,6 @@
 #include "OVCommandLine.h"
 #include "OVCupsConnection.h"
 #include "OVQueueSetup.h"
-#include "OVSaveTask.h"
 #include "OVSettingsFields.h"
 #include "OVSettingsSave.h"
 #include "OVStoredSettings.h"
@@ -297,7 +296,7 @@ int OVQueueCommands::save(const QCommandLineParser &parser, bool json) {
         error = OVSettingsFields::apply(parser, settings);
     if (!error.isEmpty())
         return OVCommandLine::fail(Exit::Usage, error);
-    const OVSaveTask::Outcome task = OVSaveTask::run(settings, queue, false);
+    const OVSettingsSave::Outcome task = OVSettingsSave::save(settings, queue, false);
     // A value the settings' rules refuse is a usage error; settings each
     // well formed that the PPD or one update job cannot carry are refused.
     if (const OrvoSettingsVerdict &verdict = task.verdict; !verdict.ok())

@@ -1,5 +1,6 @@
 #include "OVSettingsSave.h"
 
+#include "OVCoreLogging.h"
 #include "OVCupsConnection.h"
 #include "OrvoSNMPHelper.h"
 #include "OrvoSettingsCodec.h"
@@ -26,6 +27,15 @@ QStringList missingFrom(ppd_file_t *ppd, const OVSettingsSnapshot &sent) {
 
 OVSettingsSave::Outcome OVSettingsSave::save(const OVSettingsSnapshot &settings,
                                              const QString &queue, bool sendUnchanged) {
+    const Outcome outcome = attempt(settings, queue, sendUnchanged);
+    qCDebug(orvoCore) << "save to" << queue << "queue state:" << int(outcome.queue)
+                      << "user may save:" << outcome.userMaySave << "result:" << int(outcome.result)
+                      << "job:" << outcome.jobId;
+    return outcome;
+}
+
+OVSettingsSave::Outcome OVSettingsSave::attempt(const OVSettingsSnapshot &settings,
+                                                const QString &queue, bool sendUnchanged) {
     Outcome outcome;
     outcome.verdict = settings.check();
     if (!outcome.verdict.ok())

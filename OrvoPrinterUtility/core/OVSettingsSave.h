@@ -17,7 +17,8 @@
 // waited for, and the queue's PPD read back. Nothing is sent that a rule refuses, whoever asks. A
 // save is only reported as stored when the PPD holds every value that was sent, so that neither the
 // window nor the command line ever claims a save that the server dropped, printed, or left half
-// written.
+// written. The window's OK and the command line's `save` both run it; it blocks on the print
+// server within the calling thread's task (OVTaskToken): one limit for all of it, and a cancel.
 class OVSettingsSave {
 public:
     enum class Result {
@@ -68,6 +69,8 @@ public:
     static bool serverLost(ipp_status_t refusal);
 
 private:
+    static Outcome attempt(const OVSettingsSnapshot &settings, const QString &queue,
+                           bool sendUnchanged);
     // The newest update job of the queue after jobId that completed; 0: none.
     static int laterUpdateJob(const QString &queue, int jobId);
     static void readBack(Outcome &outcome, const OVSettingsSnapshot &settings,

@@ -161,7 +161,7 @@ void OVPrinterUtilityWindowController::saveOptionsToPPD() {
     startTask(
         State::Saving,
         [settings = settingsSnapshot(), queue = m_printerId] {
-            return OVSaveTask::run(settings, queue);
+            return OVSettingsSave::save(settings, queue);
         },
         [this](const OVWindowSave::Outcome &outcome) { saved(outcome); });
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "OVSaveTask.h"
+#include "OVSettingsSave.h"
 #include "OVSettingsSnapshot.h"
 #include "OrvoSettingsVerdict.h"
 
@@ -8,11 +8,11 @@
 
 #include <string_view>
 
-// What became of OK's save (OVSaveTask), in words the user can act on. The
+// What became of OK's save (OVSettingsSave), in words the user can act on. The
 // window closes only on a save that stored every setting.
 class OVWindowSave {
 public:
-    using Outcome = OVSaveTask::Outcome;
+    using Outcome = OVSettingsSave::Outcome;
 
     // What became of a save that did not store, in the user's language.
     // Nothing was sent unless the queue was found set up.
