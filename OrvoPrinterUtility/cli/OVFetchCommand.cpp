@@ -219,7 +219,7 @@ int OVFetchCommand::run(const QCommandLineParser &parser, bool json) {
     const OVSnmpCredentials &snmp = std::get<OVSnmpCredentials>(asked);
     if (parser.isSet(wakeOption)) {
         // The wake flow would wait out its polls on a name that names no one.
-        if (OVSNMPHelper::unknownHost(address.toUtf8().constData()))
+        if (!OVSNMPHelper::resolve(address.toUtf8().constData()).value)
             return unknownHost(address);
         if (!wake(address, snmp, parser))
             return silent(address, "it did not wake up", snmp);

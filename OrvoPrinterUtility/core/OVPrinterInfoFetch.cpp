@@ -21,8 +21,9 @@ Outcome reachable(const Fetch::Printer &printer) {
         return std::nullopt;
     // The wake flow would wait out all its polls on a name that names no
     // printer, and then say only that nothing woke up.
-    if (Outcome unknown = H::unknownHost(printer.address.toUtf8().constData()))
-        return unknown;
+    if (const H::Reading<QByteArray> host = H::resolve(printer.address.toUtf8().constData());
+        !host.value)
+        return host.failure;
     if (!Fetch::wake(printer.address, *printer.wake))
         return H::Failure{Reason::NoAnswer, QStringLiteral("it did not wake up")};
     return std::nullopt;

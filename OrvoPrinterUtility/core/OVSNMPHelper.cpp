@@ -353,10 +353,13 @@ Answer exchange(const char *address, const OVSnmpCredentials &credentials, Sessi
     OVSNMPHelper::PeerName peerName;
     if (!OVSNMPHelper::getConvertedAddress(peerName, address))
         return {};
-    if (const std::optional<Failure> unknown = OVSNMPHelper::unknownHost(address)) {
-        qCInfo(orvoCore) << "SNMP request to" << address << "not sent:" << unknown->detail;
-        return {kNoSession, false, {std::nullopt, *unknown}, {}, 0};
+    const OVSNMPHelper::Reading<QByteArray> host = OVSNMPHelper::resolve(address);
+    if (!host.value) {
+        qCInfo(orvoCore) << "SNMP request to" << address << "not sent:" << host.failure.detail;
+        return {kNoSession, false, {std::nullopt, host.failure}, {}, 0};
     }
+    if (!OVSNMPHelper::getConvertedAddress(peerName, host.value->constData()))
+        return {};
     netsnmp_session record = sessionRecord(peerName, settings);
     if (credentials.version() == OVSnmpCredentials::Version::V3)
         return exchangeV3(address, record, credentials, names, expected);
@@ -586,19 +589,31 @@ bool OVSNMPHelper::getConvertedAddress(PeerName &peerName, const char *sourceAdd
     return true;
 }
 
-// Net-SNMP looks the name up again when its session opens; a name that was
-// known a moment before and no longer is reads there as a silent printer.
-std::optional<Failure> OVSNMPHelper::unknownHost(const char *address) {
+// The session is opened on the numeric address found here: a name costs one
+// lookup per request rather than two, and the request goes to the address
+// that was checked, not to what a second lookup answers a moment later.
+OVSNMPHelper::Reading<QByteArray> OVSNMPHelper::resolve(const char *address) {
     addrinfo hints{};
     hints.ai_socktype = SOCK_DGRAM;
     addrinfo *found = nullptr;
-    const int error = getaddrinfo(withoutBrackets(address).constData(), nullptr, &hints, &found);
-    if (found)
+    int error = getaddrinfo(withoutBrackets(address).constData(), nullptr, &hints, &found);
+    char numeric[NI_MAXHOST] = {};
+    if (error == 0) {
+        const addrinfo *chosen = found;
+        for (const addrinfo *each = found; each; each = each->ai_next)
+            if (each->ai_family == AF_INET) {
+                chosen = each;
+                break;
+            }
+        error = getnameinfo(chosen->ai_addr, chosen->ai_addrlen, numeric, sizeof numeric, nullptr,
+                            0, NI_NUMERICHOST);
         freeaddrinfo(found);
+    }
     if (error == 0)
-        return std::nullopt;
-    return Failure{Reason::UnknownHost, QStringLiteral("no host is known as that name (%1)")
-                                            .arg(QString::fromLocal8Bit(gai_strerror(error)))};
+        return {QByteArray(numeric), {}};
+    return {std::nullopt,
+            Failure{Reason::UnknownHost, QStringLiteral("no host is known as that name (%1)")
+                                             .arg(QString::fromLocal8Bit(gai_strerror(error)))}};
 }
 
 QByteArray OVSNMPHelper::withoutBrackets(const QByteArray &address) {

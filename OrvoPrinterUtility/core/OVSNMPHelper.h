@@ -137,12 +137,12 @@ public:
     // pair of enclosing brackets, which the peer name adds back itself.
     // False, with an empty peer name, when the result would not fit.
     static bool getConvertedAddress(PeerName &peerName, const char *sourceAddr);
-    // Why nothing can be sent to an address: a host name that the system's
-    // resolver does not know (detail: the resolver's words). An address
-    // literal, bracketed or not, resolves without asking anyone. Every query
-    // asks this before it opens a session, so an unknown name fails at once
-    // with its own reason instead of reading as a silent printer.
-    static std::optional<Failure> unknownHost(const char *address);
+    // The numeric address a query is sent to: an address literal (bracketed
+    // or not) as it is, a host name as the system's resolver knows it, IPv4
+    // where it has both. A name the resolver does not know fails with
+    // UnknownHost (detail: the resolver's words) before anything is sent, so
+    // it does not read as a silent printer.
+    static Reading<QByteArray> resolve(const char *address);
     // The address without one pair of enclosing brackets, if it has them.
     static QByteArray withoutBrackets(const QByteArray &address);
 };

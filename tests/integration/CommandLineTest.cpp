@@ -6,6 +6,7 @@
 #include "SettingsInputs.h"
 #include "SimulatedPrinter.h"
 #include "SpawnedProcess.h"
+#include "TestNetworkNamespaces.h"
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -14,6 +15,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QScopeGuard>
 #include <QTest>
 
 namespace {
@@ -163,6 +165,32 @@ TEST(CommandLine, UnknownHostIsAUsageError) {
         EXPECT_TRUE(run.shown.contains("--address: no host is known as \"printer.invalid\"\n"))
             << run.shown.toStdString();
     }
+}
+
+// A printer known by a host name that has only an IPv6 address answers: the query goes to the
+// address the resolver gave, where Net-SNMP's own lookup would look for IPv4 alone. The name is
+// in the client namespace's hosts file, which `ip netns exec` puts over /etc/hosts.
+TEST(CommandLine, AHostNameWithOnlyAnIPv6AddressReachesItsPrinter) {
+    TestNetworkNamespaces namespaces;
+    QString error;
+    ASSERT_TRUE(namespaces.create(&error)) << error.toStdString();
+    SimulatedPrinter printer({.listen = "udp:161,udp6:161",
+                              .netns = namespaces.printer,
+                              .counterPeer = "udp:127.0.0.1:161",
+                              .source4 = "default"});
+    ASSERT_TRUE(printer.start()) << printer.errorText().toStdString();
+    printer.setDefaults();
+    const QDir hosts("/etc/netns/" + namespaces.client);
+    ASSERT_TRUE(hosts.mkpath("."));
+    const auto removeHosts = qScopeGuard([&] {
+        QDir(hosts).removeRecursively();
+        QDir("/etc").rmdir("netns"); // only when no other namespace has a folder there
+    });
+    CupsServer::writeFile(hosts.filePath("hosts"),
+                          QByteArray(TestNetworkNamespaces::kPrinterULA) + " printer6.test\n");
+    const CommandLineRun run("ip", {"netns", "exec", namespaces.client, ORVO_CLI, "fetch",
+                                    "--address", "printer6.test"});
+    EXPECT_TRUE(run.endedWith(0, "macAddress: 00:11:22:aa:bb:cc\n"));
 }
 
 // What each command takes: the version, options only where they act, one documented spelling
