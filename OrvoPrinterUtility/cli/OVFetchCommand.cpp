@@ -5,7 +5,6 @@
 #include "OVSleep.h"
 #include "OVSnmpSecrets.h"
 #include "OVTaskToken.h"
-#include "OVWakeOnLanHelper.h"
 #include "OrvoSettingsKeywords.h"
 #include "OrvoSettingsRules.h"
 
@@ -13,6 +12,7 @@
 #include <QJsonObject>
 #include <QRegularExpression>
 
+#include <algorithm>
 #include <optional>
 #include <variant>
 
@@ -139,22 +139,26 @@ QString listText(const char *title, const QStringList &items) {
     return text;
 }
 
-bool wake(const QString &address, const OVSnmpCredentials &credentials,
-          const QCommandLineParser &parser) {
-    // The wake flow waits whole seconds between its tries; show that on a terminal.
+// With --wake, the fetch runs the wake flow before its queries, as the
+// window's does; --mac-address was checked to hold six octets.
+std::optional<OVPrinterInfoFetch::Wake> wakeFirst(const QCommandLineParser &parser,
+                                                  const OVSnmpCredentials &credentials) {
+    if (!parser.isSet(wakeOption))
+        return std::nullopt;
+    OVPrinterInfoFetch::Wake wake{true, {}, credentials, parser.isSet(routerOption)};
+    const QStringList octets = parser.value(macOption).replace('-', ':').split(':');
+    std::copy_n(octets.begin(), wake.macAddressFields.size(), wake.macAddressFields.begin());
+    return wake;
+}
+
+// The wake flow waits whole seconds between its tries; show that on a terminal.
+void showWakeWaits() {
     OVSleep::setSleeper([](unsigned seconds) {
         OVCommandLine::progress(
             QStringLiteral("Waiting %1 s for the printer to wake up...").arg(seconds));
         if (const auto task = OVTaskToken::current())
             task->sleepFor(std::chrono::seconds(seconds));
     });
-    // The wake flow reads the octets between colons.
-    const QString mac = parser.value(macOption).replace('-', ':');
-    const bool awake = OVWakeOnLanHelper::SnmpWakeUpOnLan(address, mac, credentials, true,
-                                                          parser.isSet(routerOption));
-    OVCommandLine::progress(QString());
-    OVSleep::setSleeper({});
-    return awake;
 }
 
 void print(const QString &address, const OVPrinterInfoFetch::Result &fetched, bool json) {
@@ -217,15 +221,11 @@ int OVFetchCommand::run(const QCommandLineParser &parser, bool json) {
     if (const int *exit = std::get_if<int>(&asked))
         return *exit;
     const OVSnmpCredentials &snmp = std::get<OVSnmpCredentials>(asked);
-    if (parser.isSet(wakeOption)) {
-        // The wake flow would wait out its polls on a name that names no one.
-        if (!OVSNMPHelper::resolve(address.toUtf8().constData()).value)
-            return unknownHost(address);
-        if (!wake(address, snmp, parser))
-            return silent(address, "it did not wake up", snmp);
-    }
-    const OVPrinterInfoFetch::Result fetched =
-        OVPrinterInfoFetch::fetch({address, snmp, std::nullopt}, OVPrinterInfoFetch::allSteps);
+    showWakeWaits();
+    const OVPrinterInfoFetch::Result fetched = OVPrinterInfoFetch::fetch(
+        {address, snmp, wakeFirst(parser, snmp)}, OVPrinterInfoFetch::allSteps);
+    OVCommandLine::progress(QString());
+    OVSleep::setSleeper({});
     if (fetched.failedStep)
         return fetchFailure(address, *fetched.failedStep, snmp);
     print(address, fetched, json);
